@@ -1,0 +1,51 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace gns {
+
+/// A failure whose whole message was composed by the thrower.
+class Xerror_msg : public std::logic_error {
+ public:
+  explicit Xerror_msg(const std::string& text);
+  ~Xerror_msg() noexcept override;
+};
+
+/// Something went wrong with an input file; the common base of the reading errors.
+/// The message of `what` lives as long as the object.
+class Xep_read_file : public std::logic_error {
+ public:
+  Xep_read_file();
+  explicit Xep_read_file(const std::string& file);
+  ~Xep_read_file() noexcept override;
+  [[nodiscard]] const char* what() const noexcept override;
+
+  std::string file_name;
+
+ protected:
+  Xep_read_file(const std::string& file, std::string message);
+
+ private:
+  std::string message_;
+};
+
+/// The input file can't be opened.
+class Xep_file_not_found : public Xep_read_file {
+ public:
+  explicit Xep_file_not_found(const std::string& file);
+  ~Xep_file_not_found() noexcept override;
+};
+
+/// A line of an input file can't be read.
+class Xep_wrong_line : public Xep_read_file {
+ public:
+  /// For a reader that doesn't know the name of its file.
+  explicit Xep_wrong_line(const std::string& line);
+  Xep_wrong_line(const std::string& line, const std::string& file);
+  ~Xep_wrong_line() noexcept override;
+
+  std::string wrong_line;
+};
+
+}  // namespace gns
