@@ -1,0 +1,162 @@
+#include "foundation/Direktoriz.h"
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+#include "foundation/Dir_error.h"
+#include "foundation/Errors.h"
+
+namespace gns {
+
+namespace {
+
+constexpr off_t empty_dir_size = 48;
+constexpr mode_t new_dir_mode = 0755;
+
+bool Is_there_such(const std::string& wanted_type, const std::string& path, bool& empty,
+                   std::string& error_text) {
+  std::string type;
+  if (!Is_there_such_path(path, type, empty, error_text)) return false;
+  if (type == wanted_type) return true;
+  error_text = "The path " + path + " is a " + type + ".";
+  return false;
+}
+
+/// Everything in a directory, sorted; "." and ".." too.
+std::vector<std::string> Scan_dir(const std::string& path) {
+  dirent** entries = nullptr;
+  const int count = scandir(path.c_str(), &entries, nullptr, alphasort);
+  if (count < 0) {
+    const int error = errno;
+    throw Xerror_msg("ERROR: List_dir() -> scandir() called on " + path + " and\n" +
+                     Dir_error(error));
+  }
+  std::vector<std::string> names;
+  for (int i = 0; i < count; ++i) {
+    names.emplace_back(entries[i]->d_name);
+    std::free(entries[i]);
+  }
+  std::free(entries);
+  return names;
+}
+
+}  // namespace
+
+bool Is_there_such_path(const std::string& path, std::string& type, bool& empty,
+                        std::string& error_text) {
+  empty = true;
+  type = "other";
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) {
+    error_text = Dir_error(errno);
+    return false;
+  }
+  if (S_ISREG(status.st_mode)) {
+    type = "file";
+    empty = status.st_size == 0;
+  } else if (S_ISDIR(status.st_mode)) {
+    type = "dir";
+    empty = status.st_size == empty_dir_size;
+  }
+  return true;
+}
+
+bool Is_there_such_path(const std::string& path, std::string& error_text) {
+  std::string type;
+  bool empty = true;
+  return Is_there_such_path(path, type, empty, error_text);
+}
+
+bool Is_there_such_path(const std::string& path) {
+  std::string error_text;
+  return Is_there_such_path(path, error_text);
+}
+
+bool Is_there_such_dir(const std::string& path, bool& empty, std::string& error_text) {
+  return Is_there_such("dir", path, empty, error_text);
+}
+
+bool Is_there_such_dir(const std::string& path) {
+  bool empty = true;
+  std::string error_text;
+  return Is_there_such_dir(path, empty, error_text);
+}
+
+bool Is_there_such_file(const std::string& path, bool& empty, std::string& error_text) {
+  return Is_there_such("file", path, empty, error_text);
+}
+
+bool Is_there_such_file(const std::string& path) {
+  bool empty = true;
+  std::string error_text;
+  return Is_there_such_file(path, empty, error_text);
+}
+
+std::vector<Dir_entry> List_dir(const std::string& path) {
+  bool empty = true;
+  std::string error_text;
+  if (!Is_there_such_dir(path, empty, error_text)) {
+    throw Xerror_msg("ERROR: List_dir() called on " + path + " and\n" + error_text);
+  }
+  if (empty) return {};
+
+  std::vector<Dir_entry> listing;
+  for (const std::string& name : Scan_dir(path)) {
+    if (name == "." || name == "..") continue;
+    std::string type;
+    if (!Is_there_such_path(path + "/" + name, type, empty, error_text)) {
+      throw Xerror_msg("ERROR: problem with " + name + " in List_dir():\n" + error_text);
+    }
+    listing.emplace_back(name, type);
+  }
+  return listing;
+}
+
+void Rename_the_path(const std::string& old_path, const std::string& new_path) {
+  if (std::rename(old_path.c_str(), new_path.c_str()) == 0) return;
+  const int error = errno;
+  throw Xerror_msg("ERROR: Rename_the_path() called with " + old_path + " and " + new_path +
+                   " and \n" + Dir_error(error));
+}
+
+void Rename_auto(const std::string& path) {
+  std::string candidate;
+  for (unsigned n = 1; candidate.empty() || Is_there_such_path(candidate); ++n) {
+    candidate = path + std::to_string(n);
+  }
+  Rename_the_path(path, candidate);
+}
+
+void Dir_prepare(const std::string& path, const std::string& flag) {
+  if (flag != "keep") {
+    throw Xerror_msg("ERROR: Dir_prepare() called with unknown flag '" + flag + "'");
+  }
+  if (!Is_there_such_path(path)) {
+    Make_dir(path);
+  } else if (!Is_there_such_dir(path)) {
+    Rename_auto(path);
+    Make_dir(path);
+  }
+}
+
+void Make_dir(const std::string& path) {
+  for (std::size_t piece_end = 0; piece_end < path.size();) {
+    piece_end = std::min(path.find('/', piece_end), path.size() - 1) + 1;
+    std::string partial = path.substr(0, piece_end);
+    if (partial.size() > 1 && partial.ends_with('/')) partial.pop_back();
+    if (Is_there_such_path(partial)) continue;
+    if (mkdir(partial.c_str(), new_dir_mode) == 0) continue;
+    const int error = errno;
+    // Somebody else may have made it in between.
+    if (error == EEXIST && Is_there_such_dir(partial)) continue;
+    throw Xerror_msg("ERROR: Make_dir() called with " + partial + " and \n" + Dir_error(error));
+  }
+}
+
+}  // namespace gns
