@@ -17,10 +17,14 @@ std::string_view Extract_word(std::string_view& text) {
   return word;
 }
 
-std::string trim(std::string_view text, std::string_view characters) {
+std::string_view Trimmed(std::string_view text, std::string_view characters) {
   const std::size_t first = text.find_first_not_of(characters);
   if (first == std::string_view::npos) return {};
-  return std::string(text.substr(first, text.find_last_not_of(characters) - first + 1));
+  return text.substr(first, text.find_last_not_of(characters) - first + 1);
+}
+
+std::string trim(std::string_view text, std::string_view characters) {
+  return std::string(Trimmed(text, characters));
 }
 
 }  // namespace gns

@@ -15,7 +15,10 @@ void Skip_space(std::string_view& text);
 /// NUL bytes are ordinary characters.
 std::string_view Extract_word(std::string_view& text);
 
-/// `text` without the characters of the set `characters` at its two ends.
+/// The part of `text` that is left without the characters of the set `characters` at its two ends.
+std::string_view Trimmed(std::string_view text, std::string_view characters);
+
+/// The same as a copy.
 std::string trim(std::string_view text, std::string_view characters);
 
 }  // namespace gns

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+#include <string>
+
+/// The channel between a run and the threads that watch it: a run pushes its state report and
+/// polls the stop flag; any other thread pulls reports and may ask for a stop at any moment.
+namespace external_control {
+
+/// A state report that is composed when it is read. Text() is called from any thread.
+class Report {
+ public:
+  virtual ~Report() = default;
+  [[nodiscard]] virtual std::string Text() const = 0;
+};
+
+/// A text variable that one thread replaces while others copy it: a reader gets the old text or
+/// the new one, whole. The lock is held for a pointer copy only.
+class Report_variable {
+ public:
+  Report_variable& operator=(std::string text);
+  Report_variable& operator=(std::shared_ptr<const Report> report);
+  [[nodiscard]] std::string Text() const;
+
+ private:
+  mutable std::mutex lock_;
+  std::shared_ptr<const Report> report_;
+};
+
+extern std::atomic<bool> STOP_CURRENT_PROCESS;
+extern Report_variable CURRENT_STATE_REPORT;
+extern Report_variable ERROR_MESSAGE;  ///< no stage writes it: always empty
+extern Report_variable JAVA_CPP_TRANSLATE_STATE_REPORT;
+
+/// Set by a host that wants a stop to be honoured inside the long stages too (percolation, writing
+/// of one k), where by default it waits for the next stage.
+extern std::atomic<bool> STOP_INSIDE_LONG_STAGES;
+
+/// Assigns the report of a stop and throws std::logic_error("Process stopped by user.\n").
+[[noreturn]] void End_by_stop();
+
+/// Returns while no stop is asked for; otherwise ends the run by an exception.
+inline void Check_for_stop_signal() {
+  if (STOP_CURRENT_PROCESS.load(std::memory_order_relaxed)) [[unlikely]] End_by_stop();
+}
+
+/// The poll of the long stages: does nothing unless STOP_INSIDE_LONG_STAGES is set.
+inline void Check_inside_long_stage() {
+  if (STOP_INSIDE_LONG_STAGES.load(std::memory_order_relaxed)) Check_for_stop_signal();
+}
+
+}  // namespace external_control
+
+namespace gns {
+
+/// Asks the run that is going on to end at its next poll; returns at once. Callable from any
+/// thread and from a signal handler.
+void Stop_process();
+
+/// Takes a stop request back. Nothing else does, so a host calls it before the next run.
+void Reset_stop_process();
+
+/// The latest state report; empty before the first run.
+std::string Read_state_report();
+
+/// Always empty: failures travel in the message of the run.
+std::string Read_error_message();
+
+}  // namespace gns

@@ -1,0 +1,86 @@
+#include "foundation/Text_writer.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <charconv>
+#include <cstring>
+#include <utility>
+
+#include "foundation/File_faults.h"
+
+namespace gns {
+
+Text_writer::Text_writer(std::string path)
+    : path_(std::move(path)), buffer_(new char[capacity]) {
+  constexpr mode_t mode = 0666;
+  file_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, mode);
+  if (file_ < 0) Fail("open");
+}
+
+Text_writer::~Text_writer() { Close(); }
+
+Text_writer& Text_writer::operator<<(std::string_view text) {
+  if (text.size() > capacity - used_) {
+    Flush();
+    if (text.size() > capacity) {
+      Write_block(text.data(), text.size());
+      return *this;
+    }
+  }
+  std::memcpy(buffer_.get() + used_, text.data(), text.size());
+  used_ += text.size();
+  return *this;
+}
+
+Text_writer& Text_writer::operator<<(char c) {
+  if (used_ == capacity) Flush();
+  buffer_[used_++] = c;
+  return *this;
+}
+
+Text_writer& Text_writer::Write_integer(std::int64_t value) {
+  if (capacity - used_ < longest_number) Flush();
+  const auto result =
+      std::to_chars(buffer_.get() + used_, buffer_.get() + capacity, value);
+  used_ = static_cast<std::size_t>(result.ptr - buffer_.get());
+  return *this;
+}
+
+Text_writer& Text_writer::operator<<(double value) {
+  constexpr int significant_digits = 6;
+  if (capacity - used_ < longest_number) Flush();
+  const auto result = std::to_chars(buffer_.get() + used_, buffer_.get() + capacity, value,
+                                    std::chars_format::general, significant_digits);
+  used_ = static_cast<std::size_t>(result.ptr - buffer_.get());
+  return *this;
+}
+
+bool Text_writer::Close() {
+  Flush();
+  if (file_ >= 0 && ::close(std::exchange(file_, -1)) != 0) Fail("close");
+  return whole_;
+}
+
+void Text_writer::Flush() { Write_block(buffer_.get(), std::exchange(used_, 0)); }
+
+void Text_writer::Write_block(const char* data, std::size_t size) {
+  while (size > 0 && file_ >= 0) {
+    const ssize_t written = ::write(file_, data, size);
+    if (written >= 0) {
+      data += written;
+      size -= static_cast<std::size_t>(written);
+    } else if (errno != EINTR) {
+      Fail("write");
+    }
+  }
+}
+
+void Text_writer::Fail(const char* action) {
+  Note_file_fault(path_, action, errno);
+  whole_ = false;
+  if (file_ >= 0) ::close(std::exchange(file_, -1));
+}
+
+}  // namespace gns

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "graph/Node_set.h"
+
+namespace gns {
+
+/// For each node 1..n a row of node indices, all rows one behind the other in one array.
+class Adjacency {
+ public:
+  Adjacency() = default;
+
+  /// Builds the rows in two passes over `source`. `expand(item, enter)` calls enter(node, member)
+  /// for each member that the item gives; members stand in a row in the order of entering.
+  template <typename Source, typename Expand>
+  Adjacency(Node_index node_count, const Source& source, Expand expand)
+      : starts_(std::size_t{node_count} + 2, 0) {
+    const auto for_all = [&](auto&& enter) {
+      for (const auto& item : source) expand(item, enter);
+    };
+    for_all([this](Node_index node, Node_index) { ++starts_[node + 1]; });
+    for (std::size_t i = 1; i < starts_.size(); ++i) starts_[i] += starts_[i - 1];
+    members_.resize(starts_.back());
+    std::vector<std::size_t> place(starts_.begin(), starts_.end() - 1);
+    for_all([&](Node_index node, Node_index member) { members_[place[node]++] = member; });
+  }
+
+  [[nodiscard]] Node_span operator[](Node_index node) const {
+    return {members_.data() + starts_[node], starts_[node + 1] - starts_[node]};
+  }
+  [[nodiscard]] Node_index Node_count() const {
+    return static_cast<Node_index>(starts_.size() - 2);
+  }
+  /// Number of members in all rows together.
+  [[nodiscard]] std::size_t size() const { return members_.size(); }
+  /// Position of a node's first member among the members of all rows.
+  [[nodiscard]] std::size_t Start(Node_index node) const { return starts_[node]; }
+
+ private:
+  std::vector<std::size_t> starts_ = {0, 0};  ///< row of node v: starts_[v] up to starts_[v + 1]
+  std::vector<Node_index> members_;
+};
+
+}  // namespace gns

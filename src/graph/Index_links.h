@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "graph/Adjacency.h"
+#include "graph/Node_set.h"
+
+namespace gns {
+
+/// (index, index) -> weight, unique and ascending. In an undirected run the first index is the
+/// smaller, in a directed run the key is (from, to).
+class Index_links {
+ public:
+  Index_links() = default;
+  /// From keys that ascend without repeats; `weights` is parallel to them, or empty: all 0.0.
+  Index_links(const std::vector<Index_pair>& keys, std::vector<double> weights,
+              Node_index node_count);
+
+  [[nodiscard]] std::size_t size() const { return rows_.size(); }
+  [[nodiscard]] Node_index Node_count() const { return rows_.Node_count(); }
+  /// Second indices of the keys that begin with `first`, ascending.
+  [[nodiscard]] Node_span Row(Node_index first) const { return rows_[first]; }
+  [[nodiscard]] bool contains(Node_index first, Node_index second) const;
+  /// The weight under a key, or nothing if the key is missing.
+  [[nodiscard]] std::optional<double> Weight(Node_index first, Node_index second) const;
+
+ private:
+  Adjacency rows_;
+  std::vector<double> weights_;
+};
+
+}  // namespace gns

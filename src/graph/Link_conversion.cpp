@@ -1,0 +1,92 @@
+#include "graph/Link_conversion.h"
+
+#include <algorithm>
+#include <iterator>
+#include <ranges>
+#include <utility>
+
+#include "graph/Pair_sort.h"
+
+namespace gns {
+
+namespace {
+
+/// Gives out node indices to name numbers in the order of first sight.
+class Node_numbering {
+ public:
+  explicit Node_numbering(std::uint32_t name_count) : index_of_(name_count, 0) {
+    name_of_.reserve(name_count);
+  }
+
+  Node_index Index_of(std::uint32_t name) {
+    if (index_of_[name] == 0) {
+      name_of_.push_back(name);
+      index_of_[name] = static_cast<Node_index>(name_of_.size());
+    }
+    return index_of_[name];
+  }
+
+  std::vector<std::uint32_t> Take_names() { return std::move(name_of_); }
+
+ private:
+  std::vector<Node_index> index_of_;
+  std::vector<std::uint32_t> name_of_;
+};
+
+auto Nodes_of(const Index_links& links) {
+  return std::views::iota(Node_index{1}, links.Node_count() + 1);
+}
+
+}  // namespace
+
+void Convert_s_links(Index_links& index_links, Node_names& node_names, const Link_map& links,
+                     bool directed) {
+  Node_numbering numbering(links.Names()->size());
+  std::vector<Index_pair> keys;
+  keys.reserve(links.size());
+  std::vector<double> weights;
+  if (links.Has_weights()) weights.reserve(links.size());
+  for (std::size_t i = 0; i < links.size(); ++i) {
+    const Node_index first = numbering.Index_of(links.Pairs()[i].first);
+    const Node_index second = numbering.Index_of(links.Pairs()[i].second);
+    const bool swapped = !directed && second < first;
+    keys.push_back(swapped ? Index_pair{second, first} : Index_pair{first, second});
+    if (links.Has_weights()) weights.push_back(links.Weight(i));
+  }
+
+  node_names = Node_names(links.Names(), numbering.Take_names());
+  Sort_pairs(keys, weights, node_names.size() + 1);
+  Fold_equal_pairs(keys, weights);
+  index_links = Index_links(keys, std::move(weights), node_names.size());
+}
+
+void Vtx_map_from_link_map(Vertex_map& vtx_map, const Index_links& index_links) {
+  // Each row comes out ascending: its smaller members are entered from their own, earlier rows.
+  vtx_map = Vertex_map(Adjacency(index_links.Node_count(), Nodes_of(index_links),
+                                 [&](Node_index first, auto&& enter) {
+                                   for (const Node_index second : index_links.Row(first)) {
+                                     enter(first, second);
+                                     enter(second, first);
+                                   }
+                                 }));
+}
+
+void Dir_vtx_map_from_link_map(Dir_vertex_map& dir_vtx_map, const Index_links& index_links) {
+  const Node_index count = index_links.Node_count();
+  const auto nodes = Nodes_of(index_links);
+  Adjacency out(count, nodes, [&](Node_index from, auto&& enter) {
+    for (const Node_index to : index_links.Row(from)) enter(from, to);
+  });
+  Adjacency in(count, nodes, [&](Node_index from, auto&& enter) {
+    for (const Node_index to : index_links.Row(from)) enter(to, from);
+  });
+  std::vector<Node_index> both;
+  Adjacency neighs(count, nodes, [&](Node_index node, auto&& enter) {
+    both.clear();
+    std::ranges::set_union(out[node], in[node], std::back_inserter(both));
+    for (const Node_index neigh : both) enter(node, neigh);
+  });
+  dir_vtx_map = Dir_vertex_map(std::move(out), std::move(in), std::move(neighs));
+}
+
+}  // namespace gns

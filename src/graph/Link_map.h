@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "graph/Name_table.h"
+#include "graph/Node_set.h"
+
+namespace gns {
+
+/// The links as read: (first name, second name) -> weight, unique, ascending bytewise by first
+/// name, then second.
+///
+/// Names are stored once, in ascending order, so a pair of name numbers orders as the names do.
+class Link_map {
+ public:
+  [[nodiscard]] std::size_t size() const { return pairs_.size(); }
+  [[nodiscard]] bool empty() const { return pairs_.empty(); }
+  [[nodiscard]] std::string_view First(std::size_t link) const {
+    return (*names_)[pairs_[link].first];
+  }
+  [[nodiscard]] std::string_view Second(std::size_t link) const {
+    return (*names_)[pairs_[link].second];
+  }
+  [[nodiscard]] double Weight(std::size_t link) const {
+    return weights_.empty() ? 0.0 : weights_[link];
+  }
+  [[nodiscard]] bool Has_weights() const { return !weights_.empty(); }
+
+  /// Name numbers of every link, in order.
+  [[nodiscard]] const std::vector<Index_pair>& Pairs() const { return pairs_; }
+  [[nodiscard]] const std::shared_ptr<const Name_table>& Names() const { return names_; }
+
+  void clear() { *this = Link_map(); }
+
+ private:
+  friend class Link_map_builder;
+  std::shared_ptr<const Name_table> names_ = std::make_shared<const Name_table>();
+  std::vector<Index_pair> pairs_;
+  std::vector<double> weights_;  ///< parallel to pairs_, or empty: all 0.0
+};
+
+/// Collects links in any order and sorts them into a Link_map.
+class Link_map_builder {
+ public:
+  /// With `weighted`, the weights of a repeated link add up in the order of adding; without, every
+  /// weight is 0.0.
+  explicit Link_map_builder(bool weighted) : weighted_(weighted) {}
+
+  void Add(std::string_view first, std::string_view second, double weight = 0.0);
+
+  /// Sorts and folds what was added; the builder is spent.
+  Link_map Build();
+
+ private:
+  std::uint32_t Number_of(std::string_view name);
+  void Grow_slots();
+  std::vector<std::uint32_t> Sort_names();
+
+  bool weighted_;
+  Name_table names_;                  ///< in order of first appearance
+  std::vector<std::uint64_t> slots_;  ///< open addressing: upper half of the hash, number + 1
+  std::vector<Index_pair> pairs_;
+  std::vector<double> weights_;
+};
+
+}  // namespace gns

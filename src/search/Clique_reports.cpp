@@ -1,0 +1,71 @@
+#include "search/Clique_reports.h"
+
+#include <algorithm>
+#include <sstream>
+#include <utility>
+
+#include "foundation/My_double2string.h"
+
+namespace gns {
+
+namespace {
+
+std::string Rule(std::size_t length) { return std::string(length, '_') + "\n"; }
+
+}  // namespace
+
+namespace Clique_find_report_sub_routines {
+
+namespace {
+
+void Report_remaining(const std::string& unit, std::uint32_t remaining, std::uint32_t total,
+                      std::ostream& stream) {
+  const double done = 100.0 * (total - remaining) / total;
+  stream << " " << remaining << " of " << total << " " << unit << " to do ("
+         << double2string(done, 2) << "% done)\n";
+}
+
+}  // namespace
+
+void Report_progress(const std::string& title, const std::string& unit, std::uint32_t remaining,
+                     std::uint32_t total, std::ostream& stream) {
+  stream << Rule(title.size()) << title << "\n";
+  Report_remaining(unit, remaining, total, stream);
+}
+
+void Report_progress(const std::string& title, const std::string& second_title,
+                     const std::string& unit, std::uint32_t remaining, std::uint32_t total,
+                     std::ostream& stream) {
+  stream << Rule(std::max(title.size(), second_title.size())) << title << "\n"
+         << second_title << "\n";
+  Report_remaining(unit, remaining, total, stream);
+}
+
+void Report_clique_search_end(const std::string& unit, std::uint32_t count, std::ostream& stream) {
+  const std::string line = " Altogether " + std::to_string(count) + " " + unit + " found.";
+  stream << Rule(line.size()) << line << "\n";
+}
+
+}  // namespace Clique_find_report_sub_routines
+
+Progress_report::Progress_report(std::string title, std::string second_title, std::string unit,
+                                 std::uint32_t total)
+    : title_(std::move(title)),
+      second_title_(std::move(second_title)),
+      unit_(std::move(unit)),
+      total_(total),
+      remaining_(total) {}
+
+std::string Progress_report::Text() const {
+  using namespace Clique_find_report_sub_routines;
+  const std::uint32_t remaining = remaining_.load(std::memory_order_relaxed);
+  std::ostringstream stream;
+  if (second_title_.empty()) {
+    Report_progress(title_, unit_, remaining, total_, stream);
+  } else {
+    Report_progress(title_, second_title_, unit_, remaining, total_, stream);
+  }
+  return stream.str();
+}
+
+}  // namespace gns

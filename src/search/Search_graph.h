@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "graph/Adjacency.h"
+#include "graph/Node_order.h"
+#include "search/Local_graph.h"
+
+namespace gns {
+
+/// The graph in the course of a search: nodes finish one by one, and what is left of a node's
+/// neighbourhood is cut out as a local graph.
+///
+/// A link is kept once, with the end that comes first in the node order; by degree order no node
+/// keeps more than sqrt(2 x links) of them.
+class Search_graph {
+ public:
+  /// `neighs` must outlive the object.
+  Search_graph(const Adjacency& neighs, const Node_order& order);
+
+  void Finish(Node_index node) { finished_[node] = 1; }
+  [[nodiscard]] bool Is_finished(Node_index node) const { return finished_[node] != 0; }
+
+  /// Fills `local` for a node in hand; false if no two candidates are linked, so that there is no
+  /// clique of three nodes or more to be found.
+  bool Cut_out(Node_index node, Local_graph& local);
+
+ private:
+  bool Link_candidates(Local_graph& local) const;
+  void Link_excluded(Local_graph& local) const;
+
+  const Adjacency& neighs_;
+  Adjacency forward_;  ///< to the neighbours that come later in the node order
+  std::vector<std::uint8_t> finished_;
+  std::vector<std::uint32_t> row_of_;  ///< row in the local graph + 1, or 0
+  std::vector<Node_index> excluded_;
+};
+
+}  // namespace gns
