@@ -30,7 +30,10 @@ void Read_links(const std::string& file_name, Link_map& links, bool weighted, Ac
     const std::string_view first = Extract_word(rest);
     const std::string_view second = Extract_word(rest);
     double weight = 0.0;
-    if (second.empty() || !accept(rest, weight)) throw Xep_wrong_line(std::string(cut_line));
+    if (second.empty() || !accept(rest, weight)) {
+      links = builder.Build();
+      throw Xep_wrong_line(std::string(cut_line));
+    }
     if (first != second && keeps(weight)) builder.Add(first, second, weight);
   }
   links = builder.Build();

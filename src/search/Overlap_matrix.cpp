@@ -1,0 +1,40 @@
+#include "search/Overlap_matrix.h"
+
+#include <algorithm>
+
+namespace gns {
+
+Overlap_matrix::Overlap_matrix(const Clique_vector& cliques) : row_count_(cliques.size()) {
+  const std::vector<Node_index>& members = cliques.Values();
+  const Node_index greatest = members.empty() ? 0 : *std::ranges::max_element(members);
+  starts_.assign(std::size_t{greatest} + 2, 0);
+  for (const Node_index node : members) ++starts_[node + 1];
+  for (std::size_t i = 1; i < starts_.size(); ++i) starts_[i] += starts_[i - 1];
+  cliques_.resize(members.size());
+  std::vector<std::size_t> place(starts_.begin(), starts_.end() - 1);
+  for (std::size_t i = 0; i < cliques.size(); ++i)
+    for (const Node_index node : cliques[i]) cliques_[place[node]++] = static_cast<Clique_index>(i);
+}
+
+std::span<const Clique_index> Overlap_matrix::Cliques_of(Node_index node) const {
+  if (std::size_t{node} + 1 >= starts_.size()) return {};
+  return {cliques_.data() + starts_[node], starts_[node + 1] - starts_[node]};
+}
+
+std::vector<Overlap_matrix::Entry> Overlap_matrix::Row(const Clique_vector& cliques,
+                                                       Clique_index i) const {
+  std::vector<Clique_index> met;
+  for (const Node_index node : cliques[i]) {
+    const auto others = Cliques_of(node);
+    met.insert(met.end(), others.begin(), others.end());
+  }
+  std::sort(met.begin(), met.end());
+  std::vector<Entry> row;
+  for (const Clique_index other : met) {
+    if (row.empty() || row.back().first != other) row.emplace_back(other, 0);
+    ++row.back().second;
+  }
+  return row;
+}
+
+}  // namespace gns
