@@ -1,0 +1,147 @@
+"""What the benchmarks share: networks, whole-process measurements, tables."""
+
+import gzip
+import math
+import os
+import re
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+from contextlib import contextmanager
+from pathlib import Path
+from typing import NamedTuple
+
+ROOT = Path(__file__).resolve().parent.parent
+PROGRAM = ROOT / "build" / "vorlane"
+TOOLS = ROOT / "build-bench"
+PYTHON = "/usr/bin/python3"  # the one that Debian's python3-networkx belongs to
+ABOVE_EVERY_CLIQUE = "1000000"  # a k at which a run writes graph, cliques and empty files
+
+
+class Usage(NamedTuple):
+    """Cost of one process: processor and wall clock seconds, peak memory in MB."""
+
+    cpu: float
+    wall: float
+    peak: float
+    exit_code: int
+    output: str
+
+
+class Network(NamedTuple):
+    name: str
+    path: Path
+    links: int
+    whole_numbers: bool
+
+
+def build_tools():
+    """Builds the program and the C tools of the bench, installing what they need."""
+    subprocess.run([ROOT / "scripts" / "setup", "--bench"], check=True)
+    subprocess.run([ROOT / "scripts" / "run", "--version"], check=True, stdout=subprocess.DEVNULL)
+    TOOLS.mkdir(exist_ok=True)
+    igraph = subprocess.run(["pkg-config", "--cflags", "--libs", "igraph"], check=True,
+                            capture_output=True, text=True).stdout.split()
+    for source, flags in (("measure.c", []), ("rivals/maximal_cliques.c", igraph)):
+        source = ROOT / "bench" / source
+        subprocess.run(["gcc", "-O3", "-o", TOOLS / source.stem, source, *flags], check=True)
+
+
+def measure(command, accepted=(0,)):
+    """Runs a command to its end; any exit code that is not accepted ends the benchmark."""
+    with tempfile.NamedTemporaryFile(mode="r") as report:
+        run = subprocess.run([TOOLS / "measure", report.name, *command], stdin=subprocess.DEVNULL,
+                             capture_output=True, text=True, check=False)
+        if run.returncode not in accepted:
+            sys.exit(f"failed ({run.returncode}): {' '.join(map(str, command))}\n{run.stderr}")
+        cpu, wall, peak = report.read().split()
+    return Usage(float(cpu), float(wall), int(peak) / 1024, run.returncode, run.stdout)
+
+
+def measure_program(network, folder, *switches):
+    """Runs the program into a directory under folder, which is deleted again."""
+    results = Path(tempfile.mkdtemp(dir=folder)) / "results"
+    usage = measure([PROGRAM, "-i", network.path, "-o", results, *switches])
+    shutil.rmtree(results.parent)
+    return usage
+
+
+def median(usages):
+    """The median of each figure."""
+    return Usage(*(statistics.median(figures) for figures in list(zip(*usages))[:3]),
+                 usages[0].exit_code, usages[0].output)
+
+
+def geometric_mean(ratios):
+    return math.exp(statistics.fmean(map(math.log, ratios)))
+
+
+@contextmanager
+def working_folder():
+    """A folder for prepared networks and results, deleted at the end (TMPDIR chooses the disk)."""
+    folder = Path(tempfile.mkdtemp(prefix="vorlane-bench."))
+    try:
+        yield folder
+    finally:
+        shutil.rmtree(folder)
+
+
+def prepare(source, folder):
+    """Writes the names of a link file in two columns, without comments: every rival can read that."""
+    name = re.sub(r"(\.txt)?(\.gz)?$", "", source.name)
+    path = folder / f"{name}.txt"
+    whole_number = re.compile(rb"0|[1-9]\d{0,6}").fullmatch
+    links, whole_numbers = 0, True
+    opened = gzip.open if source.suffix == ".gz" else open
+    with opened(source, "rb") as lines, open(path, "wb") as out:
+        for line in lines:
+            names = line.split(maxsplit=2)[:2]
+            if len(names) == 2 and not names[0].startswith(b"#"):
+                links += 1
+                whole_numbers = whole_numbers and all(map(whole_number, names))
+                out.write(b"%s %s\n" % tuple(names))
+    return Network(name, path, links, whole_numbers)
+
+
+def add_network_options(parser):
+    """The options by which a benchmark over several networks is told which."""
+    named = os.environ.get("VORLANE_NETWORKS")
+    parser.add_argument("networks", nargs="*", type=Path, default=[Path(named)] if named else [],
+                        help="link files (.gz too) or directories of them; without: the directory "
+                        "in VORLANE_NETWORKS")
+    parser.add_argument("--more-than", type=int, default=10_000, metavar="LINKS",
+                        help="leave out networks with fewer links (default: %(default)s)")
+    parser.add_argument("--skip", nargs="*", default=["facebook_combined"], metavar="NAME",
+                        help="networks to leave out (default: %(default)s)")
+
+
+def prepared_networks(options, folder):
+    """The networks that the options name, ready in folder, the smallest first."""
+    files = []
+    for source in options.networks:
+        files += sorted(source.glob("*.txt*")) if source.is_dir() else [source]
+    files = [file for file in files if not any(name in file.name for name in options.skip)]
+    networks = [prepare(file, folder) for file in files]
+    networks = [network for network in networks if network.links > options.more_than]
+    if not networks:
+        sys.exit("No networks: name link files or a directory of them, or set VORLANE_NETWORKS.")
+    return sorted(networks, key=lambda network: network.links)
+
+
+def number(value):
+    """Three significant digits, never in powers of ten."""
+    digits = 2 if value == 0 else max(0, 2 - math.floor(math.log10(abs(value))))
+    return f"{value:.{digits}f}"
+
+
+def print_row(*cells):
+    """One row of a Markdown table, shown at once."""
+    texts = (cell if isinstance(cell, str) else number(cell) for cell in cells)
+    print("| " + " | ".join(texts) + " |", flush=True)
+
+
+def print_head(*titles):
+    print_row(*titles)
+    print("|" + " --- |" + " ---: |" * (len(titles) - 1), flush=True)
