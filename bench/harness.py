@@ -37,16 +37,23 @@ class Network(NamedTuple):
     whole_numbers: bool
 
 
+def succeed(*command):
+    """Runs a command whose failure, which it has told about itself, ends the benchmark."""
+    run = subprocess.run(command, stdout=subprocess.PIPE, text=True, check=False)
+    if run.returncode != 0:
+        sys.exit(run.returncode)
+    return run.stdout
+
+
 def build_tools():
     """Builds the program and the C tools of the bench, installing what they need."""
-    subprocess.run([ROOT / "scripts" / "setup", "--bench"], check=True)
-    subprocess.run([ROOT / "scripts" / "run", "--version"], check=True, stdout=subprocess.DEVNULL)
+    succeed(ROOT / "scripts" / "setup", "--bench")
+    succeed(ROOT / "scripts" / "run", "--version")
     TOOLS.mkdir(exist_ok=True)
-    igraph = subprocess.run(["pkg-config", "--cflags", "--libs", "igraph"], check=True,
-                            capture_output=True, text=True).stdout.split()
+    igraph = succeed("pkg-config", "--cflags", "--libs", "igraph").split()
     for source, flags in (("measure.c", []), ("rivals/maximal_cliques.c", igraph)):
         source = ROOT / "bench" / source
-        subprocess.run(["gcc", "-O3", "-o", TOOLS / source.stem, source, *flags], check=True)
+        succeed("gcc", "-O3", "-o", TOOLS / source.stem, source, *flags)
 
 
 def measure(command, accepted=(0,)):
