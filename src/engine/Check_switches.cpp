@@ -1,0 +1,40 @@
+#include "engine/Check_switches.h"
+
+#include <array>
+
+namespace gns {
+
+bool Check_switches(bool use_time_limit, double time_limit, bool use_lower_threshold,
+                    bool use_upper_threshold, double lower_threshold, double upper_threshold,
+                    bool directed, bool use_intensity, bool undirected_declared,
+                    std::string& errors) {
+  struct Rule {
+    bool broken;
+    const char* text;
+  };
+  const bool use_both_thresholds = use_lower_threshold && use_upper_threshold;
+  const std::array<Rule, 5> rules{{
+      {use_time_limit && time_limit <= 0.0,
+       " The maximal allowed time per node must be positive.\n"},
+      {use_both_thresholds && lower_threshold >= upper_threshold,
+       " The sepcified lower threshold is higher (or equal to) the upper threshold.\n"},
+      {directed && use_intensity,
+       " The search algorithm cannot apply the link weight \n"
+       " intensity condition when looking for directed communities.\n"},
+      {use_intensity && use_time_limit,
+       " The search algorithm cannot apply the maximal time \n"
+       " per node condition when a link weight intensity condition is set as well.\n"},
+      {undirected_declared && directed,
+       " The program cannot apply the dirrected and undirected\n"
+       " search algorithm at the same time.\n"},
+  }};
+  bool good = true;
+  for (const Rule& rule : rules) {
+    if (!rule.broken) continue;
+    errors += rule.text;
+    good = false;
+  }
+  return good;
+}
+
+}  // namespace gns

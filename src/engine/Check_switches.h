@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace gns {
+
+/// True if the switches of a run go together. Every finding is appended to `errors`.
+/// `undirected_declared` tells that the caller asked for the undirected method by name.
+bool Check_switches(bool use_time_limit, double time_limit, bool use_lower_threshold,
+                    bool use_upper_threshold, double lower_threshold, double upper_threshold,
+                    bool directed, bool use_intensity, bool undirected_declared,
+                    std::string& errors);
+
+}  // namespace gns
