@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+namespace gns {
+
+/// The help of the program, on standard output.
+
+/// The banner.
+void Print_copyright();
+
+/// The banner, what is wrong with the command line, and the short usage.
+void Print_usage(const std::string& prog_name, const std::string& errors);
+
+/// The long help and, behind it, the banner.
+void Print_detailed_usage(const std::string& prog_name);
+
+}  // namespace gns
