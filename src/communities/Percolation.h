@@ -1,10 +1,10 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 #include "communities/Communities.h"
+#include "communities/Community_contents.h"
 #include "communities/Unclaimed_cliques.h"
 #include "search/Clique_vector.h"
 
@@ -14,32 +14,36 @@ namespace gns {
 /// 2005): cliques that share at least k - 1 nodes are adjacent, and a community is a connected
 /// group of cliques with at least one of k nodes or more.
 ///
-/// Meant to be asked for k descending: what the k before gave is used again, since a community at k
-/// lies inside one at k - 1. Any order gives the same results.
+/// Meant to be asked for k descending: a community at k + 1 lies inside one at k, and what was
+/// found for it is used again. Any order of k gives the same results.
 class Percolation {
  public:
   /// Cliques at and behind `exact_clique_count` are approximate. `cliques` must outlive the object.
   Percolation(const Clique_vector& cliques, std::uint32_t exact_clique_count);
 
-  /// The communities at k. The reference holds until the next call.
+  /// The communities at k; the reference holds until the next call. Polls the stop flag as a long
+  /// stage does.
   const Communities& At(std::uint32_t k);
 
  private:
-  struct Community {
-    std::size_t first_clique;
-    std::size_t last_clique;
+  struct Claimed_range {
+    std::size_t first;
+    std::size_t last;
     bool approximate;
   };
 
-  void Collect_cliques(std::uint32_t k);
-  void Claim_from(std::size_t first);
-  void Gather(const Community& community, const Communities& before, Communities& result);
+  void Claim_all(std::uint32_t k);
+  void Claim_community(std::uint32_t k, Clique_index seed);
+  std::size_t Claim_neighbours(std::uint32_t k, Clique_index clique);
+  void Collect(bool approximate, Communities& result);
 
   const Clique_vector& cliques_;
   std::uint32_t exact_clique_count_;
   Unclaimed_cliques unclaimed_;
-  std::vector<Clique_index> claimed_;     ///< in claim order, community behind community
-  std::vector<Community> found_;          ///< in order of discovery
+  Community_contents contents_;
+  std::vector<Clique_index> claimed_;  ///< in claim order, community behind community
+  std::vector<Claimed_range> found_;   ///< the communities in order of discovery
+  std::uint32_t last_k_ = 0;           ///< 0: communities_ is empty
   Communities communities_;
 };
 

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "communities/Communities.h"
+#include "search/Clique_vector.h"
+
+namespace gns {
+
+/// Collects the members and links of communities from their cliques.
+///
+/// What a community takes over whole from communities at a greater k is merged from there; only
+/// cliques that were in no community yet are taken apart. So each clique is taken apart once in a
+/// run down all k.
+class Community_contents {
+ public:
+  /// `cliques` must outlive the object.
+  explicit Community_contents(const Clique_vector& cliques);
+
+  /// Appends to `result` the community that consists of `com_cliques`. `before` holds the
+  /// communities at a greater k that Note_communities() was called for last, or is empty.
+  void Append(std::span<const Clique_index> com_cliques, const Communities& before,
+              Communities& result);
+
+  /// Notes to which of `communities` each clique belongs, for the k that comes next.
+  void Note_communities(const Communities& communities);
+  void Forget_communities();
+
+ private:
+  /// Where links that begin at a member come from: `size` pairs or, from a clique, nodes.
+  struct Source {
+    const Index_pair* pairs;
+    const Node_index* nodes;
+    std::uint32_t size;
+  };
+
+  void Sort_out(std::span<const Clique_index> com_cliques);
+  void Collect_members(const Communities& before);
+  void Collect_sources(const Communities& before);
+  template <typename Use>
+  void For_each_source(const Communities& before, Use use) const;
+  void Append_links(Node_index member, std::span<const Source> sources, Communities& result);
+
+  static constexpr std::uint32_t none = ~std::uint32_t{0};
+
+  const Clique_vector& cliques_;
+  std::vector<std::uint32_t> community_of_;  ///< per clique: its community in `before`, or none
+  std::vector<std::uint32_t> parts_;         ///< communities taken over
+  std::vector<Clique_index> new_cliques_;
+  std::vector<Node_index> members_;
+  std::vector<std::uint32_t> place_of_;      ///< per node: position in members_ + 1, or 0
+  std::vector<std::uint32_t> source_starts_;
+  std::vector<Source> sources_;
+  std::vector<Node_index> met_by_;           ///< per node: the member it was last met by
+  std::vector<Node_index> met_;
+};
+
+}  // namespace gns

@@ -1,0 +1,101 @@
+#include "communities/Community_statistics.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "foundation/Errors.h"
+
+namespace gns {
+
+namespace {
+
+std::size_t Node_limit(const Row_array<Node_index>& coms) {
+  const std::vector<Node_index>& members = coms.Values();
+  return members.empty() ? 0 : std::size_t{*std::ranges::max_element(members)} + 1;
+}
+
+/// For each node the communities that hold it, ascending.
+class Memberships {
+ public:
+  explicit Memberships(const Row_array<Node_index>& coms) : starts_(Node_limit(coms) + 1, 0) {
+    for (const Node_index node : coms.Values()) ++starts_[node + 1];
+    std::partial_sum(starts_.begin(), starts_.end(), starts_.begin());
+    communities_.resize(coms.Values().size());
+    std::vector<std::size_t> place(starts_.begin(), starts_.end() - 1);
+    for (std::uint32_t com = 0; com < coms.size(); ++com)
+      for (const Node_index node : coms[com]) communities_[place[node]++] = com;
+  }
+
+  [[nodiscard]] std::span<const std::uint32_t> operator[](Node_index node) const {
+    return {communities_.data() + starts_[node], starts_[node + 1] - starts_[node]};
+  }
+
+ private:
+  std::vector<std::size_t> starts_;
+  std::vector<std::uint32_t> communities_;
+};
+
+}  // namespace
+
+void Prepare_community_graph(Com_graph& com_graph, const Row_array<Node_index>& coms) {
+  com_graph.clear();
+  const Memberships memberships(coms);
+  std::vector<std::uint32_t> shared(coms.size(), 0);
+  std::vector<std::uint32_t> met;
+  for (std::uint32_t com = 0; com < coms.size(); ++com) {
+    met.clear();
+    for (const Node_index node : coms[com]) {
+      const auto holders = memberships[node];
+      for (const std::uint32_t other : holders.subspan(static_cast<std::size_t>(
+               std::upper_bound(holders.begin(), holders.end(), com) - holders.begin())))
+        if (shared[other]++ == 0) met.push_back(other);
+    }
+    std::sort(met.begin(), met.end());
+    for (const std::uint32_t other : met) {
+      com_graph.push_back({com, other, shared[other]});
+      shared[other] = 0;
+    }
+  }
+}
+
+void Community_statistics(Distribution& size_dist, Distribution& degree_dist,
+                          Distribution& overlap_dist, Distribution& membership_dist,
+                          const Row_array<Node_index>& coms, std::uint32_t vertex_count) {
+  Com_graph com_graph;
+  Prepare_community_graph(com_graph, coms);
+  Community_statistics(size_dist, degree_dist, overlap_dist, membership_dist, coms, com_graph,
+                       vertex_count);
+}
+
+void Community_statistics(Distribution& size_dist, Distribution& degree_dist,
+                          Distribution& overlap_dist, Distribution& membership_dist,
+                          const Row_array<Node_index>& coms, const Com_graph& com_graph,
+                          std::uint32_t vertex_count) {
+  for (Distribution* dist : {&size_dist, &degree_dist, &overlap_dist, &membership_dist})
+    dist->clear();
+  for (std::size_t com = 0; com < coms.size(); ++com)
+    ++size_dist[static_cast<std::uint32_t>(coms[com].size())];
+
+  std::vector<std::uint32_t> degrees(coms.size(), 0);
+  for (const Com_overlap& overlap : com_graph) {
+    ++overlap_dist[overlap.shared];
+    ++degrees[overlap.first];
+    ++degrees[overlap.second];
+  }
+  for (const std::uint32_t degree : degrees) ++degree_dist[degree];
+
+  std::vector<std::uint32_t> memberships(Node_limit(coms), 0);
+  for (const Node_index node : coms.Values()) ++memberships[node];
+  std::uint32_t covered = 0;
+  for (const std::uint32_t membership : memberships) {
+    if (membership == 0) continue;
+    ++membership_dist[membership];
+    ++covered;
+  }
+  if (covered > vertex_count)
+    throw Xerror_msg(
+        "ERROR: Community_statistics() : More vertex in the communities than in the graph.");
+  membership_dist[0] = vertex_count - covered;
+}
+
+}  // namespace gns

@@ -1,0 +1,33 @@
+#include "communities/Coms_funcs.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "communities/Percolation.h"
+#include "foundation/My_double2string.h"
+
+namespace gns {
+
+std::uint32_t Max_clique_size_in_cl_vec(const Clique_vector& cliques) {
+  std::size_t largest = 0;
+  for (std::size_t i = 0; i < cliques.size(); ++i) largest = std::max(largest, cliques[i].size());
+  return static_cast<std::uint32_t>(largest);
+}
+
+namespace Coms_report_sub {
+
+void Report_com_export(std::uint32_t k, std::uint32_t max_clique_size, std::ostream& stream) {
+  constexpr std::uint32_t rule_without_k = 48;
+  const double done = 100.0 * ((max_clique_size - k) + 0.5) / (static_cast<double>(max_clique_size) - 2);
+  stream << std::string(Num_width(k) + rule_without_k, '_') << "\n"
+         << " Extracting communities at k=" << k << " (completed " << double2string(done, 2)
+         << "%)\n";
+}
+
+std::uint32_t Num_width(std::uint32_t k) {
+  return static_cast<std::uint32_t>(std::to_string(k).size());
+}
+
+}  // namespace Coms_report_sub
+}  // namespace gns

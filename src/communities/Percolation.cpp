@@ -1,0 +1,84 @@
+#include "communities/Percolation.h"
+
+#include <algorithm>
+#include <span>
+#include <utility>
+
+#include "control/Clique_find_ext_cont.h"
+
+namespace gns {
+
+Percolation::Percolation(const Clique_vector& cliques, std::uint32_t exact_clique_count)
+    : cliques_(cliques),
+      exact_clique_count_(exact_clique_count),
+      unclaimed_(cliques),
+      contents_(cliques) {}
+
+const Communities& Percolation::At(std::uint32_t k) {
+  Claim_all(k);
+  if (last_k_ <= k) {
+    contents_.Forget_communities();
+    communities_ = {};
+  }
+  Communities result;
+  Collect(false, result);
+  result.exact_com_count = static_cast<std::uint32_t>(result.size());
+  Collect(true, result);
+  communities_ = std::move(result);
+  contents_.Note_communities(communities_);
+  last_k_ = k;
+  return communities_;
+}
+
+/// Walks the cliques in order and opens a community at each that is unclaimed and big enough.
+void Percolation::Claim_all(std::uint32_t k) {
+  unclaimed_.Reset(k);
+  claimed_.clear();
+  found_.clear();
+  for (Clique_index clique = 0; clique < cliques_.size(); ++clique)
+    if (cliques_[clique].size() >= k && unclaimed_.Is_unclaimed(clique)) Claim_community(k, clique);
+}
+
+/// The depth-first walk: all unclaimed neighbours of a clique are claimed before the first of them
+/// is expanded. Each set of neighbours is a range of claimed_, so the walk's stack holds ranges.
+void Percolation::Claim_community(std::uint32_t k, Clique_index seed) {
+  const std::size_t first = claimed_.size();
+  std::vector<std::pair<std::size_t, std::size_t>> to_expand = {{first, Claim_neighbours(k, seed)}};
+  if (claimed_.size() == first) return;
+  while (!to_expand.empty()) {
+    external_control::Check_inside_long_stage();
+    auto& [next, end] = to_expand.back();
+    if (next == end) {
+      to_expand.pop_back();
+      continue;
+    }
+    const std::size_t start = claimed_.size();
+    const std::size_t stop = Claim_neighbours(k, claimed_[next++]);
+    if (start != stop) to_expand.emplace_back(start, stop);
+  }
+  const auto is_approximate = [this](Clique_index clique) { return clique >= exact_clique_count_; };
+  found_.push_back({first, claimed_.size(),
+                    std::any_of(claimed_.begin() + static_cast<std::ptrdiff_t>(first),
+                                claimed_.end(), is_approximate)});
+}
+
+/// Claims the unclaimed cliques that share at least k - 1 nodes with `clique`, ascending; the clique
+/// itself is among them if it is unclaimed. Yields the new end of claimed_.
+std::size_t Percolation::Claim_neighbours(std::uint32_t k, Clique_index clique) {
+  const std::size_t start = claimed_.size();
+  const std::uint32_t least_overlap = k == 1 ? 1 : k - 1;  // cliques that share nothing never join
+  unclaimed_.Append_neighbours(clique, least_overlap, claimed_);
+  for (std::size_t i = start; i < claimed_.size(); ++i) unclaimed_.Claim(claimed_[i]);
+  return claimed_.size();
+}
+
+void Percolation::Collect(bool approximate, Communities& result) {
+  for (const Claimed_range& range : found_) {
+    if (range.approximate != approximate) continue;
+    external_control::Check_inside_long_stage();
+    contents_.Append(std::span(claimed_).subspan(range.first, range.last - range.first),
+                     communities_, result);
+  }
+}
+
+}  // namespace gns

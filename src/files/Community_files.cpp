@@ -1,0 +1,128 @@
+#include "files/Community_files.h"
+
+#include <algorithm>
+
+#include "control/Clique_find_ext_cont.h"
+#include "files/Result_lines.h"
+#include "files/Results_names.h"
+#include "foundation/Direktoriz.h"
+#include "foundation/Text_writer.h"
+
+namespace gns {
+
+namespace {
+
+using results_names::Lead;
+
+std::string Prepared_dir(const std::string& output_dir, std::uint32_t k) {
+  std::string dir_of_k = results_names::Dir_of_k(output_dir, k);
+  Dir_prepare(dir_of_k, "keep");
+  return dir_of_k;
+}
+
+/// The lines above the body: title, header, perhaps a remark, and a blank line.
+void Write_head(Text_writer& file, const std::string& title, std::uint32_t k,
+                const std::string& run_header, const char* remark = "") {
+  file << title << "at k=" << k << "\n#" << run_header << remark << '\n';
+}
+
+/// Tells for the links of a community, asked in their order, whether `index_links` holds them. The
+/// position in the row of the smaller node is kept from one link to the next.
+class Link_lookup {
+ public:
+  explicit Link_lookup(const Index_links& links) : links_(links) {}
+
+  bool Has(const Index_pair& link) {
+    if (link.first != node_ || (next_ > 0 && row_[next_ - 1] >= link.second)) {
+      node_ = link.first;
+      row_ = links_.Row(node_);
+      next_ = 0;
+    }
+    if (next_ == row_.size() || row_[next_] != link.second) {
+      const auto from = row_.begin() + static_cast<std::ptrdiff_t>(next_);
+      next_ = static_cast<std::size_t>(std::lower_bound(from, row_.end(), link.second) -
+                                       row_.begin());
+    }
+    if (next_ == row_.size() || row_[next_] != link.second) return false;
+    ++next_;
+    return true;
+  }
+
+ private:
+  const Index_links& links_;
+  Node_index node_ = 0;
+  Node_span row_;
+  std::size_t next_ = 0;
+};
+
+}  // namespace
+
+void Kiir_coms_VL(const Row_array<Node_index>& coms, const std::string& output_dir,
+                  std::uint32_t k, const Node_names& node_names, std::uint32_t exact_com_count,
+                  const std::string& com_flag, const std::string& run_header) {
+  const std::string dir_of_k = Prepared_dir(output_dir, k);
+  Text_writer file(results_names::In_dir_of_k(dir_of_k, com_flag, "communities"));
+  Write_head(file, "# The " + Lead(com_flag, ' ') + "communities ", k, run_header,
+             exact_com_count < coms.size() ? "# Negative indices indicate approximate communities.\n"
+                                           : "");
+  for (std::uint32_t com = 0; com < coms.size(); ++com)
+    Write_members(file, com, exact_com_count, coms[com], node_names);
+}
+
+void Kiir_coms_cliques_VL(const Row_array<Clique_index>& com_cliques,
+                          const std::string& output_dir, std::uint32_t k,
+                          std::uint32_t exact_com_count, std::uint32_t exact_clique_count,
+                          const std::string& com_flag, const std::string& run_header) {
+  const std::string dir_of_k = Prepared_dir(output_dir, k);
+  Text_writer file(results_names::In_dir_of_k(dir_of_k, com_flag, "communities_cliques"));
+  const std::string flag = Lead(com_flag, ' ');
+  Write_head(file, "# The contained " + flag + "cliques in the " + flag + "communities ", k,
+             run_header);
+  for (std::uint32_t com = 0; com < com_cliques.size(); ++com) {
+    external_control::Check_inside_long_stage();
+    Write_index(file, com, exact_com_count);
+    file << ": ";
+    for (const Clique_index clique : com_cliques[com]) {
+      Write_index(file, clique, exact_clique_count);
+      file << ' ';
+    }
+    file << '\n';
+  }
+}
+
+void Kiir_com_links_VL(const Row_array<Index_pair>& com_links, const std::string& output_dir,
+                       std::uint32_t k, const Node_names& node_names,
+                       std::uint32_t exact_com_count, const std::string& com_flag,
+                       const std::string& run_header, const Index_links& index_links) {
+  const std::string dir_of_k = Prepared_dir(output_dir, k);
+  Text_writer file(results_names::In_dir_of_k(dir_of_k, com_flag, "communities_links"));
+  Write_head(file, "# The links inside the " + Lead(com_flag, ' ') + "communities ", k,
+             run_header);
+  Link_lookup lookup(index_links);
+  for (std::uint32_t com = 0; com < com_links.size(); ++com) {
+    external_control::Check_inside_long_stage();
+    Write_index(file, com, exact_com_count);
+    file << ":\n";
+    for (const Index_pair& link : com_links[com]) {
+      const bool forward = lookup.Has(link);
+      file << node_names[forward ? link.first : link.second] << ' '
+           << node_names[forward ? link.second : link.first] << '\n';
+    }
+  }
+}
+
+void Kiir_com_graph_VL(const Com_graph& com_graph, std::uint32_t exact_com_count,
+                       const std::string& output_dir, std::uint32_t k,
+                       const std::string& com_flag, const std::string& run_header) {
+  const std::string dir_of_k = Prepared_dir(output_dir, k);
+  Text_writer file(results_names::Graph_of_communities(dir_of_k, com_flag));
+  Write_head(file, "# The graph of " + Lead(com_flag, ' '), k, run_header);
+  for (const Com_overlap& overlap : com_graph) {
+    Write_index(file, overlap.first, exact_com_count);
+    file << ' ';
+    Write_index(file, overlap.second, exact_com_count);
+    file << ' ' << overlap.shared << '\n';
+  }
+}
+
+}  // namespace gns

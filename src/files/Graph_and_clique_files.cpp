@@ -1,0 +1,38 @@
+#include "files/Graph_and_clique_files.h"
+
+#include "files/Result_lines.h"
+#include "files/Results_names.h"
+#include "foundation/Direktoriz.h"
+#include "foundation/Text_writer.h"
+
+namespace gns {
+
+void Kiir_graph(const Link_map& links, const std::string& output_dir, bool directed,
+                const std::string& run_header, bool weighted) {
+  Dir_prepare(output_dir, "keep");
+  Text_writer file(results_names::Graph(output_dir, directed));
+  file << "# The links" << run_header
+       << (directed ? "# (self-links were removed)\n" : "# (mutual links and self-links were removed)\n")
+       << '\n';
+  for (std::size_t i = 0; i < links.size(); ++i) {
+    file << links.First(i) << ' ' << links.Second(i);
+    if (weighted) file << ' ' << links.Weight(i);
+    file << '\n';
+  }
+}
+
+void Kiir_cliques_VL(const std::string& output_dir, const Clique_vector& cliques,
+                     const Node_names& node_names, std::uint32_t exact_clique_count,
+                     const std::string& com_flag, const std::string& run_header) {
+  Dir_prepare(output_dir, "keep");
+  Text_writer file(results_names::Cliques(output_dir, com_flag));
+  const std::string flag = results_names::Clique_flag(com_flag);
+  file << "# The " << results_names::Lead(flag, ' ') << "cliques" << run_header;
+  if (exact_clique_count < cliques.size())
+    file << "# Negative indices indicate approximate cliques.\n";
+  file << '\n';
+  for (std::uint32_t i = 0; i < cliques.size(); ++i)
+    Write_members(file, i, exact_clique_count, cliques[i], node_names);
+}
+
+}  // namespace gns

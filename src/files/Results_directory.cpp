@@ -1,0 +1,70 @@
+#include "files/Results_directory.h"
+
+#include "files/Results_names.h"
+#include "foundation/Direktoriz.h"
+#include "foundation/Errors.h"
+#include "foundation/My_double2string.h"
+#include "foundation/Text_writer.h"
+#include "foundation/Total_path.h"
+
+namespace gns {
+
+namespace {
+
+std::string Six_digits(double value) {
+  constexpr unsigned digits = 6;
+  return double2string(value, digits);
+}
+
+}  // namespace
+
+void Check_out_dir(const std::string& output_dir) {
+  bool empty = true;
+  std::string error_text;
+  if (!Is_there_such_dir(output_dir, empty, error_text) || empty) return;
+  if (!List_dir(output_dir).empty())
+    throw Xerror_msg("ERROR: the output directory already exists and it is non-empty.\n");
+}
+
+void Generate_alap_szoveg(std::string& run_header, const std::string& input_file,
+                          bool use_lower_threshold, double lower_threshold,
+                          bool use_upper_threshold, double upper_threshold) {
+  run_header = " from " + Get_total_path(input_file) + "\n";
+  run_header += use_lower_threshold ? "# at a lower link weight threshold of " +
+                                          Six_digits(lower_threshold) + ",\n"
+                                    : "# at no lower link weight threshold,\n";
+  run_header += use_upper_threshold ? "# and at an upper link weight threshold of " +
+                                          Six_digits(upper_threshold) + ".\n"
+                                    : "# and at no upper link weight threshold.\n";
+}
+
+void Extend_alap_szoveg(std::string& run_header, bool use_intensity, double intensity_threshold,
+                        bool directed, bool use_time_limit, double time_limit, bool use_single_k,
+                        std::uint32_t single_k) {
+  if (use_intensity)
+    run_header += "# A lower link weight intensity threshold of " +
+                  Six_digits(intensity_threshold) + " was set.\n";
+  run_header += directed ? "# Links were treated as directed.\n"
+                         : "# Links were treated as undirected.\n";
+  run_header += use_time_limit
+                    ? "# The maximal allowed time per node during clique search was " +
+                          Six_digits(time_limit) + " secs.\n"
+                    : "# No time limit was set for the clique search.\n";
+  if (use_single_k)
+    run_header +=
+        "# The communities were extracted solely at k=" + std::to_string(single_k) + ".\n";
+}
+
+void Kiir_params(const std::string& output_dir, const std::string& run_header) {
+  Dir_prepare(output_dir, "keep");
+  Text_writer file(results_names::Params(output_dir));
+  file << "# Vorlane was run on links taken" << run_header;
+}
+
+void Generate_com_flag(std::string& com_flag, bool directed, bool use_intensity) {
+  com_flag.clear();
+  if (directed) com_flag = "directed";
+  if (use_intensity) com_flag = "intensity";
+}
+
+}  // namespace gns

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace gns {
+
+/// Refuses a directory that holds anything: throws Xerror_msg. A missing or an empty one passes.
+void Check_out_dir(const std::string& output_dir);
+
+/// Sets `run_header` to its first three lines: the input's absolute path and the thresholds.
+void Generate_alap_szoveg(std::string& run_header, const std::string& input_file,
+                          bool use_lower_threshold, double lower_threshold,
+                          bool use_upper_threshold, double upper_threshold);
+
+/// Appends the lines on intensity, direction, time limit and single k.
+void Extend_alap_szoveg(std::string& run_header, bool use_intensity, double intensity_threshold,
+                        bool directed, bool use_time_limit, double time_limit, bool use_single_k,
+                        std::uint32_t single_k);
+
+/// Creates the results directory and writes input_params.txt, which holds the header alone.
+void Kiir_params(const std::string& output_dir, const std::string& run_header);
+
+/// Sets `com_flag` to "directed", "intensity" or nothing.
+void Generate_com_flag(std::string& com_flag, bool directed, bool use_intensity);
+
+}  // namespace gns

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace gns {
+
+/// The names of everything in a results directory; the one place that forms them.
+///
+/// OUT/input_params.txt, OUT/[directed_]graph, OUT/[directed_]cliques, and for each k OUT/k=K with
+/// k-cliques, [FLAG_]communities, [FLAG_]communities_cliques, [FLAG_]communities_links,
+/// graph_of_[FLAG_]communities and [FLAG_]<kind>_distribution[STAT_FLAG], where FLAG is "directed",
+/// "intensity" or empty.
+namespace results_names {
+
+std::string Params(const std::string& output_dir);
+std::string Graph(const std::string& output_dir, bool directed);
+std::string Cliques(const std::string& output_dir, const std::string& com_flag);
+std::string Dir_of_k(const std::string& output_dir, std::uint32_t k);
+/// A file of communities in the directory of a k; `base_name` without the flag.
+std::string In_dir_of_k(const std::string& dir_of_k, const std::string& com_flag,
+                        const std::string& base_name);
+std::string Graph_of_communities(const std::string& dir_of_k, const std::string& com_flag);
+
+/// `com_flag` as far as it marks graph and clique files, where "intensity" doesn't count.
+std::string Clique_flag(const std::string& com_flag);
+/// `flag` followed by `separator`, or nothing if it is empty.
+std::string Lead(const std::string& flag, char separator);
+
+}  // namespace results_names
+}  // namespace gns
