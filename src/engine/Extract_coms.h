@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "communities/Community_statistics.h"
+#include "communities/Percolation.h"
+#include "engine/Run_summary.h"
+#include "graph/Index_links.h"
+#include "graph/Node_names.h"
+#include "search/Clique_vector.h"
+#include "search/Overlap_matrix.h"
+
+namespace gns {
+
+/// What the extraction works from, the same for every k.
+struct Extraction_input {
+  const Clique_vector& cliques;
+  std::uint32_t exact_clique_count;
+  const std::string& com_flag;
+  const std::string& run_header;
+  const std::string& output_dir;
+  const Node_names& node_names;
+  std::uint32_t vertex_count;
+  const Index_links& index_links;
+  std::uint32_t max_clique_size;  ///< for the state report only
+};
+
+/// Finds the communities at one k after the other, best with k descending, and writes their files.
+class Extraction {
+ public:
+  explicit Extraction(const Extraction_input& input);
+
+  /// Everything that a run does at one k. Reports and polls; throws what the stages throw, and files
+  /// written until then stay.
+  K_summary At(std::uint32_t k);
+
+ private:
+  const Communities& Find_communities(std::uint32_t k);
+  void Write_communities(std::uint32_t k, const Communities& communities) const;
+  Distribution Write_statistics(std::uint32_t k, const Communities& communities,
+                                const Com_graph& com_graph) const;
+
+  Extraction_input input_;
+  Percolation percolation_;
+};
+
+}  // namespace gns

@@ -1,0 +1,97 @@
+#include "engine/Run_stages.h"
+
+#include "communities/Coms_funcs.h"
+#include "control/Clique_find_ext_cont.h"
+#include "engine/Extract_coms.h"
+#include "files/Graph_and_clique_files.h"
+#include "files/Results_directory.h"
+#include "files/Unfinished_mark.h"
+#include "foundation/File_faults.h"
+#include "graph/Link_conversion.h"
+#include "search/Undirected_search.h"
+
+namespace gns {
+
+namespace {
+
+using external_control::Check_for_stop_signal;
+using external_control::CURRENT_STATE_REPORT;
+
+void Summarize(const Clique_vector& cliques, std::uint32_t exact_clique_count,
+               Run_summary& summary) {
+  summary.cliques_of_size.assign(Max_clique_size_in_cl_vec(cliques) + std::size_t{1}, 0);
+  for (std::size_t i = 0; i < cliques.size(); ++i) ++summary.cliques_of_size[cliques[i].size()];
+  summary.exact_cliques = exact_clique_count;
+  summary.approximate_cliques = cliques.size() - exact_clique_count;
+}
+
+void Extract_all(const Run_parameters& parameters, const Extraction_input& input,
+                 Run_summary& summary) {
+  Extraction extraction(input);
+  if (parameters.use_single_k) {
+    summary.extractions.push_back(extraction.At(parameters.single_k));
+    return;
+  }
+  for (std::uint32_t k = input.max_clique_size; k >= 3; --k) {
+    Check_for_stop_signal();
+    summary.extractions.push_back(extraction.At(k));
+  }
+}
+
+}  // namespace
+
+void Open_results(const Run_start& start) {
+  Forget_file_faults();
+  Set_unfinished_mark(start.parameters.output_dir);
+  Kiir_params(start.parameters.output_dir, start.run_header);
+}
+
+void Run_from_links(const Run_start& start, Link_map& links, bool& approximation_needed,
+                    Run_summary& summary) {
+  const Run_parameters& parameters = start.parameters;
+  Kiir_graph(links, parameters.output_dir, parameters.directed, start.run_header, start.weighted);
+  CURRENT_STATE_REPORT = "_______________\n Links read OK.\n";
+  Check_for_stop_signal();
+
+  CURRENT_STATE_REPORT = "____________________\n Converting links...\n";
+  Index_links index_links;
+  Node_names node_names;
+  Convert_s_links(index_links, node_names, links, parameters.directed);
+  links.clear();
+  CURRENT_STATE_REPORT = " Links converted OK, total number of " +
+                         std::to_string(index_links.size()) +
+                         "  will be\n taken into account in the community finding.\n";
+  Check_for_stop_signal();
+
+  CURRENT_STATE_REPORT =
+      "__________________________________\n Preparing graph from the links...\n";
+  Vertex_map vtx_map;
+  Vtx_map_from_link_map(vtx_map, index_links);
+  const std::uint32_t vertex_count = vtx_map.size();
+  summary.nodes = vertex_count;
+  summary.links = index_links.size();
+  CURRENT_STATE_REPORT = " Graph created from the links OK.\n";
+  Check_for_stop_signal();
+
+  Clique_vector cliques;
+  Clique_find_ec(cliques, vtx_map);
+  const auto exact_clique_count = static_cast<std::uint32_t>(cliques.size());
+  approximation_needed = exact_clique_count < cliques.size();
+  Summarize(cliques, exact_clique_count, summary);
+  Check_for_stop_signal();
+
+  CURRENT_STATE_REPORT = "___________________________\n Writing cliques to disk...\n";
+  Kiir_cliques_VL(parameters.output_dir, cliques, node_names, exact_clique_count, start.com_flag,
+                  start.run_header);
+  CURRENT_STATE_REPORT = " done.\n";
+  Check_for_stop_signal();
+
+  Extract_all(parameters,
+              {cliques, exact_clique_count, start.com_flag, start.run_header,
+               parameters.output_dir, node_names, vertex_count, index_links,
+               Max_clique_size_in_cl_vec(cliques)},
+              summary);
+  if (File_faults().empty()) Remove_unfinished_mark(parameters.output_dir);
+}
+
+}  // namespace gns
