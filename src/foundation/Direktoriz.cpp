@@ -46,6 +46,17 @@ std::vector<std::string> Scan_dir(const std::string& path) {
   return names;
 }
 
+/// The type of something that was just found in the directory `path`.
+std::string Type_of_entry(const std::string& path, const std::string& name) {
+  std::string type;
+  bool empty = true;
+  std::string error_text;
+  if (!Is_there_such_path(path + "/" + name, type, empty, error_text)) {
+    throw Xerror_msg("ERROR: problem with " + name + " in List_dir():\n" + error_text);
+  }
+  return type;
+}
+
 }  // namespace
 
 bool Is_there_such_path(const std::string& path, std::string& type, bool& empty,
@@ -108,12 +119,7 @@ std::vector<Dir_entry> List_dir(const std::string& path) {
 
   std::vector<Dir_entry> listing;
   for (const std::string& name : Scan_dir(path)) {
-    if (name == "." || name == "..") continue;
-    std::string type;
-    if (!Is_there_such_path(path + "/" + name, type, empty, error_text)) {
-      throw Xerror_msg("ERROR: problem with " + name + " in List_dir():\n" + error_text);
-    }
-    listing.emplace_back(name, type);
+    if (name != "." && name != "..") listing.emplace_back(name, Type_of_entry(path, name));
   }
   return listing;
 }

@@ -12,8 +12,8 @@ std::string int2string(std::uint32_t value, unsigned width) {
 }
 
 std::string int2string(std::int32_t value, unsigned width) {
-  if (value == 0) return std::string(width, '0');
   std::string text = int2string(value);
+  if (value == 0) return text.assign(width, '0');
   const double wanted = width;
   const double logarithm = std::log10(std::abs(static_cast<double>(value)));
   if (logarithm >= wanted - 1) return text;

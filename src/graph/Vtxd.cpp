@@ -32,9 +32,10 @@ Vtxd::Vtxd(Node_index index, const Node_set& oneighs, const Node_set& ineighs,
   name_ = name;
 }
 
+// NOLINTNEXTLINE(bugprone-copy-constructor-init,readability-redundant-member-init): Copy does it
 Vtxd::Vtxd(const Vtxd& other) : Vtx() { Vtxd::Copy(other); }
 
-Vtxd::Vtxd(const Vtx& other) : Vtx() { Vtxd::Copy(other); }
+Vtxd::Vtxd(const Vtx& other) { Vtxd::Copy(other); }
 
 Vtxd::~Vtxd() = default;
 
