@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "foundation/Errors.h"
+#include "graph/Link_map.h"
+
+namespace gns {
+
+/// Thrown with the empty text when the usage has been printed and nothing is left to say.
+class Xusage_printed : public Xerror_msg {
+ public:
+  explicit Xusage_printed(bool on_request);
+
+  bool on_request;  ///< the usage was asked for; else the command line is wrong
+};
+
+/// Turns a command line into the parameters of a run, reads the links and begins the header.
+///
+/// The switches set the booleans to true or false, but `directed` only ever to true, so it starts
+/// at false. The numbers are written only where their switch is given. Throws `Xusage_printed`
+/// after printing the usage, and the errors of the link readers.
+void Process_input(const int& argc, const char* const* argv, std::string& output_dir,
+                   Link_map& links, double& time_limit, bool& use_time_limit, bool& directed,
+                   bool& use_intensity, double& intensity_threshold, bool& use_single_k,
+                   unsigned& single_k, bool& weighted, std::string& com_flag,
+                   std::string& run_header);
+
+}  // namespace gns
