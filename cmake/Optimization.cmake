@@ -1,0 +1,12 @@
+# A release uses what the processor at hand offers (bit counts, wide vectors). Switch it off for
+# programs that are to run elsewhere. Floating-point operations are never fused: results have to be
+# the same on every machine.
+option(VORLANE_NATIVE "Compile a release for the processor of this machine" ON)
+add_compile_options(-ffp-contract=off)
+if(VORLANE_NATIVE AND NOT VORLANE_SANITIZE AND CMAKE_BUILD_TYPE STREQUAL "Release")
+  include(CheckCXXCompilerFlag)
+  check_cxx_compiler_flag(-march=native VORLANE_HAS_NATIVE)
+  if(VORLANE_HAS_NATIVE)
+    add_compile_options(-march=native)
+  endif()
+endif()
