@@ -18,7 +18,8 @@ void Append_all_pairs(Node_span members, Communities& result) {
 Community_contents::Community_contents(const Clique_vector& cliques)
     : cliques_(cliques), community_of_(cliques.size(), none) {
   const std::vector<Node_index>& members = cliques.Values();
-  const std::size_t nodes = members.empty() ? 1 : std::size_t{*std::ranges::max_element(members)} + 1;
+  const std::size_t nodes =
+      members.empty() ? 1 : std::size_t{*std::ranges::max_element(members)} + 1;
   place_of_.assign(nodes, 0);
   met_by_.assign(nodes, 0);
 }
@@ -99,15 +100,15 @@ void Community_contents::For_each_source(const Communities& before, Use use) con
   for (const Clique_index clique : new_cliques_) {
     const Node_span row = cliques_[clique];
     for (std::size_t i = 0; i + 1 < row.size(); ++i)
-      use(row[i], Source{nullptr, row.data() + i + 1, static_cast<std::uint32_t>(row.size() - i - 1)});
+      use(row[i],
+          Source{nullptr, row.data() + i + 1, static_cast<std::uint32_t>(row.size() - i - 1)});
   }
 }
 
 void Community_contents::Collect_sources(const Communities& before) {
   source_starts_.assign(members_.size() + 2, 0);
-  For_each_source(before, [this](Node_index node, const Source&) {
-    ++source_starts_[place_of_[node] + 1];
-  });
+  For_each_source(
+      before, [this](Node_index node, const Source&) { ++source_starts_[place_of_[node] + 1]; });
   std::partial_sum(source_starts_.begin(), source_starts_.end(), source_starts_.begin());
   sources_.resize(source_starts_.back());
   // Filling moves each start on to the start of the next member.

@@ -50,10 +50,10 @@ class Community_contents {
   std::vector<std::uint32_t> parts_;         ///< communities taken over
   std::vector<Clique_index> new_cliques_;
   std::vector<Node_index> members_;
-  std::vector<std::uint32_t> place_of_;      ///< per node: position in members_ + 1, or 0
+  std::vector<std::uint32_t> place_of_;  ///< per node: position in members_ + 1, or 0
   std::vector<std::uint32_t> source_starts_;
   std::vector<Source> sources_;
-  std::vector<Node_index> met_by_;           ///< per node: the member it was last met by
+  std::vector<Node_index> met_by_;  ///< per node: the member it was last met by
   std::vector<Node_index> met_;
 };
 

@@ -27,8 +27,9 @@ using Distribution = std::map<std::uint32_t, std::uint32_t>;
 void Prepare_community_graph(Com_graph& com_graph, const Row_array<Node_index>& coms);
 
 /// Computes the distributions of community size, community degree, overlap size and node
-/// membership. `vertex_count` is the number of vertices of the graph; those in no community count at
-/// membership 0, a key that is always there. Throws Xerror_msg if the communities hold more nodes.
+/// membership. `vertex_count` is the number of vertices of the graph; those in no community count
+/// at membership 0, a key that is always there. Throws Xerror_msg if the communities hold more
+/// nodes.
 void Community_statistics(Distribution& size_dist, Distribution& degree_dist,
                           Distribution& overlap_dist, Distribution& membership_dist,
                           const Row_array<Node_index>& coms, std::uint32_t vertex_count);

@@ -19,7 +19,8 @@ namespace Coms_report_sub {
 
 void Report_com_export(std::uint32_t k, std::uint32_t max_clique_size, std::ostream& stream) {
   constexpr std::uint32_t rule_without_k = 48;
-  const double done = 100.0 * ((max_clique_size - k) + 0.5) / (static_cast<double>(max_clique_size) - 2);
+  const double done =
+      100.0 * ((max_clique_size - k) + 0.5) / (static_cast<double>(max_clique_size) - 2);
   stream << std::string(Num_width(k) + rule_without_k, '_') << "\n"
          << " Extracting communities at k=" << k << " (completed " << double2string(done, 2)
          << "%)\n";

@@ -62,8 +62,8 @@ void Percolation::Claim_community(std::uint32_t k, Clique_index seed) {
                                 claimed_.end(), is_approximate)});
 }
 
-/// Claims the unclaimed cliques that share at least k - 1 nodes with `clique`, ascending; the clique
-/// itself is among them if it is unclaimed. Yields the new end of claimed_.
+/// Claims the unclaimed cliques that share at least k - 1 nodes with `clique`, ascending; the
+/// clique itself is among them if it is unclaimed. Yields the new end of claimed_.
 std::size_t Percolation::Claim_neighbours(std::uint32_t k, Clique_index clique) {
   const std::size_t start = claimed_.size();
   const std::uint32_t least_overlap = k == 1 ? 1 : k - 1;  // cliques that share nothing never join

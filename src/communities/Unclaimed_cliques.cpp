@@ -15,7 +15,8 @@ constexpr std::uint64_t Signature_bit(std::size_t turn) { return std::uint64_t{1
 Unclaimed_cliques::Unclaimed_cliques(const Clique_vector& cliques)
     : cliques_(cliques), claimed_(cliques.size() / 64 + 1, 0), seen_(cliques.size(), 0) {
   const std::vector<Node_index>& members = cliques.Values();
-  const std::size_t nodes = members.empty() ? 1 : std::size_t{*std::ranges::max_element(members)} + 1;
+  const std::size_t nodes =
+      members.empty() ? 1 : std::size_t{*std::ranges::max_element(members)} + 1;
   starts_.assign(nodes + 1, 0);
   for (const Node_index node : members) ++starts_[node + 1];
   std::vector<Node_index> by_frequency(nodes);

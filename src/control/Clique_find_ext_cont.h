@@ -43,7 +43,8 @@ extern std::atomic<bool> STOP_INSIDE_LONG_STAGES;
 
 /// Returns while no stop is asked for; otherwise ends the run by an exception.
 inline void Check_for_stop_signal() {
-  if (STOP_CURRENT_PROCESS.load(std::memory_order_relaxed)) [[unlikely]] End_by_stop();
+  if (STOP_CURRENT_PROCESS.load(std::memory_order_relaxed)) [[unlikely]]
+    End_by_stop();
 }
 
 /// The poll of the long stages: does nothing unless STOP_INSIDE_LONG_STAGES is set.

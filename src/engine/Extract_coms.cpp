@@ -90,8 +90,8 @@ void Extraction::Write_communities(std::uint32_t k, const Communities& communiti
 Distribution Extraction::Write_statistics(std::uint32_t k, const Communities& communities,
                                           const Com_graph& com_graph) const {
   const auto write = [&](const Statistics& s, const std::string& stat_flag) {
-    Kiir_stats_VL(s.membership, s.size, s.overlap, s.degree, input_.output_dir, k,
-                  input_.com_flag, stat_flag, input_.run_header);
+    Kiir_stats_VL(s.membership, s.size, s.overlap, s.degree, input_.output_dir, k, input_.com_flag,
+                  stat_flag, input_.run_header);
   };
   Statistics all;
   Community_statistics(all.size, all.degree, all.overlap, all.membership, communities.coms,

@@ -31,8 +31,8 @@ class Extraction {
  public:
   explicit Extraction(const Extraction_input& input);
 
-  /// Everything that a run does at one k. Reports and polls; throws what the stages throw, and files
-  /// written until then stay.
+  /// Everything that a run does at one k. Reports and polls; throws what the stages throw, and
+  /// files written until then stay.
   K_summary At(std::uint32_t k);
 
  private:

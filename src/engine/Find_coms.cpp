@@ -51,8 +51,8 @@ void Run(const Run_parameters& parameters, bool& approximation_needed, Run_summa
   start.run_header = Header_of(parameters);
   Open_results(start);
   Generate_com_flag(start.com_flag, parameters.directed, parameters.use_intensity);
-  start.weighted = parameters.use_lower_threshold || parameters.use_upper_threshold ||
-                   parameters.use_intensity;
+  start.weighted =
+      parameters.use_lower_threshold || parameters.use_upper_threshold || parameters.use_intensity;
   Link_map links;
   Read_links(parameters, start.weighted, links);
   Run_from_links(start, links, approximation_needed, summary);
@@ -65,10 +65,11 @@ std::string Find_coms(const std::string& input_file, const std::string& output_d
                       double upper_threshold, bool directed, bool use_intensity,
                       double intensity_threshold, bool use_time_limit, double time_limit,
                       bool use_single_k, std::uint32_t single_k, bool& approximation_needed) {
-  const Run_parameters parameters = {
-      input_file,    output_dir,          use_lower_threshold, lower_threshold, use_upper_threshold,
-      upper_threshold, directed,          use_intensity,       intensity_threshold,
-      use_time_limit,  time_limit,        use_single_k,        single_k};
+  const Run_parameters parameters = {input_file,      output_dir,          use_lower_threshold,
+                                     lower_threshold, use_upper_threshold, upper_threshold,
+                                     directed,        use_intensity,       intensity_threshold,
+                                     use_time_limit,  time_limit,          use_single_k,
+                                     single_k};
   Run_summary summary;
   return Find_coms(parameters, approximation_needed, summary);
 }

@@ -63,8 +63,7 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
                          "  will be\n taken into account in the community finding.\n";
   Check_for_stop_signal();
 
-  CURRENT_STATE_REPORT =
-      "__________________________________\n Preparing graph from the links...\n";
+  CURRENT_STATE_REPORT = "__________________________________\n Preparing graph from the links...\n";
   Vertex_map vtx_map;
   Vtx_map_from_link_map(vtx_map, index_links);
   const std::uint32_t vertex_count = vtx_map.size();
@@ -87,9 +86,8 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
   Check_for_stop_signal();
 
   Extract_all(parameters,
-              {cliques, exact_clique_count, start.com_flag, start.run_header,
-               parameters.output_dir, node_names, vertex_count, index_links,
-               Max_clique_size_in_cl_vec(cliques)},
+              {cliques, exact_clique_count, start.com_flag, start.run_header, parameters.output_dir,
+               node_names, vertex_count, index_links, Max_clique_size_in_cl_vec(cliques)},
               summary);
   if (File_faults().empty()) Remove_unfinished_mark(parameters.output_dir);
 }

@@ -19,8 +19,8 @@ struct Run_start {
 /// Prepares the results directory, which must be empty or missing. The first write of a run.
 void Open_results(const Run_start& start);
 
-/// Everything behind the reading of the links; `links` is emptied on the way. Throws what its stages
-/// throw.
+/// Everything behind the reading of the links; `links` is emptied on the way. Throws what its
+/// stages throw.
 void Run_from_links(const Run_start& start, Link_map& links, bool& approximation_needed,
                     Run_summary& summary);
 

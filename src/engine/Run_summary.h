@@ -10,7 +10,7 @@ namespace gns {
 struct K_summary {
   std::uint32_t k = 0;
   std::size_t communities = 0;
-  std::size_t largest = 0;         ///< nodes of the largest community
+  std::size_t largest = 0;          ///< nodes of the largest community
   std::uint32_t nodes_covered = 0;  ///< nodes in at least one community
 };
 

@@ -40,8 +40,8 @@ class Link_lookup {
     }
     if (next_ == row_.size() || row_[next_] != link.second) {
       const auto from = row_.begin() + static_cast<std::ptrdiff_t>(next_);
-      next_ = static_cast<std::size_t>(std::lower_bound(from, row_.end(), link.second) -
-                                       row_.begin());
+      next_ =
+          static_cast<std::size_t>(std::lower_bound(from, row_.end(), link.second) - row_.begin());
     }
     if (next_ == row_.size() || row_[next_] != link.second) return false;
     ++next_;
@@ -57,22 +57,23 @@ class Link_lookup {
 
 }  // namespace
 
-void Kiir_coms_VL(const Row_array<Node_index>& coms, const std::string& output_dir,
-                  std::uint32_t k, const Node_names& node_names, std::uint32_t exact_com_count,
+void Kiir_coms_VL(const Row_array<Node_index>& coms, const std::string& output_dir, std::uint32_t k,
+                  const Node_names& node_names, std::uint32_t exact_com_count,
                   const std::string& com_flag, const std::string& run_header) {
   const std::string dir_of_k = Prepared_dir(output_dir, k);
   Text_writer file(results_names::In_dir_of_k(dir_of_k, com_flag, "communities"));
   Write_head(file, "# The " + Lead(com_flag, ' ') + "communities ", k, run_header,
-             exact_com_count < coms.size() ? "# Negative indices indicate approximate communities.\n"
-                                           : "");
+             exact_com_count < coms.size()
+                 ? "# Negative indices indicate approximate communities.\n"
+                 : "");
   for (std::uint32_t com = 0; com < coms.size(); ++com)
     Write_members(file, com, exact_com_count, coms[com], node_names);
 }
 
-void Kiir_coms_cliques_VL(const Row_array<Clique_index>& com_cliques,
-                          const std::string& output_dir, std::uint32_t k,
-                          std::uint32_t exact_com_count, std::uint32_t exact_clique_count,
-                          const std::string& com_flag, const std::string& run_header) {
+void Kiir_coms_cliques_VL(const Row_array<Clique_index>& com_cliques, const std::string& output_dir,
+                          std::uint32_t k, std::uint32_t exact_com_count,
+                          std::uint32_t exact_clique_count, const std::string& com_flag,
+                          const std::string& run_header) {
   const std::string dir_of_k = Prepared_dir(output_dir, k);
   Text_writer file(results_names::In_dir_of_k(dir_of_k, com_flag, "communities_cliques"));
   const std::string flag = Lead(com_flag, ' ');
@@ -91,13 +92,12 @@ void Kiir_coms_cliques_VL(const Row_array<Clique_index>& com_cliques,
 }
 
 void Kiir_com_links_VL(const Row_array<Index_pair>& com_links, const std::string& output_dir,
-                       std::uint32_t k, const Node_names& node_names,
-                       std::uint32_t exact_com_count, const std::string& com_flag,
-                       const std::string& run_header, const Index_links& index_links) {
+                       std::uint32_t k, const Node_names& node_names, std::uint32_t exact_com_count,
+                       const std::string& com_flag, const std::string& run_header,
+                       const Index_links& index_links) {
   const std::string dir_of_k = Prepared_dir(output_dir, k);
   Text_writer file(results_names::In_dir_of_k(dir_of_k, com_flag, "communities_links"));
-  Write_head(file, "# The links inside the " + Lead(com_flag, ' ') + "communities ", k,
-             run_header);
+  Write_head(file, "# The links inside the " + Lead(com_flag, ' ') + "communities ", k, run_header);
   Link_lookup lookup(index_links);
   for (std::uint32_t com = 0; com < com_links.size(); ++com) {
     external_control::Check_inside_long_stage();
@@ -112,8 +112,8 @@ void Kiir_com_links_VL(const Row_array<Index_pair>& com_links, const std::string
 }
 
 void Kiir_com_graph_VL(const Com_graph& com_graph, std::uint32_t exact_com_count,
-                       const std::string& output_dir, std::uint32_t k,
-                       const std::string& com_flag, const std::string& run_header) {
+                       const std::string& output_dir, std::uint32_t k, const std::string& com_flag,
+                       const std::string& run_header) {
   const std::string dir_of_k = Prepared_dir(output_dir, k);
   Text_writer file(results_names::Graph_of_communities(dir_of_k, com_flag));
   Write_head(file, "# The graph of " + Lead(com_flag, ' '), k, run_header);

@@ -15,26 +15,26 @@ namespace gns {
 /// carry a minus sign. All of them prepare the directory of the k.
 
 /// A line per community: its index and its members' names.
-void Kiir_coms_VL(const Row_array<Node_index>& coms, const std::string& output_dir,
-                  std::uint32_t k, const Node_names& node_names, std::uint32_t exact_com_count,
+void Kiir_coms_VL(const Row_array<Node_index>& coms, const std::string& output_dir, std::uint32_t k,
+                  const Node_names& node_names, std::uint32_t exact_com_count,
                   const std::string& com_flag, const std::string& run_header);
 
 /// A line per community: its index and the indices of its cliques in claim order.
-void Kiir_coms_cliques_VL(const Row_array<Clique_index>& com_cliques,
-                          const std::string& output_dir, std::uint32_t k,
-                          std::uint32_t exact_com_count, std::uint32_t exact_clique_count,
-                          const std::string& com_flag, const std::string& run_header);
+void Kiir_coms_cliques_VL(const Row_array<Clique_index>& com_cliques, const std::string& output_dir,
+                          std::uint32_t k, std::uint32_t exact_com_count,
+                          std::uint32_t exact_clique_count, const std::string& com_flag,
+                          const std::string& run_header);
 
 /// A block per community: a head line with its index, then a line per link. A link that
 /// `index_links` holds from the smaller to the greater index is shown so, any other the other way.
 void Kiir_com_links_VL(const Row_array<Index_pair>& com_links, const std::string& output_dir,
-                       std::uint32_t k, const Node_names& node_names,
-                       std::uint32_t exact_com_count, const std::string& com_flag,
-                       const std::string& run_header, const Index_links& index_links);
+                       std::uint32_t k, const Node_names& node_names, std::uint32_t exact_com_count,
+                       const std::string& com_flag, const std::string& run_header,
+                       const Index_links& index_links);
 
 /// A line per pair of communities that share nodes: two indices and the number of nodes.
 void Kiir_com_graph_VL(const Com_graph& com_graph, std::uint32_t exact_com_count,
-                       const std::string& output_dir, std::uint32_t k,
-                       const std::string& com_flag, const std::string& run_header);
+                       const std::string& output_dir, std::uint32_t k, const std::string& com_flag,
+                       const std::string& run_header);
 
 }  // namespace gns

@@ -12,7 +12,8 @@ void Kiir_graph(const Link_map& links, const std::string& output_dir, bool direc
   Dir_prepare(output_dir, "keep");
   Text_writer file(results_names::Graph(output_dir, directed));
   file << "# The links" << run_header
-       << (directed ? "# (self-links were removed)\n" : "# (mutual links and self-links were removed)\n")
+       << (directed ? "# (self-links were removed)\n"
+                    : "# (mutual links and self-links were removed)\n")
        << '\n';
   for (std::size_t i = 0; i < links.size(); ++i) {
     file << links.First(i) << ' ' << links.Second(i);

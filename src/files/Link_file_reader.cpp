@@ -48,8 +48,7 @@ bool Link_in_interval(double weight, bool use_lower_threshold, double lower_thre
 }
 
 void Read_weighted_links(const std::string& file_name, Link_map& links, bool use_lower_threshold,
-                         double lower_threshold, bool use_upper_threshold,
-                         double upper_threshold) {
+                         double lower_threshold, bool use_upper_threshold, double upper_threshold) {
   Read_links(
       file_name, links, true,
       [](std::string_view rest, double& weight) { return Extract_double(rest, weight); },

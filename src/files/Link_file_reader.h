@@ -8,9 +8,9 @@ namespace gns {
 
 /// A link file holds one link per line: two names and, where weights matter, a number, separated by
 /// white space; what follows is ignored. Blanks and tabs at both ends of a line are cut; then lines
-/// that are empty, begin with "#" or hold one character are skipped, and so are links of a node with
-/// itself. Both readers throw Xep_file_not_found, or Xep_wrong_line with the cut line where a field
-/// is missing or the weight is no number.
+/// that are empty, begin with "#" or hold one character are skipped, and so are links of a node
+/// with itself. Both readers throw Xep_file_not_found, or Xep_wrong_line with the cut line where a
+/// field is missing or the weight is no number.
 
 /// Reads names and weights. The weights of a repeated (first, second) add up; a line whose own
 /// weight is outside the open interval is dropped.
@@ -20,7 +20,8 @@ void Read_weighted_links(const std::string& file_name, Link_map& links, bool use
 /// Reads names only; every weight is 0.0.
 void Read_unw_links(const std::string& file_name, Link_map& links);
 
-/// True if the weight is strictly above the lower and strictly below the upper bound, as far as set.
+/// True if the weight is strictly above the lower and strictly below the upper bound, as far as
+/// set.
 bool Link_in_interval(double weight, bool use_lower_threshold, double lower_threshold,
                       bool use_upper_threshold, double upper_threshold);
 

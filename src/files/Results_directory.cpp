@@ -30,9 +30,9 @@ void Generate_alap_szoveg(std::string& run_header, const std::string& input_file
                           bool use_lower_threshold, double lower_threshold,
                           bool use_upper_threshold, double upper_threshold) {
   run_header = " from " + Get_total_path(input_file) + "\n";
-  run_header += use_lower_threshold ? "# at a lower link weight threshold of " +
-                                          Six_digits(lower_threshold) + ",\n"
-                                    : "# at no lower link weight threshold,\n";
+  run_header += use_lower_threshold
+                    ? "# at a lower link weight threshold of " + Six_digits(lower_threshold) + ",\n"
+                    : "# at no lower link weight threshold,\n";
   run_header += use_upper_threshold ? "# and at an upper link weight threshold of " +
                                           Six_digits(upper_threshold) + ".\n"
                                     : "# and at no upper link weight threshold.\n";
@@ -44,12 +44,11 @@ void Extend_alap_szoveg(std::string& run_header, bool use_intensity, double inte
   if (use_intensity)
     run_header += "# A lower link weight intensity threshold of " +
                   Six_digits(intensity_threshold) + " was set.\n";
-  run_header += directed ? "# Links were treated as directed.\n"
-                         : "# Links were treated as undirected.\n";
-  run_header += use_time_limit
-                    ? "# The maximal allowed time per node during clique search was " +
-                          Six_digits(time_limit) + " secs.\n"
-                    : "# No time limit was set for the clique search.\n";
+  run_header +=
+      directed ? "# Links were treated as directed.\n" : "# Links were treated as undirected.\n";
+  run_header += use_time_limit ? "# The maximal allowed time per node during clique search was " +
+                                     Six_digits(time_limit) + " secs.\n"
+                               : "# No time limit was set for the clique search.\n";
   if (use_single_k)
     run_header +=
         "# The communities were extracted solely at k=" + std::to_string(single_k) + ".\n";

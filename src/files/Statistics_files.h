@@ -16,7 +16,6 @@ void Kiir_stats_VL(const Distribution& membership_dist, const Distribution& size
 
 /// Writes one distribution: `title` (all comment lines), a blank line, a line per entry, a blank
 /// line.
-void Kiir_VL_dist(const std::string& file_name, const Distribution& dist,
-                  const std::string& title);
+void Kiir_VL_dist(const std::string& file_name, const Distribution& dist, const std::string& title);
 
 }  // namespace gns

@@ -12,8 +12,7 @@
 
 namespace gns {
 
-Text_writer::Text_writer(std::string path)
-    : path_(std::move(path)), buffer_(new char[capacity]) {
+Text_writer::Text_writer(std::string path) : path_(std::move(path)), buffer_(new char[capacity]) {
   constexpr mode_t mode = 0666;
   file_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, mode);
   if (file_ < 0) Fail("open");
@@ -42,8 +41,7 @@ Text_writer& Text_writer::operator<<(char c) {
 
 Text_writer& Text_writer::Write_integer(std::int64_t value) {
   if (capacity - used_ < longest_number) Flush();
-  const auto result =
-      std::to_chars(buffer_.get() + used_, buffer_.get() + capacity, value);
+  const auto result = std::to_chars(buffer_.get() + used_, buffer_.get() + capacity, value);
   used_ = static_cast<std::size_t>(result.ptr - buffer_.get());
   return *this;
 }

@@ -12,19 +12,15 @@ class Adjacency {
  public:
   Adjacency() = default;
 
-  /// Builds the rows in two passes over `source`. `expand(item, enter)` calls enter(node, member)
-  /// for each member that the item gives; members stand in a row in the order of entering.
-  template <typename Source, typename Expand>
-  Adjacency(Node_index node_count, const Source& source, Expand expand)
-      : starts_(std::size_t{node_count} + 2, 0) {
-    const auto for_all = [&](auto&& enter) {
-      for (const auto& item : source) expand(item, enter);
-    };
-    for_all([this](Node_index node, Node_index) { ++starts_[node + 1]; });
+  /// Builds the rows in two passes: `list(enter)` calls enter(node, member) for each member of each
+  /// row, the same both times; members stand in a row in the order of entering.
+  template <typename List>
+  Adjacency(Node_index node_count, List list) : starts_(std::size_t{node_count} + 2, 0) {
+    list([this](Node_index node, Node_index) { ++starts_[std::size_t{node} + 1]; });
     for (std::size_t i = 1; i < starts_.size(); ++i) starts_[i] += starts_[i - 1];
     members_.resize(starts_.back());
     std::vector<std::size_t> place(starts_.begin(), starts_.end() - 1);
-    for_all([&](Node_index node, Node_index member) { members_[place[node]++] = member; });
+    list([&](Node_index node, Node_index member) { members_[place[node]++] = member; });
   }
 
   [[nodiscard]] Node_span operator[](Node_index node) const {

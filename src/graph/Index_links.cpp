@@ -7,8 +7,10 @@ namespace gns {
 
 Index_links::Index_links(const std::vector<Index_pair>& keys, std::vector<double> weights,
                          Node_index node_count)
-    : rows_(node_count, keys,
-            [](const Index_pair& key, auto&& enter) { enter(key.first, key.second); }),
+    : rows_(node_count,
+            [&](auto enter) {
+              for (const Index_pair& key : keys) enter(key.first, key.second);
+            }),
       weights_(std::move(weights)) {}
 
 bool Index_links::contains(Node_index first, Node_index second) const {

@@ -1,8 +1,8 @@
 #include "graph/Link_conversion.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
-#include <ranges>
 #include <utility>
 
 #include "graph/Pair_sort.h"
@@ -33,8 +33,11 @@ class Node_numbering {
   std::vector<std::uint32_t> name_of_;
 };
 
-auto Nodes_of(const Index_links& links) {
-  return std::views::iota(Node_index{1}, links.Node_count() + 1);
+/// Calls use(first, second) for each key, ascending.
+template <typename Use>
+void For_each_key(const Index_links& links, Use use) {
+  for (Node_index first = 1; first <= links.Node_count(); ++first)
+    for (const Node_index second : links.Row(first)) use(first, second);
 }
 
 }  // namespace
@@ -62,29 +65,27 @@ void Convert_s_links(Index_links& index_links, Node_names& node_names, const Lin
 
 void Vtx_map_from_link_map(Vertex_map& vtx_map, const Index_links& index_links) {
   // Each row comes out ascending: its smaller members are entered from their own, earlier rows.
-  vtx_map = Vertex_map(Adjacency(index_links.Node_count(), Nodes_of(index_links),
-                                 [&](Node_index first, auto&& enter) {
-                                   for (const Node_index second : index_links.Row(first)) {
-                                     enter(first, second);
-                                     enter(second, first);
-                                   }
-                                 }));
+  vtx_map = Vertex_map(Adjacency(index_links.Node_count(), [&](auto enter) {
+    For_each_key(index_links, [&](Node_index first, Node_index second) {
+      enter(first, second);
+      enter(second, first);
+    });
+  }));
 }
 
 void Dir_vtx_map_from_link_map(Dir_vertex_map& dir_vtx_map, const Index_links& index_links) {
   const Node_index count = index_links.Node_count();
-  const auto nodes = Nodes_of(index_links);
-  Adjacency out(count, nodes, [&](Node_index from, auto&& enter) {
-    for (const Node_index to : index_links.Row(from)) enter(from, to);
-  });
-  Adjacency in(count, nodes, [&](Node_index from, auto&& enter) {
-    for (const Node_index to : index_links.Row(from)) enter(to, from);
+  Adjacency out(count, [&](auto enter) { For_each_key(index_links, enter); });
+  Adjacency in(count, [&](auto enter) {
+    For_each_key(index_links, [&](Node_index from, Node_index to) { enter(to, from); });
   });
   std::vector<Node_index> both;
-  Adjacency neighs(count, nodes, [&](Node_index node, auto&& enter) {
-    both.clear();
-    std::ranges::set_union(out[node], in[node], std::back_inserter(both));
-    for (const Node_index neigh : both) enter(node, neigh);
+  Adjacency neighs(count, [&](auto enter) {
+    for (Node_index node = 1; node <= count; ++node) {
+      both.clear();
+      std::ranges::set_union(out[node], in[node], std::back_inserter(both));
+      for (const Node_index neigh : both) enter(node, neigh);
+    }
   });
   dir_vtx_map = Dir_vertex_map(std::move(out), std::move(in), std::move(neighs));
 }

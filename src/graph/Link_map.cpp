@@ -91,8 +91,7 @@ std::vector<std::uint32_t> Link_map_builder::Sort_names() {
 Link_map Link_map_builder::Build() {
   slots_ = {};
   const std::vector<std::uint32_t> new_numbers = Sort_names();
-  for (Index_pair& pair : pairs_)
-    pair = {new_numbers[pair.first], new_numbers[pair.second]};
+  for (Index_pair& pair : pairs_) pair = {new_numbers[pair.first], new_numbers[pair.second]};
   Sort_pairs(pairs_, weights_, names_.size());
   Fold_equal_pairs(pairs_, weights_);
 

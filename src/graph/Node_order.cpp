@@ -33,10 +33,9 @@ void Sort_dir_vtx_map(Node_order& order, const Dir_vertex_map& dir_vtx_map,
   if (flag == "Neighs") row = &Dir_vertex_map::Neighs;
   if (flag == "Ineighs") row = &Dir_vertex_map::Ineighs;
   if (flag == "Oneighs") row = &Dir_vertex_map::Oneighs;
-  if (row == nullptr)
-    throw Xerror_msg(" Invalid flag '" + flag + "' given in Sort_vtxd_gmap...\n");
-  order = Order_by_row_size(dir_vtx_map.size(),
-                            [&](Node_index v) { return (dir_vtx_map.*row)(v); });
+  if (row == nullptr) throw Xerror_msg(" Invalid flag '" + flag + "' given in Sort_vtxd_gmap...\n");
+  order =
+      Order_by_row_size(dir_vtx_map.size(), [&](Node_index v) { return (dir_vtx_map.*row)(v); });
 }
 
 }  // namespace gns

@@ -37,8 +37,7 @@ void Fold_equal_pairs(std::vector<Index_pair>& pairs, std::vector<double>& weigh
   for (std::size_t i = 0; i < pairs.size(); ++i) {
     const bool repeated = kept > 0 && pairs[i] == pairs[kept - 1];
     if (!repeated) pairs[kept++] = pairs[i];
-    if (!weights.empty())
-      weights[kept - 1] = (repeated ? weights[kept - 1] : 0.0) + weights[i];
+    if (!weights.empty()) weights[kept - 1] = (repeated ? weights[kept - 1] : 0.0) + weights[i];
   }
   pairs.resize(kept);
   if (!weights.empty()) weights.resize(kept);

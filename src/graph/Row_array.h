@@ -28,6 +28,11 @@ class Row_array {
   void Append(const Value& value) { values_.push_back(value); }
   void Close_row() { starts_.push_back(values_.size()); }
 
+  /// Drops all rows from `row` on.
+  void Truncate(std::size_t row) {
+    values_.resize(starts_[row]);
+    starts_.resize(row + 1);
+  }
   void clear() { *this = Row_array(); }
 
  private:

@@ -4,24 +4,27 @@
 #include <functional>
 #include <numeric>
 
-#include "control/Clique_find_ext_cont.h"
-
 namespace gns {
 
 /// One walk over a local graph. With fixed_words 0 the row length is known at run time only.
 ///
 /// Level l of the walk holds a set of candidates that are linked to all members of the partial
-/// clique, the part of them still to branch on, and the list of excluded rows linked to all members.
+/// clique, the part of them still to branch on, and the list of excluded rows linked to all
+/// members.
 template <std::size_t fixed_words>
 class Clique_walk::Descent {
  public:
-  Descent(Clique_walk& memory, const Local_graph& local)
-      : memory_(memory), local_(local), words_(fixed_words != 0 ? fixed_words : local.words) {}
+  Descent(Clique_walk& memory, const Local_graph& local, Attempt& attempt)
+      : memory_(memory),
+        local_(local),
+        attempt_(attempt),
+        words_(fixed_words != 0 ? fixed_words : local.words) {}
 
   void Run() {
     Open_root();
     while (!memory_.excluded_starts_.empty()) {
-      external_control::Check_for_stop_signal();
+      Attempt::Check_for_stop();
+      if (Level() >= 2 && attempt_.Runs_over()) return;
       Step();
     }
   }
@@ -174,6 +177,7 @@ class Clique_walk::Descent {
 
   Clique_walk& memory_;
   const Local_graph& local_;
+  Attempt& attempt_;
   std::size_t words_;
 };
 
@@ -202,12 +206,18 @@ void Sort_rows(std::vector<Bit_word>& rows, std::size_t words, std::vector<std::
 
 }  // namespace
 
-void Clique_walk::Find(const Local_graph& local, std::vector<Bit_word>& found) {
+void Clique_walk::Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found) {
   unsorted_.clear();
   switch (local.words) {
-    case 1: Descent<1>(*this, local).Run(); break;
-    case 2: Descent<2>(*this, local).Run(); break;
-    default: Descent<0>(*this, local).Run(); break;
+    case 1:
+      Descent<1>(*this, local, attempt).Run();
+      break;
+    case 2:
+      Descent<2>(*this, local, attempt).Run();
+      break;
+    default:
+      Descent<0>(*this, local, attempt).Run();
+      break;
   }
   Sort_rows(unsorted_, local.words, places_, found);
 }

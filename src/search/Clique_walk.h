@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "search/Attempt.h"
 #include "search/Local_graph.h"
 
 namespace gns {
@@ -11,12 +12,14 @@ namespace gns {
 ///
 /// Enumeration with a pivot and an excluded set on bit rows (E. Tomita, A. Tanaka, H. Takahashi,
 /// Theoretical Computer Science 363, 2006, for the pivot; D. Eppstein, M. Löffler, D. Strash, ISAAC
-/// 2010, for the outer order). Worst case 3^(n/3) for n candidates; the walk has a stack of its own.
+/// 2010, for the outer order). Worst case 3^(n/3) for n candidates; the walk has a stack of its
+/// own.
 class Clique_walk {
  public:
   /// Replaces `found` by one row of local.words words per clique, cliques in ascending
-  /// lexicographic order of their members. Polls the stop flag.
-  void Find(const Local_graph& local, std::vector<Bit_word>& found);
+  /// lexicographic order of their members. Where the attempt runs over, the cliques found until
+  /// then are a part of them, and maximal all the same.
+  void Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found);
 
  private:
   template <std::size_t fixed_words>

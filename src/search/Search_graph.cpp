@@ -1,19 +1,16 @@
 #include "search/Search_graph.h"
 
-#include <ranges>
-
 namespace gns {
 
 Search_graph::Search_graph(const Adjacency& neighs, const Node_order& order)
     : neighs_(neighs), finished_(order.size() + 1, 0), row_of_(order.size() + 1, 0) {
   std::vector<std::uint32_t> rank(order.size() + 1);
   for (std::uint32_t i = 0; i < order.size(); ++i) rank[order[i]] = i;
-  const Node_index count = neighs.Node_count();
-  forward_ = Adjacency(count, std::views::iota(Node_index{1}, count + 1),
-                       [&](Node_index node, auto&& enter) {
-                         for (const Node_index neigh : neighs[node])
-                           if (rank[node] < rank[neigh]) enter(node, neigh);
-                       });
+  forward_ = Adjacency(neighs.Node_count(), [&](auto enter) {
+    for (Node_index node = 1; node <= neighs.Node_count(); ++node)
+      for (const Node_index neigh : neighs[node])
+        if (rank[node] < rank[neigh]) enter(node, neigh);
+  });
 }
 
 bool Search_graph::Cut_out(Node_index node, Local_graph& local) {

@@ -1,18 +1,13 @@
 #include "search/Undirected_search.h"
 
-#include <algorithm>
-#include <memory>
-#include <sstream>
-
-#include "control/Clique_find_ext_cont.h"
-#include "graph/Node_order.h"
-#include "search/Clique_reports.h"
-#include "search/Clique_walk.h"
-#include "search/Search_graph.h"
+#include "search/Queue_search.h"
 
 namespace gns {
 
 namespace {
+
+const Search_wording wording = {" Locating cliques:", " Locating cliques, max. allowed time/node=",
+                                "cliques", " no approximation was needed"};
 
 /// Adds the clique of `node` and the candidates in `row`, all in ascending order.
 void Record(Clique_vector& cliques, Node_index node, const Local_graph& local,
@@ -32,32 +27,18 @@ void Record(Clique_vector& cliques, Node_index node, const Local_graph& local,
 
 }  // namespace
 
+void Undirected_node_search::Find(Node_index node, Attempt& attempt, Clique_vector& cliques) {
+  if (!graph_.Cut_out(node, local_)) return;
+  walk_.Find(local_, attempt, found_);
+  for (std::size_t at = 0; at < found_.size(); at += local_.words)
+    Record(cliques, node, local_, found_.data() + at);
+}
+
 void Clique_find_ec(Clique_vector& cliques, const Vertex_map& vtx_map) {
-  using external_control::CURRENT_STATE_REPORT;
-  cliques.clear();
   Node_order order;
   Sort_Vtx_map(order, vtx_map);
-  Search_graph graph(vtx_map.Rows(), order);
-  Clique_walk walk;
-  Local_graph local;
-  std::vector<Bit_word> found;
-  const auto report = std::make_shared<Progress_report>(" Locating cliques:", "nodes",
-                                                        static_cast<std::uint32_t>(order.size()));
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    external_control::Check_for_stop_signal();
-    report->Set_remaining(static_cast<std::uint32_t>(order.size() - i));
-    if (i == 0) CURRENT_STATE_REPORT = report;
-    if (graph.Cut_out(order[i], local)) {
-      walk.Find(local, found);
-      for (std::size_t at = 0; at < found.size(); at += local.words)
-        Record(cliques, order[i], local, found.data() + at);
-    }
-    graph.Finish(order[i]);
-  }
-  std::ostringstream end;
-  Clique_find_report_sub_routines::Report_clique_search_end(
-      "cliques", static_cast<std::uint32_t>(cliques.size()), end);
-  CURRENT_STATE_REPORT = end.str();
+  Undirected_node_search search(vtx_map.Rows(), order);
+  Search_queue(search, order, wording, nullptr, false, cliques);
 }
 
 }  // namespace gns

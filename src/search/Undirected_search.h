@@ -1,9 +1,31 @@
 #pragma once
 
+#include <vector>
+
 #include "graph/Vertex_map.h"
+#include "search/Attempt.h"
 #include "search/Clique_vector.h"
+#include "search/Clique_walk.h"
+#include "search/Node_search.h"
+#include "search/Search_graph.h"
 
 namespace gns {
+
+/// Finds the cliques of a node of an undirected graph, in ascending lexicographic order.
+class Undirected_node_search : public Node_search {
+ public:
+  Undirected_node_search(const Adjacency& neighs, const Node_order& order)
+      : graph_(neighs, order) {}
+
+  void Find(Node_index node, Attempt& attempt, Clique_vector& cliques) override;
+  void Finish(Node_index node) override { graph_.Finish(node); }
+
+ private:
+  Search_graph graph_;
+  Clique_walk walk_;
+  Local_graph local_;
+  std::vector<Bit_word> found_;
+};
 
 /// Finds all maximal cliques of three nodes or more of an undirected graph.
 ///

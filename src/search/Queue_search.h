@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "graph/Node_order.h"
+#include "search/Attempt.h"
+#include "search/Clique_vector.h"
+#include "search/Node_search.h"
+
+namespace gns {
+
+/// The words in the reports of a search.
+struct Search_wording {
+  std::string title;         ///< of an exact search, with its colon
+  std::string timed_title;   ///< in front of the time limit
+  std::string unit;          ///< what is found
+  std::string closing_line;  ///< of a time-limited search that left no node
+};
+
+/// Searches the nodes one by one, in the order given.
+///
+/// With a time limit (null: none), a node whose attempt ran over goes to the end of the queue,
+/// since it gets easier as others leave the graph. When all nodes in the queue have failed in a row
+/// the search gives up on them. Cliques that only failed attempts found are recorded last, in
+/// lexicographic order; `subsets_too` tells that one is to be left out not only if it was recorded
+/// already but also if it lies inside a recorded one.
+///
+/// Yields the nodes given up, ascending. Keeps the state report up to date and polls the stop flag.
+std::vector<Node_index> Search_queue(Node_search& search, const Node_order& order,
+                                     const Search_wording& wording, const Time_limit* limit,
+                                     bool subsets_too, Clique_vector& cliques);
+
+}  // namespace gns
