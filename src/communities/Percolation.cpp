@@ -8,9 +8,11 @@
 
 namespace gns {
 
-Percolation::Percolation(const Clique_vector& cliques, std::uint32_t exact_clique_count)
+Percolation::Percolation(const Clique_vector& cliques, std::uint32_t exact_clique_count,
+                         bool nested)
     : cliques_(cliques),
       exact_clique_count_(exact_clique_count),
+      nested_(nested),
       unclaimed_(cliques),
       contents_(cliques) {}
 
@@ -32,7 +34,7 @@ const Communities& Percolation::At(std::uint32_t k) {
 
 /// Walks the cliques in order and opens a community at each that is unclaimed and big enough.
 void Percolation::Claim_all(std::uint32_t k) {
-  unclaimed_.Reset(k);
+  unclaimed_.Reset(nested_ && k > 0 ? k - 1 : k);
   claimed_.clear();
   found_.clear();
   for (Clique_index clique = 0; clique < cliques_.size(); ++clique)

@@ -18,8 +18,9 @@ namespace gns {
 /// found for it is used again. Any order of k gives the same results.
 class Percolation {
  public:
-  /// Cliques at and behind `exact_clique_count` are approximate. `cliques` must outlive the object.
-  Percolation(const Clique_vector& cliques, std::uint32_t exact_clique_count);
+  /// Cliques at and behind `exact_clique_count` are approximate. `nested` tells that a clique may
+  /// lie inside another: then one of k - 1 nodes can join at k. `cliques` must outlive the object.
+  Percolation(const Clique_vector& cliques, std::uint32_t exact_clique_count, bool nested);
 
   /// The communities at k; the reference holds until the next call. Polls the stop flag as a long
   /// stage does.
@@ -39,6 +40,7 @@ class Percolation {
 
   const Clique_vector& cliques_;
   std::uint32_t exact_clique_count_;
+  bool nested_;
   Unclaimed_cliques unclaimed_;
   Community_contents contents_;
   std::vector<Clique_index> claimed_;  ///< in claim order, community behind community

@@ -1,41 +1,59 @@
 #include "communities/Unclaimed_cliques.h"
 
 #include <algorithm>
-#include <bit>
+#include <limits>
 #include <numeric>
 
 namespace gns {
 
 namespace {
 
-constexpr std::uint64_t Signature_bit(std::size_t turn) { return std::uint64_t{1} << (turn % 64); }
+Node_index Node_limit(const Clique_vector& cliques) {
+  const std::vector<Node_index>& members = cliques.Values();
+  return members.empty() ? 1 : *std::ranges::max_element(members) + 1;
+}
 
 }  // namespace
 
 Unclaimed_cliques::Unclaimed_cliques(const Clique_vector& cliques)
-    : cliques_(cliques), claimed_(cliques.size() / 64 + 1, 0), seen_(cliques.size(), 0) {
-  const std::vector<Node_index>& members = cliques.Values();
-  const std::size_t nodes =
-      members.empty() ? 1 : std::size_t{*std::ranges::max_element(members)} + 1;
-  starts_.assign(nodes + 1, 0);
-  for (const Node_index node : members) ++starts_[node + 1];
-  std::vector<Node_index> by_frequency(nodes);
+    : cliques_(cliques), met_(cliques.size(), 0) {
+  const Node_index node_limit = Node_limit(cliques);
+  lists_.resize(node_limit);
+  marked_.assign(node_limit, 0);
+  for (const Node_index node : cliques.Values()) ++lists_[node].length;
+  std::size_t start = 0;
+  std::uint32_t longest = 0;
+  for (List& list : lists_) {
+    list.start = start;
+    start += list.length;
+    longest = std::max(longest, list.length);
+  }
+  passed_.resize(longest + std::size_t{1});
+  Sign(node_limit);
+  list_signatures_.resize(start);
+  list_cliques_.resize(start);
+}
+
+/// Deals the positions of the signatures over the nodes, from the most frequent on.
+void Unclaimed_cliques::Sign(Node_index node_limit) {
+  std::vector<Node_index> by_frequency(node_limit);
   std::iota(by_frequency.begin(), by_frequency.end(), 0U);
   std::sort(by_frequency.begin(), by_frequency.end(),
-            [&](Node_index a, Node_index b) { return starts_[a + 1] > starts_[b + 1]; });
-  node_bits_.resize(nodes);
-  for (std::size_t turn = 0; turn < nodes; ++turn)
-    node_bits_[by_frequency[turn]] = Signature_bit(turn);
-  std::partial_sum(starts_.begin(), starts_.end(), starts_.begin());
+            [this](Node_index a, Node_index b) { return lists_[a].length > lists_[b].length; });
+  std::vector<std::uint32_t> turns(node_limit);
+  for (std::uint32_t turn = 0; turn < node_limit; ++turn) turns[by_frequency[turn]] = turn;
 
-  signatures_.resize(cliques.size());
-  for (std::size_t i = 0; i < cliques.size(); ++i)
-    for (const Node_index node : cliques[i]) signatures_[i] |= node_bits_[node];
-  entries_.resize(members.size());
-  lengths_.resize(nodes);
-  live_.resize(nodes);
-  marked_.assign(nodes, 0);
-  Fill_lists();
+  short_signatures_.resize(cliques_.size());
+  long_signatures_.resize(cliques_.size());
+  std::size_t largest = 0;
+  for (std::size_t clique = 0; clique < cliques_.size(); ++clique) {
+    for (const Node_index node : cliques_[clique]) {
+      short_signatures_[clique].Add(turns[node]);
+      long_signatures_[clique].Add(turns[node]);
+    }
+    largest = std::max(largest, cliques_[clique].size());
+  }
+  chosen_.resize(largest);
 }
 
 void Unclaimed_cliques::Fill_lists() {
@@ -44,72 +62,131 @@ void Unclaimed_cliques::Fill_lists() {
   std::stable_sort(by_size.begin(), by_size.end(), [this](Clique_index a, Clique_index b) {
     return cliques_[a].size() > cliques_[b].size();
   });
-  std::vector<std::size_t> place(starts_.begin(), starts_.end() - 1);
+  for (List& list : lists_) list.length = 0;
   for (const Clique_index clique : by_size) {
-    const Node_span row = cliques_[clique];
-    for (const Node_index node : row)
-      entries_[place[node]++] = {signatures_[clique], clique,
-                                 static_cast<std::uint32_t>(row.size())};
+    for (const Node_index node : cliques_[clique]) {
+      List& list = lists_[node];
+      const std::size_t place = list.start + list.length++;
+      list_signatures_[place] = short_signatures_[clique];
+      list_cliques_[place] = clique;
+    }
   }
 }
 
-void Unclaimed_cliques::Reset(std::uint32_t k) {
-  std::ranges::fill(claimed_, 0);
-  for (std::size_t node = 0; node < lengths_.size(); ++node) {
-    const auto first = entries_.begin() + static_cast<std::ptrdiff_t>(starts_[node]);
-    const auto last = entries_.begin() + static_cast<std::ptrdiff_t>(starts_[node + 1]);
-    const auto end = std::partition_point(first, last, [k](const Entry& e) { return e.size >= k; });
-    lengths_[node] = live_[node] = static_cast<std::uint32_t>(end - first);
+/// Dropping claimed cliques moves entries about among those listed, so a list keeps its bigger
+/// cliques in front as long as the least size only falls.
+void Unclaimed_cliques::Reset(std::size_t least_size) {
+  if (least_size_ == 0 || least_size > least_size_) Fill_lists();
+  least_size_ = least_size;
+  question_ = 0;
+  std::ranges::fill(met_, 0U);
+  for (std::size_t node = 0; node < lists_.size(); ++node) {
+    List& list = lists_[node];
+    const std::size_t next =
+        node + 1 < lists_.size() ? lists_[node + 1].start : list_cliques_.size();
+    const auto first = list_cliques_.begin() + static_cast<std::ptrdiff_t>(list.start);
+    const auto last = list_cliques_.begin() + static_cast<std::ptrdiff_t>(next);
+    const auto end = std::partition_point(
+        first, last, [&](Clique_index clique) { return cliques_[clique].size() >= least_size; });
+    list.length = list.unclaimed = static_cast<std::uint32_t>(end - first);
   }
 }
 
 void Unclaimed_cliques::Claim(Clique_index clique) {
-  claimed_[clique / 64] |= std::uint64_t{1} << (clique % 64);
-  for (const Node_index node : cliques_[clique]) --live_[node];
+  met_[clique] = claimed;
+  if (cliques_[clique].size() < least_size_) return;
+  for (const Node_index node : cliques_[clique]) --lists_[node].unclaimed;
 }
 
 void Unclaimed_cliques::Append_neighbours(Clique_index clique, std::uint32_t overlap,
                                           std::vector<Clique_index>& neighbours) {
-  const Node_span row = cliques_[clique];
-  active_.clear();
-  for (const Node_index node : row)
-    if (live_[node] != 0) active_.push_back(node);
-  if (active_.size() < overlap) return;
-
-  for (const Node_index node : row) marked_[node] = 1;
-  const std::size_t lists = active_.size() - overlap + 1;
-  std::nth_element(active_.begin(), active_.begin() + static_cast<std::ptrdiff_t>(lists - 1),
-                   active_.end(),
-                   [this](Node_index a, Node_index b) { return lengths_[a] < lengths_[b]; });
-  const std::uint64_t signature = signatures_[clique];
-  const std::size_t first_neighbour = neighbours.size();
-  for (std::size_t l = 0; l < lists; ++l) {
-    Entry* list = entries_.data() + starts_[active_[l]];
-    std::uint32_t& length = lengths_[active_[l]];
-    for (std::uint32_t i = 0; i < length;) {
-      const Entry entry = list[i];
-      if (!Is_unclaimed(entry.clique)) {
-        std::swap(list[i], list[--length]);
-        continue;
-      }
-      ++i;
-      const auto missing = static_cast<std::uint32_t>(std::popcount(entry.signature & ~signature));
-      if (entry.size - missing < overlap || missing > entry.size) continue;
-      if (seen_[entry.clique] == clique + 1) continue;
-      seen_[entry.clique] = clique + 1;
-      if (Shares(entry.clique, overlap)) neighbours.push_back(entry.clique);
-    }
+  const std::uint32_t lists = Choose_lists(clique, overlap);
+  ++question_;
+  candidates_.clear();
+  const Short_signature question = short_signatures_[clique].As_question();
+  for (std::uint32_t i = 0; i < lists; ++i) {
+    List& list = lists_[static_cast<Node_index>(chosen_[i])];
+    constexpr std::uint32_t most_claimed_share = 4;  // a list is cleaned when a fourth is claimed
+    if (list.length - list.unclaimed > list.length / most_claimed_share) Drop_claimed(list);
+    Meet(list, question, overlap);
   }
-  std::sort(neighbours.begin() + static_cast<std::ptrdiff_t>(first_neighbour), neighbours.end());
-  for (const Node_index node : row) marked_[node] = 0;
+  Keep_by_signature(clique, overlap);
+  Append_checked(clique, overlap, neighbours);
 }
 
-bool Unclaimed_cliques::Shares(Clique_index clique, std::uint32_t overlap) const {
-  const Node_span row = cliques_[clique];
-  std::size_t spare = row.size() - overlap;
-  for (const Node_index node : row)
-    if (marked_[node] == 0 && spare-- == 0) return false;
-  return true;
+/// Puts the lists to be read in front of chosen_, the shortest ones, and yields their number: none
+/// if fewer than `overlap` nodes of the clique have an unclaimed clique.
+std::uint32_t Unclaimed_cliques::Choose_lists(Clique_index clique, std::uint32_t overlap) {
+  constexpr unsigned half = 32;
+  std::uint32_t active = 0;
+  for (const Node_index node : cliques_[clique]) {
+    const std::uint32_t unclaimed = lists_[node].unclaimed;
+    chosen_[active] = (std::uint64_t{unclaimed} << half) | node;
+    active += unclaimed != 0 ? 1U : 0U;
+  }
+  if (active < overlap) return 0;
+  const std::uint32_t lists = active - overlap + 1;
+  const auto first = chosen_.begin();
+  if (lists < active) std::nth_element(first, first + lists - 1, first + active);
+  for (std::uint32_t i = 0; i < lists; ++i)
+    __builtin_prefetch(list_signatures_.data() + lists_[static_cast<Node_index>(chosen_[i])].start);
+  return lists;
+}
+
+void Unclaimed_cliques::Drop_claimed(List& list) {
+  Short_signature* const signatures = list_signatures_.data() + list.start;
+  Clique_index* const cliques = list_cliques_.data() + list.start;
+  std::uint32_t kept = 0;
+  for (std::uint32_t i = 0; i < list.length; ++i) {
+    if (!Is_unclaimed(cliques[i])) continue;
+    std::swap(cliques[i], cliques[kept]);
+    std::swap(signatures[i], signatures[kept]);
+    ++kept;
+  }
+  list.length = kept;
+}
+
+/// Adds the unclaimed cliques of a list to the candidates, as far as their signatures allow.
+void Unclaimed_cliques::Meet(const List& list, Short_signature question, std::uint32_t overlap) {
+  const Short_signature* const signatures = list_signatures_.data() + list.start;
+  const Clique_index* const cliques = list_cliques_.data() + list.start;
+  std::uint32_t* const passed = passed_.data();
+  std::size_t count = 0;
+  for (std::uint32_t i = 0; i < list.length; ++i) {
+    passed[count] = i;
+    count += signatures[i].Shared_at_most(question) >= overlap ? 1U : 0U;
+  }
+  for (std::size_t i = 0; i < count; ++i) {
+    const Clique_index met = cliques[passed[i]];
+    if (met_[met] >= question_) continue;  // claimed, or met in this question before
+    met_[met] = question_;
+    candidates_.push_back(met);
+    __builtin_prefetch(&long_signatures_[met]);
+  }
+}
+
+void Unclaimed_cliques::Keep_by_signature(Clique_index clique, std::uint32_t overlap) {
+  const Long_signature question = long_signatures_[clique].As_question();
+  std::size_t kept = 0;
+  for (const Clique_index candidate : candidates_) {
+    candidates_[kept] = candidate;
+    kept += long_signatures_[candidate].Shared_at_most(question) >= overlap ? 1U : 0U;
+  }
+  candidates_.resize(kept);
+}
+
+void Unclaimed_cliques::Append_checked(Clique_index clique, std::uint32_t overlap,
+                                       std::vector<Clique_index>& neighbours) {
+  if (candidates_.empty()) return;
+  for (const Node_index node : cliques_[clique]) marked_[node] = 1;
+  const auto first = static_cast<std::ptrdiff_t>(neighbours.size());
+  for (const Clique_index candidate : candidates_) {
+    std::uint32_t shared = 0;
+    for (const Node_index node : cliques_[candidate]) shared += marked_[node];
+    if (shared >= overlap) neighbours.push_back(candidate);
+  }
+  for (const Node_index node : cliques_[clique]) marked_[node] = 0;
+  std::sort(neighbours.begin() + first, neighbours.end());
 }
 
 }  // namespace gns

@@ -39,7 +39,7 @@ Row_array<Node_index> Copy_rows(const Row_array<Node_index>& rows, std::size_t f
 }  // namespace
 
 Extraction::Extraction(const Extraction_input& input)
-    : input_(input), percolation_(input.cliques, input.exact_clique_count) {}
+    : input_(input), percolation_(input.cliques, input.exact_clique_count, false) {}
 
 K_summary Extraction::At(std::uint32_t k) {
   const Communities& communities = Find_communities(k);
