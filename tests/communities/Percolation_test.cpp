@@ -37,9 +37,9 @@ void Expect_like_literal_percolation(const Communities& communities, const Cliqu
 
 /// Asks one object for the communities at each k in the order given.
 void Expect_like_literal_percolation(const Clique_input& input,
-                                     const std::vector<std::uint32_t>& ks) {
+                                     const std::vector<std::uint32_t>& ks, bool nested) {
   const Clique_vector cliques = literal::Rows_of(input.cliques);
-  Percolation percolation(cliques, input.exact_clique_count);
+  Percolation percolation(cliques, input.exact_clique_count, nested);
   for (const std::uint32_t k : ks) {
     Expect_like_literal_percolation(percolation.At(k), input, k);
     if (::testing::Test::HasFatalFailure()) FAIL() << "k=" << k;
@@ -48,15 +48,15 @@ void Expect_like_literal_percolation(const Clique_input& input,
 
 /// From one above the largest clique down to 0.
 std::vector<std::uint32_t> All_k_descending(const Clique_input& input) {
-  std::vector<std::uint32_t> ks(
-      Max_clique_size_in_cl_vec(literal::Rows_of(input.cliques)) + std::size_t{2});
+  std::vector<std::uint32_t> ks(Max_clique_size_in_cl_vec(literal::Rows_of(input.cliques)) +
+                                std::size_t{2});
   std::iota(ks.rbegin(), ks.rend(), 0U);
   return ks;
 }
 
-/// The cliques of a random graph; behind them, sets that stand for approximate cliques. No set lies
-/// inside another.
-Clique_input Random_input(std::uint32_t seed) {
+/// The cliques of a random graph; behind them, sets that stand for approximate cliques. Unless
+/// `nested`, no set lies inside another.
+Clique_input Random_input(std::uint32_t seed, bool nested) {
   literal::Random random(seed);
   const literal::Graph graph = literal::Random_graph(seed);
   std::vector<Set> cliques = literal::Exact_search(graph).Found().cliques;
@@ -64,7 +64,7 @@ Clique_input Random_input(std::uint32_t seed) {
   for (std::uint32_t left = random.Below(6); left > 0 && graph.size() > 3; --left) {
     const auto node_count = static_cast<std::uint32_t>(graph.size());
     const Set extra = random.Nodes(node_count, random.Between(3, 9));
-    if (std::ranges::none_of(cliques, [&](const Set& clique) {
+    if (nested || std::ranges::none_of(cliques, [&](const Set& clique) {
           return std::ranges::includes(clique, extra) || std::ranges::includes(extra, clique);
         }))
       cliques.push_back(extra);
@@ -73,18 +73,22 @@ Clique_input Random_input(std::uint32_t seed) {
   return literal::Input_of(cliques, exact_count);
 }
 
+std::vector<std::uint32_t> Disordered(std::vector<std::uint32_t> ks, std::uint32_t seed) {
+  literal::Random random(seed);
+  ks.insert(ks.end(), ks.begin(), ks.end());
+  for (std::size_t i = ks.size(); i > 1; --i)
+    std::swap(ks[i - 1], ks[random.Below(static_cast<std::uint32_t>(i))]);
+  return ks;
+}
+
 TEST(Percolation, EqualsLiteralPercolationInAnyOrderOfK) {
   for (std::uint32_t seed = 0; seed < 3000; ++seed) {
-    const Clique_input input = Random_input(seed);
+    const bool nested = seed % 4 == 3;
+    const Clique_input input = Random_input(seed, nested);
     std::vector<std::uint32_t> ks = All_k_descending(input);
     if (seed % 3 == 1) std::ranges::reverse(ks);
-    if (seed % 3 == 2) {
-      literal::Random random(seed);
-      ks.insert(ks.end(), ks.begin(), ks.end());
-      for (std::size_t i = ks.size(); i > 1; --i)
-        std::swap(ks[i - 1], ks[random.Below(static_cast<std::uint32_t>(i))]);
-    }
-    Expect_like_literal_percolation(input, ks);
+    if (seed % 3 == 2) ks = Disordered(std::move(ks), seed);
+    Expect_like_literal_percolation(input, ks, nested);
     if (HasFatalFailure()) FAIL() << "seed " << seed;
   }
 }
@@ -103,9 +107,21 @@ TEST(Percolation, KnownCliques) {
   for (const std::vector<Set>& cliques : cases) {
     for (std::size_t exact_count = 0; exact_count <= cliques.size(); ++exact_count) {
       const Clique_input input = literal::Input_of(cliques, exact_count);
-      Expect_like_literal_percolation(input, All_k_descending(input));
+      Expect_like_literal_percolation(input, All_k_descending(input), false);
     }
   }
+}
+
+TEST(Percolation, CliquesOfHundredsOfNodes) {
+  Set first;
+  for (Node_index node = 1; node <= 270; ++node) first.insert(node);
+  std::vector<Set> cliques(3, first);
+  for (Node_index i = 0; i < 3; ++i) {
+    cliques[i].erase(i + 1);
+    cliques[i].insert(300 + i);
+  }
+  Expect_like_literal_percolation(literal::Input_of(cliques, 2), {271, 270, 269, 258, 66, 64},
+                                  false);
 }
 
 /// A long chain of cliques must not exhaust the stack.
@@ -114,7 +130,7 @@ TEST(Percolation, LongChains) {
   constexpr Node_index length = 300000;
   for (Node_index node = 1; node <= length; ++node)
     cliques.push_back(std::vector<Node_index>{node, node + 1, node + 2});
-  Percolation percolation(cliques, length);
+  Percolation percolation(cliques, length, false);
   const Communities& communities = percolation.At(3);
   ASSERT_EQ(communities.size(), 1U);
   EXPECT_EQ(communities.coms[0].size(), length + 2);
@@ -133,15 +149,15 @@ TEST(Percolation, NestedCliques) {
   for (const std::vector<Set>& cliques : cases) {
     const Clique_input input = literal::Input_of(cliques, cliques.size());
     std::vector<std::uint32_t> ks = All_k_descending(input);
-    Expect_like_literal_percolation(input, ks);
+    Expect_like_literal_percolation(input, ks, true);
     std::ranges::reverse(ks);
-    Expect_like_literal_percolation(input, ks);
+    Expect_like_literal_percolation(input, ks, true);
   }
 }
 
 TEST(Percolation, PollsOnlyWhereTheHostWantsIt) {
   Clique_vector cliques = literal::Rows_of({{1, 2, 3}});
-  Percolation percolation(cliques, 1);
+  Percolation percolation(cliques, 1, false);
   Stop_process();
   EXPECT_EQ(percolation.At(3).size(), 1U);
   external_control::STOP_INSIDE_LONG_STAGES = true;
@@ -159,7 +175,8 @@ TEST(ComsFuncs, ReportAndSizes) {
   for (const Case& c : std::vector<Case>{
            {5, 5, std::string(49, '_') + "\n Extracting communities at k=5 (completed 16.67%)\n"},
            {3, 5, std::string(49, '_') + "\n Extracting communities at k=3 (completed 83.33%)\n"},
-           {10, 31, std::string(50, '_') + "\n Extracting communities at k=10 (completed 74.14%)\n"},
+           {10, 31,
+            std::string(50, '_') + "\n Extracting communities at k=10 (completed 74.14%)\n"},
        }) {
     std::ostringstream text;
     Coms_report_sub::Report_com_export(c.k, c.max_clique_size, text);
