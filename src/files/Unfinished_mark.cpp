@@ -4,12 +4,32 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <string_view>
 
 #include "foundation/Direktoriz.h"
+#include "foundation/Errors.h"
 #include "foundation/File_faults.h"
+#include "foundation/Line_reader.h"
 #include "foundation/Text_writer.h"
 
 namespace gns {
+
+namespace {
+
+constexpr std::string_view mark_text =
+    "The results directory of this name isn't whole: its run is still going on, or was stopped, or "
+    "failed.";
+
+/// True if nothing stands at the path, or nothing but a mark that a run left, perhaps cut short.
+bool Is_free_for_mark(const std::string& path) {
+  if (!Is_there_such_path(path)) return true;
+  if (!Is_there_such_file(path)) return false;
+  Line_reader reader(path);
+  std::string_view line;
+  return !reader.Next(line) || (mark_text.starts_with(line) && !reader.Next(line));
+}
+
+}  // namespace
 
 std::string Unfinished_mark_of(const std::string& output_dir) {
   std::filesystem::path path = std::filesystem::absolute(output_dir).lexically_normal();
@@ -19,10 +39,12 @@ std::string Unfinished_mark_of(const std::string& output_dir) {
 
 void Set_unfinished_mark(const std::string& output_dir) {
   const std::string mark = Unfinished_mark_of(output_dir);
-  Dir_prepare(std::filesystem::path(mark).parent_path().string(), "keep");
+  if (!Is_free_for_mark(mark))
+    throw Xerror_msg("ERROR: '" + mark +
+                     "' is in the way: the run would mark its results as unfinished there.\n");
+  Make_dir(std::filesystem::path(mark).parent_path().string());
   Text_writer file(mark);
-  file << "The results directory of this name isn't whole: its run is still going on, or was "
-          "stopped, or failed.\n";
+  file << mark_text << '\n';
 }
 
 void Remove_unfinished_mark(const std::string& output_dir) {

@@ -10,7 +10,8 @@ namespace gns {
 /// Its path: the name of the directory with ".unfinished" behind it.
 std::string Unfinished_mark_of(const std::string& output_dir);
 
-/// Makes the mark, and the directory's missing parents. Throws what Dir_prepare throws.
+/// Makes the mark, and the directory's missing parents. Throws Xerror_msg if something else than a
+/// mark stands in its place, which is left alone, or if a directory can't be made.
 void Set_unfinished_mark(const std::string& output_dir);
 
 void Remove_unfinished_mark(const std::string& output_dir);
