@@ -1,0 +1,249 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "Directory_contents.h"
+#include "Temp_dir.h"
+#include "control/Clique_find_ext_cont.h"
+#include "engine/Find_coms.h"
+#include "files/Unfinished_mark.h"
+#include "foundation/File_faults.h"
+
+namespace gns {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The files of tests/expected/NAME/results, with the path of the input in its place.
+std::map<std::string, std::string> Expected_files(const std::string& name,
+                                                  const std::string& input_file) {
+  const std::string placeholder = "{INPUT}";
+  std::map<std::string, std::string> files =
+      Contents_of(std::string(VORLANE_EXPECTED_DIR) + "/" + name + "/results");
+  for (auto& [path, text] : files)
+    text.replace(text.find(placeholder), placeholder.size(), input_file);
+  return files;
+}
+
+TEST(WholeRun, LeavesTheExpectedDirectory) {
+  struct Case {
+    std::string name;
+    bool use_thresholds;
+    bool use_single_k;
+  };
+  for (const Case& c : std::vector<Case>{{"six_links", false, false},
+                                         {"overlapping", false, false},
+                                         {"thresholds", true, true}}) {
+    const Temp_dir temp;
+    const std::string input = std::string(VORLANE_EXPECTED_DIR) + "/" + c.name + "/links.txt";
+    const std::string out = temp.Path("new/out");
+    bool approximation_needed = true;
+    EXPECT_EQ(Find_coms(input, out, c.use_thresholds, 0.5, c.use_thresholds, 2e6, false, false, 9,
+                        false, -1, c.use_single_k, 5, approximation_needed),
+              "Process ended succesfully.");
+    EXPECT_FALSE(approximation_needed);
+    EXPECT_EQ(Contents_of(out), Expected_files(c.name, input)) << c.name;
+    EXPECT_EQ(Read_state_report(), " done.\n");
+    EXPECT_EQ(Contents_of(temp.Path("new")).size(), Contents_of(out).size());  // no mark
+  }
+}
+
+/// A run on a small network of its own.
+class SmallRun : public ::testing::Test {
+ protected:
+  SmallRun() {
+    parameters_.input_file =
+        temp_.Write("links", "a b\na c\na d\nb c\nb d\nc d\nc e\nd e\ne f\nf g\ne g\n");
+    parameters_.output_dir = temp_.Path("out");
+  }
+  ~SmallRun() override { Reset_stop_process(); }
+
+  std::string Run() {
+    summary_ = {};
+    return Find_coms(parameters_, approximation_needed_, summary_);
+  }
+  [[nodiscard]] std::vector<std::string> Written() const {
+    std::vector<std::string> names;
+    if (!fs::exists(parameters_.output_dir)) return names;
+    for (const auto& [name, text] : Contents_of(parameters_.output_dir)) names.push_back(name);
+    return names;
+  }
+  [[nodiscard]] bool Marked() const { return fs::exists(parameters_.output_dir + ".unfinished"); }
+
+  Temp_dir temp_;
+  Run_parameters parameters_;
+  Run_summary summary_;
+  bool approximation_needed_ = true;
+};
+
+TEST_F(SmallRun, Summary) {
+  EXPECT_EQ(Run(), run_finished);
+  EXPECT_EQ(summary_.nodes, 7U);
+  EXPECT_EQ(summary_.links, 11U);
+  EXPECT_EQ(summary_.cliques_of_size, (std::vector<std::size_t>{0, 0, 0, 2, 1}));
+  EXPECT_EQ(summary_.exact_cliques, 3U);
+  EXPECT_EQ(summary_.approximate_cliques, 0U);
+  ASSERT_EQ(summary_.extractions.size(), 2U);
+  EXPECT_EQ(summary_.extractions[0].k, 4U);
+  EXPECT_EQ(summary_.extractions[0].communities, 1U);
+  EXPECT_EQ(summary_.extractions[1].communities, 2U);
+  EXPECT_EQ(summary_.extractions[1].largest, 5U);
+  EXPECT_EQ(summary_.extractions[1].nodes_covered, 7U);
+}
+
+TEST_F(SmallRun, SingleKIsTakenAsItIs) {
+  const std::vector<std::pair<std::uint32_t, std::size_t>> cases = {
+      {0, 0}, {1, 1}, {2, 1}, {3, 2}, {4, 1}, {5, 0}, {4294967295U, 0}};
+  for (const auto& [k, communities] : cases) {
+    parameters_.output_dir = temp_.Path(std::to_string(k));
+    parameters_.use_single_k = true;
+    parameters_.single_k = k;
+    EXPECT_EQ(Run(), run_finished);
+    EXPECT_EQ(Written().size(), 3U + 8U) << k;
+    EXPECT_TRUE(fs::exists(parameters_.output_dir + "/k=" + std::to_string(k)));
+    ASSERT_EQ(summary_.extractions.size(), 1U);
+    EXPECT_EQ(summary_.extractions[0].communities, communities) << k;
+  }
+}
+
+TEST_F(SmallRun, NetworksWithoutCliques) {
+  for (const std::string links : {"", "# nothing\n\na a\n", "a b\nb c\n"}) {
+    parameters_.input_file = temp_.Write("links", links);
+    EXPECT_EQ(Run(), run_finished);
+    EXPECT_EQ(Written(), (std::vector<std::string>{"cliques", "graph", "input_params.txt"}));
+    EXPECT_FALSE(Marked());
+    fs::remove_all(parameters_.output_dir);
+  }
+}
+
+TEST_F(SmallRun, RelativeInputIsShownAsAbsolute) {
+  const fs::path before = fs::current_path();
+  fs::current_path(temp_.Path());
+  parameters_.input_file = "links";
+  parameters_.output_dir = "out/";
+  EXPECT_EQ(Run(), run_finished);
+  EXPECT_TRUE(
+      temp_.Read("out/graph").starts_with("# The links from " + temp_.Path("links") + "\n"));
+  EXPECT_FALSE(fs::exists("out.unfinished"));
+  fs::current_path(before);
+}
+
+TEST_F(SmallRun, ARefusalWritesNothing) {
+  parameters_.use_time_limit = true;
+  parameters_.use_intensity = true;
+  parameters_.directed = true;
+  parameters_.use_lower_threshold = parameters_.use_upper_threshold = true;
+  EXPECT_EQ(Run(),
+            "The following error(s) occured:\n"
+            " The maximal allowed time per node must be positive.\n"
+            " The sepcified lower threshold is higher (or equal to) the upper threshold.\n"
+            " The search algorithm cannot apply the link weight \n"
+            " intensity condition when looking for directed communities.\n"
+            " The search algorithm cannot apply the maximal time \n"
+            " per node condition when a link weight intensity condition is set as well.\n\n");
+  EXPECT_EQ(Contents_of(temp_.Path()).size(), 1U);
+
+  parameters_ = {parameters_.input_file, temp_.Path("full")};
+  fs::create_directory(parameters_.output_dir);
+  temp_.Write("full/.hidden", "kept");
+  EXPECT_EQ(Run(), "ERROR: the output directory already exists and it is non-empty.\n");
+  EXPECT_EQ(Contents_of(temp_.Path()).size(), 2U);
+  EXPECT_EQ(temp_.Read("full/.hidden"), "kept");
+  EXPECT_TRUE(approximation_needed_);  // left alone
+}
+
+TEST_F(SmallRun, AFailureLeavesWhatWasWrittenAndTheMark) {
+  struct Case {
+    std::string input;
+    bool use_lower_threshold;
+    std::string message;
+  };
+  const std::string wrong_line = "ERROR: Wrong line found in ' the file I was reading' :\n";
+  for (const Case& c : std::vector<Case>{
+           {temp_.Path("missing"), false,
+            "ERROR : File not found: '" + temp_.Path("missing") + "' "},
+           {temp_.Path(), true, "ERROR : File not found: '" + temp_.Path() + "' "},
+           {temp_.Path("links"), true, wrong_line + "a b"},
+           {temp_.Write("bad", "a b\n c \t\nword\t\n"), false, wrong_line + "word"},
+       }) {
+    parameters_.input_file = c.input;
+    parameters_.use_lower_threshold = c.use_lower_threshold;
+    EXPECT_EQ(Run(), c.message);
+    EXPECT_EQ(Written(), std::vector<std::string>{"input_params.txt"});
+    EXPECT_TRUE(Marked());
+    EXPECT_EQ(Read_state_report(), " Reading input ...\n");
+    EXPECT_EQ(Read_error_message(), "");
+    EXPECT_TRUE(approximation_needed_);
+    fs::remove_all(parameters_.output_dir);
+  }
+  parameters_ = {temp_.Path("links"), temp_.Path("out")};
+  EXPECT_EQ(Run(), run_finished);
+  EXPECT_FALSE(Marked());
+}
+
+TEST_F(SmallRun, OutputOnOrBelowAFile) {
+  temp_.Write("out", "moved aside");
+  EXPECT_EQ(Run(), run_finished);
+  EXPECT_EQ(temp_.Read("out1"), "moved aside");
+
+  parameters_.output_dir = temp_.Path("links/out");
+  EXPECT_EQ(Run(), "ERROR: Make_dir() called with " + parameters_.output_dir +
+                       " and \nA component of the path is not a directory.");
+  EXPECT_TRUE(temp_.Read("links").starts_with("a b\n"));
+}
+
+TEST_F(SmallRun, TheMarkReplacesNothingButAMark) {
+  const std::string mark = temp_.Path("out.unfinished");
+  for (const std::string in_the_way : {"a b\na c\nb c\n", "The results\n\n", "\n\n"}) {
+    parameters_.input_file = temp_.Write("out.unfinished", in_the_way);
+    EXPECT_EQ(Run(), "ERROR: '" + mark +
+                         "' is in the way: the run would mark its results as unfinished there.\n");
+    EXPECT_EQ(temp_.Read("out.unfinished"), in_the_way);
+    EXPECT_TRUE(Written().empty());
+  }
+  fs::remove(mark);
+  fs::create_directory(mark);
+  EXPECT_TRUE(Run().starts_with("ERROR: '" + mark));
+  fs::remove(mark);
+
+  parameters_.input_file = temp_.Path("missing");
+  Run();
+  const std::string left_behind = temp_.Read("out.unfinished");
+  parameters_.input_file = temp_.Path("links");
+  for (const std::size_t length : {left_behind.size(), std::size_t{20}, std::size_t{0}}) {
+    fs::remove_all(temp_.Path("out"));
+    temp_.Write("out.unfinished", left_behind.substr(0, length));
+    EXPECT_EQ(Run(), run_finished);
+    EXPECT_FALSE(Marked());
+  }
+}
+
+TEST_F(SmallRun, StopBeforeTheFirstPoll) {
+  Stop_process();
+  EXPECT_EQ(Run(), "Process stopped by user.\n");
+  EXPECT_EQ(Read_state_report(), " Process stopped by user.\n");
+  EXPECT_EQ(Written(), (std::vector<std::string>{"graph", "input_params.txt"}));
+  EXPECT_TRUE(Marked());
+
+  parameters_.output_dir = temp_.Path("again");
+  EXPECT_EQ(Run(), "Process stopped by user.\n");
+  Reset_stop_process();
+  parameters_.output_dir = temp_.Path("third");
+  EXPECT_EQ(Run(), run_finished);
+}
+
+TEST(UnfinishedMark, StandsBesideTheDirectory) {
+  const std::string here = fs::current_path().string();
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"/d/out", "/d/out.unfinished"},       {"/d/out//", "/d/out.unfinished"},
+      {"/d/x/../out/", "/d/out.unfinished"}, {"out", here + "/out.unfinished"},
+      {"out/.", here + "/out.unfinished"},   {".", here + ".unfinished"}};
+  for (const auto& [directory, mark] : cases) EXPECT_EQ(Unfinished_mark_of(directory), mark);
+}
+
+}  // namespace
+}  // namespace gns
