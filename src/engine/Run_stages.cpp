@@ -73,7 +73,8 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
   Check_for_stop_signal();
 
   Clique_vector cliques;
-  Clique_find_ec(cliques, vtx_map);
+  Overlap_matrix overlap_matrix;
+  Clique_find_ec(cliques, overlap_matrix, vtx_map);
   const auto exact_clique_count = static_cast<std::uint32_t>(cliques.size());
   approximation_needed = exact_clique_count < cliques.size();
   Summarize(cliques, exact_clique_count, summary);

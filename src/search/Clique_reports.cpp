@@ -41,9 +41,28 @@ void Report_progress(const std::string& title, const std::string& second_title,
   Report_remaining(unit, remaining, total, stream);
 }
 
+void Report_hard_node(std::uint32_t node, std::uint32_t skipped, std::uint32_t total,
+                      std::ostream& stream) {
+  stream << " Exceeded allowed time at node no." << node << ",\n skipping, " << skipped
+         << " out of " << total << " skipped in a row, ("
+         << double2string(100.0 * skipped / total, 2) << "%)\n";
+}
+
+void Report_all_rem_nodes_to_hard(const std::string& unit, std::ostream& stream) {
+  constexpr std::size_t rule_without_unit = 43;
+  stream << Rule(unit.size() + rule_without_unit) << " The extraction of " << unit
+         << " has been found too slow \n at all of the remaining nodes.\n";
+}
+
 void Report_clique_search_end(const std::string& unit, std::uint32_t count, std::ostream& stream) {
   const std::string line = " Altogether " + std::to_string(count) + " " + unit + " found.";
   stream << Rule(line.size()) << line << "\n";
+}
+
+void Report_clique_search_end(const std::string& unit, std::uint32_t count,
+                              const std::string& closing, std::ostream& stream) {
+  Report_clique_search_end(unit, count, stream);
+  stream << closing << "\n";
 }
 
 }  // namespace Clique_find_report_sub_routines

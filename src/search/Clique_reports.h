@@ -19,8 +19,16 @@ void Report_progress(const std::string& title, const std::string& unit, std::uin
 void Report_progress(const std::string& title, const std::string& second_title,
                      const std::string& unit, std::uint32_t remaining, std::uint32_t total,
                      std::ostream& stream);
+/// Tells of a node that ran over its time, as one of `skipped` in a row while `total` are waiting.
+void Report_hard_node(std::uint32_t node, std::uint32_t skipped, std::uint32_t total,
+                      std::ostream& stream);
+/// Tells that every node that is left has failed.
+void Report_all_rem_nodes_to_hard(const std::string& unit, std::ostream& stream);
 /// A rule as long as the line below it, which tells how many units were found.
 void Report_clique_search_end(const std::string& unit, std::uint32_t count, std::ostream& stream);
+/// The same with a closing line.
+void Report_clique_search_end(const std::string& unit, std::uint32_t count,
+                              const std::string& closing, std::ostream& stream);
 
 }  // namespace Clique_find_report_sub_routines
 

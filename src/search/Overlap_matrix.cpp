@@ -4,27 +4,27 @@
 
 namespace gns {
 
-Overlap_matrix::Overlap_matrix(const Clique_vector& cliques) : row_count_(cliques.size()) {
-  const std::vector<Node_index>& members = cliques.Values();
+void Overlap_matrix::Make_index() {
+  const std::vector<Node_index>& members = cliques_->Values();
   const Node_index greatest = members.empty() ? 0 : *std::ranges::max_element(members);
   starts_.assign(std::size_t{greatest} + 2, 0);
-  for (const Node_index node : members) ++starts_[node + 1];
+  for (const Node_index node : members) ++starts_[std::size_t{node} + 1];
   for (std::size_t i = 1; i < starts_.size(); ++i) starts_[i] += starts_[i - 1];
-  cliques_.resize(members.size());
+  cliques_of_nodes_.resize(members.size());
   std::vector<std::size_t> place(starts_.begin(), starts_.end() - 1);
-  for (std::size_t i = 0; i < cliques.size(); ++i)
-    for (const Node_index node : cliques[i]) cliques_[place[node]++] = static_cast<Clique_index>(i);
+  for (std::size_t i = 0; i < cliques_->size(); ++i)
+    for (const Node_index node : (*cliques_)[i])
+      cliques_of_nodes_[place[node]++] = static_cast<Clique_index>(i);
 }
 
 std::span<const Clique_index> Overlap_matrix::Cliques_of(Node_index node) const {
-  if (std::size_t{node} + 1 >= starts_.size()) return {};
-  return {cliques_.data() + starts_[node], starts_[node + 1] - starts_[node]};
+  return {cliques_of_nodes_.data() + starts_[node], starts_[node + 1] - starts_[node]};
 }
 
-std::vector<Overlap_matrix::Entry> Overlap_matrix::Row(const Clique_vector& cliques,
-                                                       Clique_index i) const {
+std::vector<Overlap_matrix::Entry> Overlap_matrix::Row(Clique_index i) {
+  if (starts_.empty()) Make_index();
   std::vector<Clique_index> met;
-  for (const Node_index node : cliques[i]) {
+  for (const Node_index node : (*cliques_)[i]) {
     const auto others = Cliques_of(node);
     met.insert(met.end(), others.begin(), others.end());
   }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -8,28 +10,31 @@
 
 namespace gns {
 
-/// The clique overlap matrix: row i tells for each clique that shares nodes with clique i how many.
+/// The clique overlap matrix: row i tells for each clique that shares nodes with clique i, itself
+/// included, how many they share.
 ///
-/// Never stored, since its entries grow quadratically with the cliques of a node: what is kept is
-/// the index node -> cliques, from which a row is computed when it is asked for.
+/// Never stored, since its entries grow quadratically with the cliques of a node. It is a view of
+/// the clique vector, which must outlive it unchanged; a row is computed when it is asked for, from
+/// an index node -> cliques that is made for the first row.
 class Overlap_matrix {
  public:
   using Entry = std::pair<Clique_index, std::uint32_t>;
 
   Overlap_matrix() = default;
-  explicit Overlap_matrix(const Clique_vector& cliques);
+  explicit Overlap_matrix(const Clique_vector& cliques) : cliques_(&cliques) {}
 
   /// Number of rows.
-  [[nodiscard]] std::size_t size() const { return row_count_; }
-  /// The cliques that hold a node, ascending; none for a node in no clique.
-  [[nodiscard]] std::span<const Clique_index> Cliques_of(Node_index node) const;
-  /// Row i, ascending; `cliques` is the vector that the matrix was built from.
-  [[nodiscard]] std::vector<Entry> Row(const Clique_vector& cliques, Clique_index i) const;
+  [[nodiscard]] std::size_t size() const { return cliques_ == nullptr ? 0 : cliques_->size(); }
+  /// The entries of row i, ascending by clique.
+  [[nodiscard]] std::vector<Entry> Row(Clique_index i);
 
  private:
-  std::size_t row_count_ = 0;
-  std::vector<std::size_t> starts_ = {0, 0};
-  std::vector<Clique_index> cliques_;
+  void Make_index();
+  [[nodiscard]] std::span<const Clique_index> Cliques_of(Node_index node) const;
+
+  const Clique_vector* cliques_ = nullptr;
+  std::vector<std::size_t> starts_;  ///< per node: its first clique; empty: no index yet
+  std::vector<Clique_index> cliques_of_nodes_;
 };
 
 }  // namespace gns

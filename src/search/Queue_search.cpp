@@ -1,40 +1,126 @@
 #include "search/Queue_search.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <sstream>
 
 #include "control/Clique_find_ext_cont.h"
+#include "foundation/My_double2string.h"
 #include "search/Clique_reports.h"
+#include "search/Hard_cliques.h"
 
 namespace gns {
 
 namespace {
 
 using external_control::CURRENT_STATE_REPORT;
+namespace reports = Clique_find_report_sub_routines;
+
+std::string Title_of(const Search_wording& wording, const Time_limit* limit) {
+  constexpr unsigned digits = 3;
+  if (limit == nullptr) return wording.title;
+  return wording.timed_title + double2string(limit->seconds, digits) + ":";
+}
+
+/// Composes a report at once and makes it the state report.
+template <typename Compose>
+void Report(Compose compose) {
+  std::ostringstream stream;
+  compose(stream);
+  CURRENT_STATE_REPORT = stream.str();
+}
+
+/// The queue of nodes with the count of failures in a row.
+class Node_queue {
+ public:
+  Node_queue(const Node_order& order, const Search_wording& wording, const Time_limit* limit)
+      : wording_(wording),
+        waiting_(order.begin(), order.end()),
+        progress_(std::make_shared<Progress_report>(Title_of(wording, limit), "nodes", Size())) {}
+
+  [[nodiscard]] std::uint32_t Size() const { return static_cast<std::uint32_t>(waiting_.size()); }
+  [[nodiscard]] bool Goes_on() const { return !waiting_.empty() && !gives_up_; }
+
+  Node_index Take() {
+    progress_->Set_remaining(Size());
+    if (!progress_shown_) CURRENT_STATE_REPORT = progress_;
+    progress_shown_ = true;
+    const Node_index node = waiting_.front();
+    waiting_.pop_front();
+    return node;
+  }
+
+  void Note_success() { skipped_ = 0; }
+
+  void Put_back(Node_index node) {
+    ++skipped_;
+    waiting_.push_back(node);
+    Report([&](std::ostream& s) { reports::Report_hard_node(node, skipped_, Size(), s); });
+    progress_shown_ = false;
+    gives_up_ = skipped_ >= Size();
+    if (gives_up_)
+      Report([&](std::ostream& s) { reports::Report_all_rem_nodes_to_hard(wording_.unit, s); });
+  }
+
+  std::vector<Node_index> Left() const {
+    std::vector<Node_index> left(waiting_.begin(), waiting_.end());
+    std::sort(left.begin(), left.end());
+    return left;
+  }
+
+ private:
+  const Search_wording& wording_;
+  std::deque<Node_index> waiting_;
+  std::shared_ptr<Progress_report> progress_;
+  bool progress_shown_ = false;
+  std::uint32_t skipped_ = 0;
+  bool gives_up_ = false;
+};
+
+void Report_end(const Search_wording& wording, const Time_limit* limit, bool all_solved,
+                const Clique_vector& cliques) {
+  const auto count = static_cast<std::uint32_t>(cliques.size());
+  Report([&](std::ostream& s) {
+    if (!all_solved)
+      reports::Report_clique_search_end("exact " + wording.unit, count, s);
+    else if (limit == nullptr)
+      reports::Report_clique_search_end(wording.unit, count, s);
+    else
+      reports::Report_clique_search_end(wording.unit, count, wording.closing_line, s);
+  });
+}
 
 }  // namespace
 
 std::vector<Node_index> Search_queue(Node_search& search, const Node_order& order,
                                      const Search_wording& wording, const Time_limit* limit,
-                                     bool /*subsets_too*/, Clique_vector& cliques) {
+                                     bool nested, Clique_vector& cliques) {
   cliques.clear();
-  const auto total = static_cast<std::uint32_t>(order.size());
-  const auto progress = std::make_shared<Progress_report>(wording.title, "nodes", total);
+  Clique_vector hard_cliques;
+  Node_queue queue(order, wording, limit);
   Attempt attempt(limit);
-  for (std::size_t i = 0; i < order.size(); ++i) {
+  while (queue.Goes_on()) {
     Attempt::Check_for_stop();
-    progress->Set_remaining(static_cast<std::uint32_t>(order.size() - i));
-    if (i == 0) CURRENT_STATE_REPORT = progress;
+    const Node_index node = queue.Take();
+    const std::size_t recorded = cliques.size();
     attempt.Start();
-    search.Find(order[i], attempt, cliques);
-    search.Finish(order[i]);
+    search.Find(node, attempt, cliques);
+    if (!attempt.Timed_out()) {
+      queue.Note_success();
+      search.Finish(node);
+    } else {
+      for (std::size_t i = recorded; i < cliques.size(); ++i) hard_cliques.push_back(cliques[i]);
+      cliques.Truncate(recorded);
+      queue.Put_back(node);
+    }
   }
-  std::ostringstream end;
-  Clique_find_report_sub_routines::Report_clique_search_end(
-      wording.unit, static_cast<std::uint32_t>(cliques.size()), end);
-  CURRENT_STATE_REPORT = end.str();
-  return {};
+  Attempt::Check_for_stop();
+  std::vector<Node_index> left = queue.Left();
+  if (!left.empty()) Record_hard_cliques(hard_cliques, nested, cliques);
+  Report_end(wording, limit, left.empty(), cliques);
+  return left;
 }
 
 }  // namespace gns

@@ -23,12 +23,12 @@ struct Search_wording {
 /// With a time limit (null: none), a node whose attempt ran over goes to the end of the queue,
 /// since it gets easier as others leave the graph. When all nodes in the queue have failed in a row
 /// the search gives up on them. Cliques that only failed attempts found are recorded last, in
-/// lexicographic order; `subsets_too` tells that one is to be left out not only if it was recorded
-/// already but also if it lies inside a recorded one.
+/// lexicographic order; one that equals a recorded clique is left out, and where the search yields
+/// cliques that may be `nested`, so is one that lies inside a recorded clique.
 ///
 /// Yields the nodes given up, ascending. Keeps the state report up to date and polls the stop flag.
 std::vector<Node_index> Search_queue(Node_search& search, const Node_order& order,
                                      const Search_wording& wording, const Time_limit* limit,
-                                     bool subsets_too, Clique_vector& cliques);
+                                     bool nested, Clique_vector& cliques);
 
 }  // namespace gns

@@ -25,6 +25,16 @@ void Record(Clique_vector& cliques, Node_index node, const Local_graph& local,
   cliques.Close_row();
 }
 
+std::vector<Node_index> Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
+                               const Vertex_map& vtx_map, const Time_limit* limit) {
+  Node_order order;
+  Sort_Vtx_map(order, vtx_map);
+  Undirected_node_search search(vtx_map.Rows(), order);
+  std::vector<Node_index> left = Search_queue(search, order, wording, limit, false, cliques);
+  overlap_matrix = Overlap_matrix(cliques);
+  return left;
+}
+
 }  // namespace
 
 void Undirected_node_search::Find(Node_index node, Attempt& attempt, Clique_vector& cliques) {
@@ -34,11 +44,15 @@ void Undirected_node_search::Find(Node_index node, Attempt& attempt, Clique_vect
     Record(cliques, node, local_, found_.data() + at);
 }
 
-void Clique_find_ec(Clique_vector& cliques, const Vertex_map& vtx_map) {
-  Node_order order;
-  Sort_Vtx_map(order, vtx_map);
-  Undirected_node_search search(vtx_map.Rows(), order);
-  Search_queue(search, order, wording, nullptr, false, cliques);
+void Clique_find_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
+                    const Vertex_map& vtx_map) {
+  Search(cliques, overlap_matrix, vtx_map, nullptr);
+}
+
+void Clique_find_part_time_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
+                              const Vertex_map& vtx_map, Left_map& left_map,
+                              const Time_limit& time_limit) {
+  left_map = Spanned_by(Search(cliques, overlap_matrix, vtx_map, &time_limit), vtx_map.Rows());
 }
 
 }  // namespace gns

@@ -6,7 +6,9 @@
 #include "search/Attempt.h"
 #include "search/Clique_vector.h"
 #include "search/Clique_walk.h"
+#include "search/Left_map.h"
 #include "search/Node_search.h"
+#include "search/Overlap_matrix.h"
 #include "search/Search_graph.h"
 
 namespace gns {
@@ -30,8 +32,16 @@ class Undirected_node_search : public Node_search {
 /// Finds all maximal cliques of three nodes or more of an undirected graph.
 ///
 /// A clique is found with that member that comes first in the order of Sort_Vtx_map; cliques stand
-/// in that order of nodes, and those of one node in ascending lexicographic order. Keeps the state
-/// report up to date and polls the stop flag, which ends the search by an exception.
-void Clique_find_ec(Clique_vector& cliques, const Vertex_map& vtx_map);
+/// in that order of nodes, and those of one node in ascending lexicographic order. The matrix is a
+/// view of `cliques`. Keeps the state report up to date and polls the stop flag, which ends the
+/// search by an exception.
+void Clique_find_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
+                    const Vertex_map& vtx_map);
+
+/// The same with a limit on the processor time of each attempt on a node; see Search_queue. All
+/// cliques that it yields are maximal; some are missing if `left_map` isn't empty at its end.
+void Clique_find_part_time_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
+                              const Vertex_map& vtx_map, Left_map& left_map,
+                              const Time_limit& time_limit);
 
 }  // namespace gns

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+
+#include "search/Clique_vector.h"
+#include "search/Left_map.h"
+#include "search/Overlap_matrix.h"
+
+namespace gns {
+
+/// Sets `core` to the core cliques of what was left: for each hard node, ascending, its neighbours
+/// among the hard nodes, but no set that lies inside another one (of equal sets the first stays) or
+/// inside one of `cliques`. The same for directed graphs, whatever the direction of the links.
+/// Polls the stop flag.
+void Appr_core_cliques_ec(const Left_map& left_map, const Clique_vector& cliques,
+                          Clique_vector& core);
+
+/// Appends the core cliques to the exact ones. Core cliques inside an exact clique are left out,
+/// and exact cliques inside a core clique that stays are taken out; the order is kept.
+void Extend_clique_vec(Clique_vector& cliques, std::uint32_t& exact_clique_count,
+                       Clique_vector& core);
+
+/// Brings the matrix to the vector with its approximate cliques. Polls the stop flag.
+void Extend_ovlp_matr_ec(Overlap_matrix& overlap_matrix, const Clique_vector& cliques,
+                         std::uint32_t exact_clique_count);
+
+}  // namespace gns

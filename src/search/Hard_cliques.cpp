@@ -1,0 +1,94 @@
+#include "search/Hard_cliques.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <numeric>
+#include <unordered_set>
+#include <vector>
+
+#include "search/Inclusion_index.h"
+
+namespace gns {
+
+namespace {
+
+/// The rows of `sets` in lexicographic order, each once.
+Clique_vector Sorted_unique(const Clique_vector& sets) {
+  std::vector<std::uint32_t> order(sets.size());
+  std::iota(order.begin(), order.end(), 0U);
+  std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+    return std::ranges::lexicographical_compare(sets[a], sets[b]);
+  });
+  Clique_vector sorted;
+  for (const std::uint32_t set : order)
+    if (sorted.empty() || !std::ranges::equal(sorted[sorted.size() - 1], sets[set]))
+      sorted.push_back(sets[set]);
+  return sorted;
+}
+
+/// The cliques recorded so far, found by the hash of their members.
+class Recorded_cliques {
+ public:
+  explicit Recorded_cliques(const Clique_vector& cliques)
+      : cliques_(cliques), positions_(cliques.size(), Hash{cliques}, Equal{cliques}) {
+    for (std::uint32_t i = 0; i < cliques.size(); ++i) positions_.insert(i);
+  }
+
+  /// True if the row at the end of the vector equals an earlier one.
+  [[nodiscard]] bool Has_last() const {
+    return positions_.contains(static_cast<std::uint32_t>(cliques_.size() - 1));
+  }
+
+ private:
+  struct Hash {
+    const Clique_vector& cliques;
+    std::size_t operator()(std::uint32_t i) const {
+      std::uint64_t hash = 0;
+      for (const Node_index node : cliques[i]) hash = (hash ^ node) * 0x9E3779B97F4A7C15U;
+      return hash ^ (hash >> 32U);
+    }
+  };
+  struct Equal {
+    const Clique_vector& cliques;
+    bool operator()(std::uint32_t a, std::uint32_t b) const {
+      return std::ranges::equal(cliques[a], cliques[b]);
+    }
+  };
+
+  const Clique_vector& cliques_;
+  std::unordered_set<std::uint32_t, Hash, Equal> positions_;
+};
+
+void Record_unequal(const Clique_vector& hard_cliques, Clique_vector& cliques) {
+  const Recorded_cliques recorded(cliques);
+  for (std::size_t i = 0; i < hard_cliques.size(); ++i) {
+    cliques.push_back(hard_cliques[i]);
+    if (recorded.Has_last()) cliques.Truncate(cliques.size() - 1);
+  }
+}
+
+/// A hard clique inside an earlier hard one is left out even where that one was left out itself:
+/// then both lie inside the same recorded clique.
+void Record_not_covered(const Clique_vector& hard_cliques, Clique_vector& cliques) {
+  const Inclusion_index recorded(cliques);
+  const Inclusion_index hard(hard_cliques);
+  std::vector<std::uint32_t> uncovered;
+  for (std::uint32_t i = 0; i < hard_cliques.size(); ++i) {
+    const Node_span set = hard_cliques[i];
+    if (!recorded.Covers(set) && !hard.Covers(set, [&](std::uint32_t other) { return other < i; }))
+      uncovered.push_back(i);
+  }
+  for (const std::uint32_t i : uncovered) cliques.push_back(hard_cliques[i]);
+}
+
+}  // namespace
+
+void Record_hard_cliques(const Clique_vector& hard_cliques, bool nested, Clique_vector& cliques) {
+  const Clique_vector sorted = Sorted_unique(hard_cliques);
+  if (nested)
+    Record_not_covered(sorted, cliques);
+  else
+    Record_unequal(sorted, cliques);
+}
+
+}  // namespace gns
