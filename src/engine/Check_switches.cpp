@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "foundation/Errors.h"
+
 namespace gns {
 
 bool Check_switches(bool use_time_limit, double time_limit, bool use_lower_threshold,
@@ -35,6 +37,19 @@ bool Check_switches(bool use_time_limit, double time_limit, bool use_lower_thres
     good = false;
   }
   return good;
+}
+
+void Refuse_bad_parameters(const Run_parameters& p) {
+  // The intensity method asks for the links among k - 1 nodes.
+  constexpr std::uint32_t least_k = 3;
+  std::string errors;
+  Check_switches(p.use_time_limit, p.time_limit, p.use_lower_threshold, p.use_upper_threshold,
+                 p.lower_threshold, p.upper_threshold, p.directed, p.use_intensity, false, errors);
+  if (p.use_intensity && p.use_single_k && p.single_k < least_k)
+    errors +=
+        " The k-clique size must be at least 3 when a link weight\n"
+        " intensity condition is set.\n";
+  if (!errors.empty()) throw Xerror_msg("The following error(s) occured:\n" + errors + "\n");
 }
 
 }  // namespace gns

@@ -4,8 +4,11 @@
 #include <sstream>
 
 #include "communities/Coms_funcs.h"
+#include "communities/K_clique_communities.h"
+#include "communities/K_clique_generation.h"
 #include "control/Clique_find_ext_cont.h"
 #include "files/Community_files.h"
+#include "files/Graph_and_clique_files.h"
 #include "files/Statistics_files.h"
 
 namespace gns {
@@ -38,8 +41,12 @@ Row_array<Node_index> Copy_rows(const Row_array<Node_index>& rows, std::size_t f
 
 }  // namespace
 
-Extraction::Extraction(const Extraction_input& input)
-    : input_(input), percolation_(input.cliques, input.exact_clique_count, false) {}
+Extraction::Extraction(const Extraction_input& input) : input_(input) {
+  if (input.use_intensity)
+    by_intensity_.emplace(input);
+  else
+    percolation_.emplace(input.cliques, input.exact_clique_count, false);
+}
 
 K_summary Extraction::At(std::uint32_t k) {
   const Communities& communities = Find_communities(k);
@@ -67,10 +74,25 @@ K_summary Extraction::At(std::uint32_t k) {
 }
 
 const Communities& Extraction::Find_communities(std::uint32_t k) {
+  return input_.use_intensity ? Find_by_intensity(k) : Find_by_overlap(k);
+}
+
+const Communities& Extraction::Find_by_intensity(std::uint32_t k) {
+  auto& [cliques, k_cliques, com_k_cliques, communities] = *by_intensity_;
+  Generate_k_cls_from_cls_ec(cliques, k_cliques, k, input_.intensity_threshold);
+  CURRENT_STATE_REPORT = "__________________________\n Writing k-clques to disk.\n";
+  Kiir_k_cliques_VL(input_.output_dir, k_cliques, k, input_.node_names, input_.run_header);
+  Intensity_coms_from_k_cliques_ec(k_cliques, communities.coms, com_k_cliques, cliques.Logs(),
+                                   input_.intensity_threshold);
+  communities.exact_com_count = static_cast<std::uint32_t>(communities.size());
+  return communities;
+}
+
+const Communities& Extraction::Find_by_overlap(std::uint32_t k) {
   std::ostringstream report;
   Coms_report_sub::Report_com_export(k, input_.max_clique_size, report);
   CURRENT_STATE_REPORT = report.str();
-  const Communities& communities = percolation_.At(k);
+  const Communities& communities = percolation_->At(k);
   CURRENT_STATE_REPORT = " done.\n";
   return communities;
 }
@@ -78,11 +100,18 @@ const Communities& Extraction::Find_communities(std::uint32_t k) {
 void Extraction::Write_communities(std::uint32_t k, const Communities& communities) const {
   Kiir_coms_VL(communities.coms, input_.output_dir, k, input_.node_names,
                communities.exact_com_count, input_.com_flag, input_.run_header);
+  const auto write_links = [&](const auto& com_links) {
+    Kiir_com_links_VL(com_links, input_.output_dir, k, input_.node_names,
+                      communities.exact_com_count, input_.com_flag, input_.run_header,
+                      input_.index_links);
+  };
+  if (input_.use_intensity) {
+    write_links(K_clique_com_links(by_intensity_->k_cliques, by_intensity_->com_k_cliques));
+    return;
+  }
   Kiir_coms_cliques_VL(communities.com_cliques, input_.output_dir, k, communities.exact_com_count,
                        input_.exact_clique_count, input_.com_flag, input_.run_header);
-  Kiir_com_links_VL(communities.com_links, input_.output_dir, k, input_.node_names,
-                    communities.exact_com_count, input_.com_flag, input_.run_header,
-                    input_.index_links);
+  write_links(communities.com_links);
 }
 
 /// Writes one set of distributions, or, where some communities are approximate, three. Yields the

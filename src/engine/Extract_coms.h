@@ -1,10 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "communities/Community_statistics.h"
+#include "communities/K_cliques.h"
 #include "communities/Percolation.h"
+#include "communities/Weighted_cliques.h"
 #include "engine/Run_summary.h"
 #include "graph/Index_links.h"
 #include "graph/Node_names.h"
@@ -24,6 +27,8 @@ struct Extraction_input {
   std::uint32_t vertex_count;
   const Index_links& index_links;
   std::uint32_t max_clique_size;  ///< for the state report only
+  bool use_intensity;
+  double intensity_threshold;  ///< read only if `use_intensity` is set
 };
 
 /// Finds the communities at one k after the other, best with k descending, and writes their files.
@@ -37,12 +42,26 @@ class Extraction {
 
  private:
   const Communities& Find_communities(std::uint32_t k);
+  const Communities& Find_by_overlap(std::uint32_t k);
+  const Communities& Find_by_intensity(std::uint32_t k);
   void Write_communities(std::uint32_t k, const Communities& communities) const;
   Distribution Write_statistics(std::uint32_t k, const Communities& communities,
                                 const Com_graph& com_graph) const;
 
+  /// What the intensity method works from, and what it has found at one k.
+  struct By_intensity {
+    explicit By_intensity(const Extraction_input& input)
+        : cliques(input.cliques, input.index_links) {}
+
+    Weighted_cliques cliques;
+    K_cliques k_cliques{0};
+    Row_array<K_clique_index> com_k_cliques;
+    Communities communities;  ///< without `com_links` and `com_cliques`
+  };
+
   Extraction_input input_;
-  Percolation percolation_;
+  std::optional<Percolation> percolation_;  ///< of a run without intensity
+  std::optional<By_intensity> by_intensity_;
 };
 
 }  // namespace gns

@@ -7,7 +7,6 @@
 #include "engine/Run_stages.h"
 #include "files/Link_file_reader.h"
 #include "files/Results_directory.h"
-#include "foundation/Errors.h"
 
 namespace gns {
 
@@ -16,14 +15,6 @@ const std::string run_finished = "Process ended succesfully.";
 namespace {
 
 using external_control::CURRENT_STATE_REPORT;
-
-void Refuse_bad_switches(const Run_parameters& p) {
-  std::string errors;
-  if (!Check_switches(p.use_time_limit, p.time_limit, p.use_lower_threshold, p.use_upper_threshold,
-                      p.lower_threshold, p.upper_threshold, p.directed, p.use_intensity, false,
-                      errors))
-    throw Xerror_msg("The following error(s) occured:\n" + errors + "\n");
-}
 
 std::string Header_of(const Run_parameters& p) {
   std::string header;
@@ -44,7 +35,7 @@ void Read_links(const Run_parameters& p, bool weighted, Link_map& links) {
 }
 
 void Run(const Run_parameters& parameters, bool& approximation_needed, Run_summary& summary) {
-  Refuse_bad_switches(parameters);
+  Refuse_bad_parameters(parameters);
   Check_out_dir(parameters.output_dir);
   Run_start start;
   start.parameters = parameters;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "communities/Community_statistics.h"
+#include "communities/K_clique_communities.h"
 #include "graph/Index_links.h"
 #include "graph/Node_names.h"
 #include "graph/Row_array.h"
@@ -28,6 +29,11 @@ void Kiir_coms_cliques_VL(const Row_array<Clique_index>& com_cliques, const std:
 /// A block per community: a head line with its index, then a line per link. A link that
 /// `index_links` holds from the smaller to the greater index is shown so, any other the other way.
 void Kiir_com_links_VL(const Row_array<Index_pair>& com_links, const std::string& output_dir,
+                       std::uint32_t k, const Node_names& node_names, std::uint32_t exact_com_count,
+                       const std::string& com_flag, const std::string& run_header,
+                       const Index_links& index_links);
+/// The same with links that are computed from k-cliques while they are written.
+void Kiir_com_links_VL(const K_clique_com_links& com_links, const std::string& output_dir,
                        std::uint32_t k, const Node_names& node_names, std::uint32_t exact_com_count,
                        const std::string& com_flag, const std::string& run_header,
                        const Index_links& index_links);

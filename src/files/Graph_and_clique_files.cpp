@@ -1,5 +1,6 @@
 #include "files/Graph_and_clique_files.h"
 
+#include "control/Clique_find_ext_cont.h"
 #include "files/Result_lines.h"
 #include "files/Results_names.h"
 #include "foundation/Direktoriz.h"
@@ -34,6 +35,19 @@ void Kiir_cliques_VL(const std::string& output_dir, const Clique_vector& cliques
   file << '\n';
   for (std::uint32_t i = 0; i < cliques.size(); ++i)
     Write_members(file, i, exact_clique_count, cliques[i], node_names);
+}
+
+void Kiir_k_cliques_VL(const std::string& output_dir, const K_cliques& k_cliques, std::uint32_t k,
+                       const Node_names& node_names, const std::string& run_header) {
+  const std::string dir_of_k = results_names::Dir_of_k(output_dir, k);
+  Dir_prepare(dir_of_k, "keep");
+  Text_writer file(results_names::K_cliques(dir_of_k));
+  file << "# The k-cliques at k=" << k << run_header << '\n';
+  const auto count = static_cast<std::uint32_t>(k_cliques.size());
+  for (std::uint32_t i = 0; i < count; ++i) {
+    external_control::Check_inside_long_stage();
+    Write_members(file, i, count, k_cliques[i], node_names);
+  }
 }
 
 }  // namespace gns

@@ -24,6 +24,8 @@ std::string Dir_of_k(const std::string& output_dir, std::uint32_t k) {
   return output_dir + "/k=" + std::to_string(k);
 }
 
+std::string K_cliques(const std::string& dir_of_k) { return dir_of_k + "/k-cliques"; }
+
 std::string In_dir_of_k(const std::string& dir_of_k, const std::string& com_flag,
                         const std::string& base_name) {
   return dir_of_k + "/" + Lead(com_flag, '_') + base_name;

@@ -17,6 +17,7 @@ std::string Params(const std::string& output_dir);
 std::string Graph(const std::string& output_dir, bool directed);
 std::string Cliques(const std::string& output_dir, const std::string& com_flag);
 std::string Dir_of_k(const std::string& output_dir, std::uint32_t k);
+std::string K_cliques(const std::string& dir_of_k);
 /// A file of communities in the directory of a k; `base_name` without the flag.
 std::string In_dir_of_k(const std::string& dir_of_k, const std::string& com_flag,
                         const std::string& base_name);

@@ -13,19 +13,18 @@ Index_links::Index_links(const std::vector<Index_pair>& keys, std::vector<double
             }),
       weights_(std::move(weights)) {}
 
-bool Index_links::contains(Node_index first, Node_index second) const {
-  if (first > Node_count()) return false;
-  const Node_span row = Row(first);
-  return std::binary_search(row.begin(), row.end(), second);
-}
-
-std::optional<double> Index_links::Weight(Node_index first, Node_index second) const {
+std::optional<std::size_t> Index_links::Place(Node_index first, Node_index second) const {
   if (first > Node_count()) return std::nullopt;
   const Node_span row = Row(first);
   const auto place = std::lower_bound(row.begin(), row.end(), second);
   if (place == row.end() || *place != second) return std::nullopt;
-  if (weights_.empty()) return 0.0;
-  return weights_[rows_.Start(first) + static_cast<std::size_t>(place - row.begin())];
+  return Start(first) + static_cast<std::size_t>(place - row.begin());
+}
+
+std::optional<double> Index_links::Weight(Node_index first, Node_index second) const {
+  const std::optional<std::size_t> place = Place(first, second);
+  if (!place) return std::nullopt;
+  return Weight_at(*place);
 }
 
 }  // namespace gns

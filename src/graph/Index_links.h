@@ -22,7 +22,16 @@ class Index_links {
   [[nodiscard]] Node_index Node_count() const { return rows_.Node_count(); }
   /// Second indices of the keys that begin with `first`, ascending.
   [[nodiscard]] Node_span Row(Node_index first) const { return rows_[first]; }
-  [[nodiscard]] bool contains(Node_index first, Node_index second) const;
+  /// Position among all keys of the first that begins with `first`.
+  [[nodiscard]] std::size_t Start(Node_index first) const { return rows_.Start(first); }
+  /// Position of a key among all keys, or nothing if it is missing.
+  [[nodiscard]] std::optional<std::size_t> Place(Node_index first, Node_index second) const;
+  [[nodiscard]] double Weight_at(std::size_t place) const {
+    return weights_.empty() ? 0.0 : weights_[place];
+  }
+  [[nodiscard]] bool contains(Node_index first, Node_index second) const {
+    return Place(first, second).has_value();
+  }
   /// The weight under a key, or nothing if the key is missing.
   [[nodiscard]] std::optional<double> Weight(Node_index first, Node_index second) const;
 

@@ -1,0 +1,57 @@
+#include "communities/K_clique_generation.h"
+
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "communities/K_clique_search.h"
+#include "control/Clique_find_ext_cont.h"
+#include "foundation/My_double2string.h"
+#include "search/Clique_reports.h"
+
+namespace gns {
+
+namespace {
+
+/// The search goes through the nodes as the smallest of their k-cliques. A clique is done with when
+/// the last node that can be the smallest of k of its nodes has been passed.
+std::vector<std::uint32_t> Cliques_done_behind(const Weighted_cliques& cliques, std::uint32_t k) {
+  std::vector<std::uint32_t> done_behind(std::size_t{cliques.Node_count()} + 1, 0);
+  for (std::size_t i = 0; i < cliques.Cliques().size(); ++i) {
+    const Node_span clique = cliques.Cliques()[i];
+    ++done_behind[clique.size() < k ? clique.front() : clique[clique.size() - k]];
+  }
+  return done_behind;
+}
+
+}  // namespace
+
+void Generate_k_cls_from_cls_ec(const Weighted_cliques& cliques, K_cliques& k_cliques,
+                                std::uint32_t k, double intensity_threshold) {
+  using external_control::CURRENT_STATE_REPORT;
+  constexpr unsigned digits = 6;
+  k_cliques = K_cliques(k);
+  auto remaining = static_cast<std::uint32_t>(cliques.Cliques().size());
+  const auto progress = std::make_shared<Progress_report>(
+      " Generating k-cliques at k=" + std::to_string(k) + ",",
+      " and a link weight intensity threshold I=" + double2string(intensity_threshold, digits) +
+          ":",
+      "cliques", remaining);
+  if (cliques.Largest_clique() >= k) CURRENT_STATE_REPORT = progress;
+
+  const std::vector<std::uint32_t> done_behind = Cliques_done_behind(cliques, k);
+  K_clique_search search(cliques, k, intensity_threshold);
+  for (Node_index root = 1; root <= cliques.Node_count(); ++root) {
+    external_control::Check_for_stop_signal();
+    search.Search_from(root, k_cliques);
+    remaining -= done_behind[root];
+    progress->Set_remaining(remaining);
+  }
+  std::ostringstream report;
+  Clique_find_report_sub_routines::Report_clique_search_end(
+      " k-cliques", static_cast<std::uint32_t>(k_cliques.size()), report);
+  CURRENT_STATE_REPORT = report.str();
+}
+
+}  // namespace gns

@@ -1,0 +1,210 @@
+#include "communities/K_clique_search.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+
+#include "control/Clique_find_ext_cont.h"
+
+namespace gns {
+
+namespace {
+
+using external_control::Check_for_stop_signal;
+
+/// More than two sums of the logarithms of a k-clique can differ by rounding, in whatever order and
+/// grouping they are added up, and a few operations on top.
+double Rounding_margin(std::uint32_t k, double largest_log) {
+  constexpr double share = 4 * std::numeric_limits<double>::epsilon();
+  const double links = 0.5 * k * (k - 1.0);
+  return share * links * links * largest_log;
+}
+
+}  // namespace
+
+K_clique_search::K_clique_search(const Weighted_cliques& cliques, std::uint32_t k,
+                                 double intensity_threshold)
+    : cliques_(cliques),
+      k_(k),
+      threshold_(Log_threshold(intensity_threshold, k)),
+      reject_below_(threshold_ - Rounding_margin(k, cliques.Largest_log())),
+      accept_above_(threshold_ + Rounding_margin(k, cliques.Largest_log())),
+      bounds_(reject_below_, accept_above_),
+      number_of_(std::size_t{cliques.Node_count()} + 1, 0),
+      levels_(k - 1),
+      k_clique_(k) {}
+
+void K_clique_search::Search_from(Node_index root, K_cliques& found) {
+  if (!(threshold_ < std::numeric_limits<double>::infinity())) return;
+  k_clique_[0] = root;
+  Collect_candidates(root);
+  if (levels_[0].candidates.size() < k_ - 1) return;
+  Link_candidates();
+  if (!Begin_level(0, found)) return;
+  for (std::uint32_t depth = 0;;) {
+    Check_for_stop_signal();
+    Level& level = levels_[depth];
+    const std::uint32_t missing = k_ - 1 - depth;
+    if (missing > 1 && level.candidates.size() - level.next >= missing) {
+      if (Descend(depth, found)) ++depth;
+      continue;
+    }
+    if (missing == 1) Take_each(level, found);
+    if (depth == 0) return;
+    --depth;
+  }
+}
+
+void K_clique_search::Collect_candidates(Node_index root) {
+  Level& level = levels_[0];
+  level.candidates.clear();
+  level.sum = 0.0;
+  level.all_pass = false;
+  names_.clear();
+  cliques_.For_each_link(root, k_, [&](Node_index node, double log) {
+    level.candidates.push_back(static_cast<std::uint32_t>(names_.size()), log);
+    names_.push_back(node);
+  });
+}
+
+void K_clique_search::Link_candidates() {
+  for (std::uint32_t i = 0; i < names_.size(); ++i) number_of_[names_[i]] = i + 1;
+  local_.clear();
+  for (const Node_index node : names_) {
+    cliques_.For_each_link(node, k_, [&](Node_index neighbour, double log) {
+      if (number_of_[neighbour] != 0) local_.Append(number_of_[neighbour] - 1, log);
+    });
+    local_.Close_row();
+  }
+  for (const Node_index node : names_) number_of_[node] = 0;
+
+  bounded_ = true;
+  highest_log_ = -std::numeric_limits<double>::infinity();
+  Note_range(levels_[0].candidates.sums);
+  Note_range(local_.Logs());
+}
+
+void K_clique_search::Note_range(std::span<const double> logs) {
+  for (const double log : logs) {
+    bounded_ = bounded_ && std::isfinite(log);
+    highest_log_ = std::max(highest_log_, log);
+  }
+}
+
+/// Looks at the candidates of a new level; false if there is nothing left to do with them.
+bool K_clique_search::Begin_level(std::uint32_t depth, K_cliques& found) {
+  Level& level = levels_[depth];
+  const std::uint32_t missing = k_ - 1 - depth;
+  level.next = 0;
+  if (level.candidates.size() < missing) return false;
+  if (bounded_ && missing > 2) {
+    const Outlook outlook =
+        bounds_.Judge(local_, level.sum, missing, !level.all_pass, level.candidates);
+    if (outlook == Outlook::none_passes) return false;
+    if (outlook == Outlook::all_subsets_pass) {
+      Take_all_subsets(level, depth, found);
+      return false;
+    }
+    level.all_pass = outlook == Outlook::all_pass;
+  }
+  level.best_sum = *std::ranges::max_element(level.candidates.sums);
+  return true;
+}
+
+/// Chooses the next candidate; true if the level below it is worth entering.
+bool K_clique_search::Descend(std::uint32_t depth, K_cliques& found) {
+  Level& level = levels_[depth];
+  Level& below = levels_[depth + 1];
+  const std::size_t at = level.next++;
+  const std::uint32_t node = level.candidates.nodes[at];
+  below.sum = level.sum + level.candidates.sums[at];
+  below.all_pass = level.all_pass;
+  if (!level.all_pass && bounded_ && Is_hopeless(level, below.sum, k_ - 2 - depth)) return false;
+  k_clique_[depth + 1] = names_[node];
+  Extend(level, at, below.candidates);
+  return Begin_level(depth + 1, found);
+}
+
+/// A rough bound from above: the best candidate and the highest logarithm for all that is missing.
+bool K_clique_search::Is_hopeless(const Level& level, double sum, std::uint32_t missing) const {
+  const double links_between = 0.5 * missing * (missing + 1.0);
+  return sum + missing * level.best_sum + links_between * highest_log_ < reject_below_;
+}
+
+/// The candidates behind position `at` that are linked to the one there.
+void K_clique_search::Extend(const Level& level, std::size_t at, Candidates& candidates) const {
+  const std::vector<std::uint32_t>& nodes = level.candidates.nodes;
+  const Local_links::Row row = local_[nodes[at]];
+  candidates.clear();
+  std::size_t next = at + 1;
+  for (std::size_t i = 0; i < row.nodes.size(); ++i) {
+    while (next < nodes.size() && nodes[next] < row.nodes[i]) ++next;
+    if (next == nodes.size()) return;
+    if (nodes[next] == row.nodes[i])
+      candidates.push_back(nodes[next], level.candidates.sums[next] + row.logs[i]);
+  }
+}
+
+/// Completes a partial k-clique that lacks one node.
+void K_clique_search::Take_each(const Level& level, K_cliques& found) {
+  for (std::size_t i = 0; i < level.candidates.size(); ++i) {
+    k_clique_.back() = names_[level.candidates.nodes[i]];
+    if (level.all_pass || Passes(level.sum + level.candidates.sums[i])) found.push_back(k_clique_);
+  }
+}
+
+/// Completes a partial k-clique by every subset of its candidates.
+void K_clique_search::Take_all_subsets(const Level& level, std::uint32_t depth, K_cliques& found) {
+  const std::vector<std::uint32_t>& nodes = level.candidates.nodes;
+  const std::size_t missing = k_ - 1 - depth;
+  subset_.resize(missing);
+  std::iota(subset_.begin(), subset_.end(), 0);
+  for (;;) {
+    Check_for_stop_signal();
+    for (std::size_t i = 0; i < missing; ++i) k_clique_[depth + 1 + i] = names_[nodes[subset_[i]]];
+    found.push_back(k_clique_);
+    std::size_t last = missing;
+    while (last > 0 && subset_[last - 1] == nodes.size() - missing + last - 1) --last;
+    if (last == 0) return;
+    std::iota(subset_.begin() + static_cast<std::ptrdiff_t>(last) - 1, subset_.end(),
+              subset_[last - 1] + 1);
+  }
+}
+
+/// Decides on k_clique_, whose logarithms add up to about `sum`.
+bool K_clique_search::Passes(double sum) {
+  if (sum > accept_above_) return true;
+  if (sum < reject_below_) return false;
+  return Passes_exactly();
+}
+
+bool K_clique_search::Passes_exactly() {
+  sub_links_.Load(k_clique_, cliques_.Logs());
+  double sum = 0.0;
+  double lowest = std::numeric_limits<double>::infinity();
+  for (std::uint32_t n = 1; n < k_; ++n) {
+    for (std::uint32_t p = 0; p < n; ++p) {
+      const double log = sub_links_.To_earlier(n)[p];
+      sum += log;
+      if (log < lowest) lowest = log;
+    }
+  }
+  if (sum > threshold_) return true;
+  // No clique around the k-clique has a higher lowest logarithm than the k-clique itself.
+  const auto passes = [this](double min_log_w) { return Some_partial_sum_passes(min_log_w); };
+  return passes(lowest) && cliques_.Any_clique_around(k_clique_, passes);
+}
+
+bool K_clique_search::Some_partial_sum_passes(double min_log_w) const {
+  const double total = static_cast<double>((k_ - 1) * k_) * 0.5;
+  double sum = 0.0;
+  for (std::uint32_t n = 1; n < k_; ++n) {
+    for (std::uint32_t p = 0; p < n; ++p) sum += sub_links_.To_earlier(n)[p];
+    const double done = ((n + 1) * 0.5) * ((n + 1) - 1.0);
+    if ((total - done) * min_log_w + sum > threshold_) return true;
+  }
+  return false;
+}
+
+}  // namespace gns
