@@ -8,7 +8,7 @@
 #include "files/Unfinished_mark.h"
 #include "foundation/File_faults.h"
 #include "graph/Link_conversion.h"
-#include "search/Undirected_search.h"
+#include "search/Clique_find.h"
 
 namespace gns {
 
@@ -65,8 +65,12 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
 
   CURRENT_STATE_REPORT = "__________________________________\n Preparing graph from the links...\n";
   Vertex_map vtx_map;
-  Vtx_map_from_link_map(vtx_map, index_links);
-  const std::uint32_t vertex_count = vtx_map.size();
+  Dir_vertex_map dir_vtx_map;
+  if (parameters.directed)
+    Dir_vtx_map_from_link_map(dir_vtx_map, index_links);
+  else
+    Vtx_map_from_link_map(vtx_map, index_links);
+  const std::uint32_t vertex_count = parameters.directed ? dir_vtx_map.size() : vtx_map.size();
   summary.nodes = vertex_count;
   summary.links = index_links.size();
   CURRENT_STATE_REPORT = " Graph created from the links OK.\n";
@@ -74,9 +78,10 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
 
   Clique_vector cliques;
   Overlap_matrix overlap_matrix;
-  Clique_find_ec(cliques, overlap_matrix, vtx_map);
-  const auto exact_clique_count = static_cast<std::uint32_t>(cliques.size());
-  approximation_needed = exact_clique_count < cliques.size();
+  std::uint32_t exact_clique_count = 0;
+  Find_cliques_ec(parameters.use_time_limit, parameters.directed, cliques, overlap_matrix,
+                  dir_vtx_map, vtx_map, exact_clique_count, parameters.time_limit,
+                  approximation_needed);
   Summarize(cliques, exact_clique_count, summary);
   Check_for_stop_signal();
 
@@ -89,7 +94,8 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
   Extract_all(parameters,
               {cliques, exact_clique_count, start.com_flag, start.run_header, parameters.output_dir,
                node_names, vertex_count, index_links, Max_clique_size_in_cl_vec(cliques),
-               parameters.use_intensity, parameters.intensity_threshold},
+               parameters.directed && parameters.use_time_limit, parameters.use_intensity,
+               parameters.intensity_threshold},
               summary);
   if (File_faults().empty()) Remove_unfinished_mark(parameters.output_dir);
 }

@@ -1,24 +1,29 @@
 #include "search/Clique_walk.h"
 
 #include <algorithm>
-#include <functional>
-#include <numeric>
+#include <limits>
+
+#include "search/One_way_cycles.h"
 
 namespace gns {
 
 /// One walk over a local graph. With fixed_words 0 the row length is known at run time only.
 ///
-/// Level l of the walk holds a set of candidates that are linked to all members of the partial
-/// clique, the part of them still to branch on, and the list of excluded rows linked to all
-/// members.
-template <std::size_t fixed_words>
+/// Level l of the walk holds a set of candidates that can join the partial clique, the part of them
+/// still to branch on, and the list of excluded rows that can join it.
+template <bool directed, std::size_t fixed_words>
 class Clique_walk::Descent {
  public:
-  Descent(Clique_walk& memory, const Local_graph& local, Attempt& attempt)
+  Descent(Clique_walk& memory, const Local_graph& local, Attempt& attempt,
+          std::vector<Bit_word>& found)
       : memory_(memory),
         local_(local),
         attempt_(attempt),
-        words_(fixed_words != 0 ? fixed_words : local.words) {}
+        found_(found),
+        words_(fixed_words != 0 ? fixed_words : local.words),
+        clique_((memory.clique_.assign(words_, 0), memory.clique_.data())),
+        cycles_(local, clique_, memory.cycle_memory_),
+        leaf_cycles_(local, clique_, memory.leaf_memory_) {}
 
   void Run() {
     Open_root();
@@ -37,131 +42,142 @@ class Clique_walk::Descent {
   }
   [[nodiscard]] Bit_word* To_branch(std::size_t level) { return Candidates(level) + Words(); }
 
-  static bool Has(const Bit_word* row, std::size_t position) {
-    return (row[position / word_bits] & Bit_of(position)) != 0;
-  }
-  static void Flip(Bit_word* row, std::size_t position) {
-    row[position / word_bits] ^= Bit_of(position);
-  }
-
   void Reserve_level(std::size_t level) {
     if (memory_.bits_.size() < (level + 1) * 2 * Words())
       memory_.bits_.resize((level + 1) * 4 * Words());
   }
 
   void Open_root() {
-    memory_.clique_.assign(Words(), 0);
+    Flip_bit(clique_, local_.home);
     memory_.branches_.clear();
     memory_.excluded_.clear();
     memory_.excluded_starts_.assign(1, 0);
     Reserve_level(0);
     std::fill_n(Candidates(0), Words(), 0);
-    for (std::size_t i = 0; i < local_.candidates.size(); ++i) Flip(Candidates(0), i);
-    for (std::size_t row = local_.candidates.size(); row < local_.Row_count(); ++row) {
-      const Bit_word* bits = local_.Row(row);
-      if (std::any_of(bits, bits + Words(), [](Bit_word word) { return word != 0; }))
+    for (std::size_t i = 0; i < local_.nodes.size(); ++i) Flip_bit(Candidates(0), i);
+    Flip_bit(Candidates(0), local_.home);
+    for (std::size_t row = local_.nodes.size(); row < local_.Row_count(); ++row)
+      if (Share_bit(local_.Row(row), Candidates(0), Words()))
         memory_.excluded_.push_back(static_cast<std::uint32_t>(row));
-    }
-    if (!Choose_branches(local_.candidates.size())) memory_.excluded_starts_.pop_back();
+    if (!Choose_branches()) memory_.excluded_starts_.pop_back();
   }
 
   /// Takes the next branch of the deepest level, or closes the level if there is none.
   void Step() {
     const std::size_t level = Level();
-    const std::size_t next = First_bit(To_branch(level));
+    const std::size_t next = First_bit(To_branch(level), Words());
     if (next == Words() * word_bits) {
       Close_level();
       return;
     }
-    Flip(To_branch(level), next);
+    Flip_bit(To_branch(level), next);
     if (!Enter(level, next)) Retire(level, next);
-  }
-
-  [[nodiscard]] std::size_t First_bit(const Bit_word* row) const {
-    for (std::size_t w = 0; w < Words(); ++w)
-      if (row[w] != 0) return w * word_bits + static_cast<std::size_t>(std::countl_zero(row[w]));
-    return Words() * word_bits;
   }
 
   /// Adds candidate `next` to the partial clique. True if that opened a level below.
   bool Enter(std::size_t level, std::size_t next) {
     Reserve_level(level + 1);
+    if constexpr (directed) cycles_.Join(next);
     const Bit_word* neighs = local_.Row(next);
     const Bit_word* above = Candidates(level);
     Bit_word* below = Candidates(level + 1);
     std::size_t count = 0;
     for (std::size_t w = 0; w < Words(); ++w) {
       below[w] = above[w] & neighs[w];
+      if constexpr (directed) below[w] &= ~cycles_.Closing(w);
       count += static_cast<std::size_t>(std::popcount(below[w]));
     }
     if (count <= 1) {
-      Try_leaf(level, next, count == 1 ? First_bit(below) : next);
+      Try_leaf(level, next, count == 1 ? First_bit(below, Words()) : next);
       return false;
     }
 
     const std::size_t start = memory_.excluded_.size();
     for (std::size_t i = memory_.excluded_starts_[level]; i < start; ++i) {
       const std::uint32_t row = memory_.excluded_[i];
-      if (Has(local_.Row(row), next)) memory_.excluded_.push_back(row);
+      if (Can_join(row, next)) memory_.excluded_.push_back(row);
     }
     memory_.excluded_starts_.push_back(start);
-    if (!Choose_branches(count)) {
+    Flip_bit(clique_, next);
+    if (!Choose_branches()) {
       memory_.excluded_starts_.pop_back();
       memory_.excluded_.resize(start);
+      Flip_bit(clique_, next);
       return false;
     }
     memory_.branches_.push_back(next);
-    Flip(memory_.clique_.data(), next);
+    return true;
+  }
+
+  /// Whether the node of an excluded row can join the clique that `next` is about to join.
+  [[nodiscard]] bool Can_join(std::size_t row, std::size_t next) const {
+    if (!Has_bit(local_.Row(row), next)) return false;
+    if constexpr (directed) return !cycles_.Closes(row);
     return true;
   }
 
   /// The partial clique with `next` and `last` (the same one where there is no further candidate)
-  /// is maximal unless an excluded node is linked to both. Alone with the node in hand, one
-  /// candidate makes no clique of three.
+  /// is maximal unless an excluded node can join. With the node in hand alone, one candidate makes
+  /// no clique of three.
   void Try_leaf(std::size_t level, std::size_t next, std::size_t last) {
     if (level == 0 && next == last) return;
-    for (std::size_t i = memory_.excluded_starts_[level]; i < memory_.excluded_.size(); ++i) {
-      const Bit_word* row = local_.Row(memory_.excluded_[i]);
-      if (Has(row, next) && Has(row, last)) return;
+    Flip_bit(clique_, next);
+    if (Is_maximal(level, next, last)) {
+      found_.insert(found_.end(), clique_, clique_ + Words());
+      if (last != next) Flip_bit(found_.data() + found_.size() - Words(), last);
     }
-    std::vector<Bit_word>& found = memory_.unsorted_;
-    found.insert(found.end(), memory_.clique_.begin(), memory_.clique_.end());
-    Bit_word* clique = found.data() + found.size() - Words();
-    Flip(clique, next);
-    if (last != next) Flip(clique, last);
+    Flip_bit(clique_, next);
   }
 
-  /// Chooses a pivot for the deepest level and notes the candidates not linked to it for branching.
-  /// False if an excluded node is linked to all candidates: nothing maximal is below.
-  bool Choose_branches(std::size_t count) {
+  [[nodiscard]] bool Is_maximal(std::size_t level, std::size_t next, std::size_t last) {
+    bool looked = !directed || next == last;
+    for (std::size_t i = memory_.excluded_starts_[level]; i < memory_.excluded_.size(); ++i) {
+      const std::uint32_t row = memory_.excluded_[i];
+      if (!Has_bit(local_.Row(row), last) || !Can_join(row, next)) continue;
+      if constexpr (directed) {
+        if (!looked) leaf_cycles_.Join(last);
+        looked = true;
+        if (next != last && leaf_cycles_.Closes(row)) continue;
+      }
+      return false;
+    }
+    return true;
+  }
+
+  /// Chooses a pivot for the deepest level and notes the candidates that need a branch. False if an
+  /// excluded node can join whatever the candidates make: nothing maximal is below.
+  bool Choose_branches() {
     const std::size_t level = Level();
     const Bit_word* candidates = Candidates(level);
-    const Bit_word* pivot = nullptr;
-    std::size_t most = 0;
-    const auto consider = [&](const Bit_word* row) {
-      std::size_t linked = 0;
+    Bit_word* branches = To_branch(level);
+    std::size_t fewest = std::numeric_limits<std::size_t>::max();
+    const auto consider = [&](std::size_t row) {
+      const Bit_word* linked = local_.Row(row);
+      std::size_t count = 0;
       for (std::size_t w = 0; w < Words(); ++w)
-        linked += static_cast<std::size_t>(std::popcount(candidates[w] & row[w]));
-      if (pivot == nullptr || linked > most) {
-        pivot = row;
-        most = linked;
+        count += static_cast<std::size_t>(std::popcount(candidates[w] & ~linked[w]));
+      if (count >= fewest) return;
+      if constexpr (directed) count += cycles_.Find_blockers(row, candidates, fewest - count);
+      if (count >= fewest) return;
+      fewest = count;
+      for (std::size_t w = 0; w < Words(); ++w) {
+        branches[w] = candidates[w] & ~linked[w];
+        if constexpr (directed) branches[w] |= cycles_.Blockers(w);
       }
     };
     for (std::size_t i = memory_.excluded_starts_[level]; i < memory_.excluded_.size(); ++i) {
-      consider(local_.Row(memory_.excluded_[i]));
-      if (most == count) return false;
+      consider(memory_.excluded_[i]);
+      if (fewest == 0) return false;
     }
     For_each_bit(candidates, Words(), [&](std::size_t position) {
-      if (most + 1 < count) consider(local_.Row(position));
+      if (fewest > 1) consider(position);
     });
-    Bit_word* branches = To_branch(level);
-    for (std::size_t w = 0; w < Words(); ++w) branches[w] = candidates[w] & ~pivot[w];
     return true;
   }
 
   /// A candidate whose cliques are all found is excluded from then on.
   void Retire(std::size_t level, std::size_t candidate) {
-    Flip(Candidates(level), candidate);
+    Flip_bit(Candidates(level), candidate);
     memory_.excluded_.push_back(static_cast<std::uint32_t>(candidate));
   }
 
@@ -171,55 +187,42 @@ class Clique_walk::Descent {
     if (memory_.branches_.empty()) return;
     const std::size_t candidate = memory_.branches_.back();
     memory_.branches_.pop_back();
-    Flip(memory_.clique_.data(), candidate);
+    Flip_bit(clique_, candidate);
     Retire(Level(), candidate);
   }
 
   Clique_walk& memory_;
   const Local_graph& local_;
   Attempt& attempt_;
+  std::vector<Bit_word>& found_;
   std::size_t words_;
+  Bit_word* clique_;
+  One_way_cycles<fixed_words> cycles_;       ///< of the node that joins, and of pivots
+  One_way_cycles<fixed_words> leaf_cycles_;  ///< of the last node of a clique
 };
 
-namespace {
-
-/// Puts rows in descending order of their words, which is ascending order of the sets.
-void Sort_rows(std::vector<Bit_word>& rows, std::size_t words, std::vector<std::uint32_t>& places,
-               std::vector<Bit_word>& sorted) {
-  if (words == 1) {
-    std::sort(rows.begin(), rows.end(), std::greater<>());
-    sorted.swap(rows);
-    return;
-  }
-  places.resize(rows.size() / words);
-  std::iota(places.begin(), places.end(), 0U);
-  std::sort(places.begin(), places.end(), [&](std::uint32_t a, std::uint32_t b) {
-    const Bit_word* row_a = rows.data() + a * words;
-    const Bit_word* row_b = rows.data() + b * words;
-    return std::lexicographical_compare(row_b, row_b + words, row_a, row_a + words);
-  });
-  sorted.clear();
-  for (const std::uint32_t place : places)
-    sorted.insert(sorted.end(), rows.begin() + static_cast<std::ptrdiff_t>(place * words),
-                  rows.begin() + static_cast<std::ptrdiff_t>((place + 1) * words));
-}
-
-}  // namespace
-
-void Clique_walk::Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found) {
-  unsorted_.clear();
+template <bool directed>
+void Clique_walk::Descend(const Local_graph& local, Attempt& attempt,
+                          std::vector<Bit_word>& found) {
   switch (local.words) {
     case 1:
-      Descent<1>(*this, local, attempt).Run();
+      Descent<directed, 1>(*this, local, attempt, found).Run();
       break;
     case 2:
-      Descent<2>(*this, local, attempt).Run();
+      Descent<directed, 2>(*this, local, attempt, found).Run();
       break;
     default:
-      Descent<0>(*this, local, attempt).Run();
+      Descent<directed, 0>(*this, local, attempt, found).Run();
       break;
   }
-  Sort_rows(unsorted_, local.words, places_, found);
+}
+
+void Clique_walk::Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found) {
+  found.clear();
+  if (local.out_rows.empty())
+    Descend<false>(local, attempt, found);
+  else
+    Descend<true>(local, attempt, found);
 }
 
 }  // namespace gns

@@ -7,31 +7,35 @@
 
 namespace gns {
 
-/// Finds all maximal cliques of the candidates of a local graph, two members or more, that no
-/// excluded node is linked to as a whole.
+/// Finds all maximal cliques of a local graph that hold the node in hand and two candidates or
+/// more, as far as no excluded node can join them. In a directed graph a clique is a set of nodes
+/// that are all linked, with no cycle of one-way links.
 ///
 /// Enumeration with a pivot and an excluded set on bit rows (E. Tomita, A. Tanaka, H. Takahashi,
 /// Theoretical Computer Science 363, 2006, for the pivot; D. Eppstein, M. Löffler, D. Strash, ISAAC
-/// 2010, for the outer order). Worst case 3^(n/3) for n candidates; the walk has a stack of its
-/// own.
+/// 2010, for the outer order). Of the sets that a pivot can't join, each holds a candidate that is
+/// not linked to it or, in a directed graph, one of those that a cycle through the pivot needs: one
+/// branch for each of these is enough. Worst case 3^(n/3) for n candidates of an undirected graph;
+/// the walk has a stack of its own.
 class Clique_walk {
  public:
-  /// Replaces `found` by one row of local.words words per clique, cliques in ascending
-  /// lexicographic order of their members. Where the attempt runs over, the cliques found until
-  /// then are a part of them, and maximal all the same.
+  /// Replaces `found` by one row of local.words words per clique, in no particular order. Where the
+  /// attempt runs over, the cliques found until then are a part of them, and maximal all the same.
   void Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found);
 
  private:
-  template <std::size_t fixed_words>
+  template <bool directed, std::size_t fixed_words>
   class Descent;
+  template <bool directed>
+  void Descend(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found);
 
   std::vector<Bit_word> bits_;           ///< per level: the candidates, then those to branch on
   std::vector<std::uint32_t> excluded_;  ///< rows excluded at each level, level behind level
   std::vector<Bit_word> clique_;
   std::vector<std::size_t> branches_;  ///< per level: the candidate it branched on
   std::vector<std::size_t> excluded_starts_;
-  std::vector<std::uint32_t> places_;
-  std::vector<Bit_word> unsorted_;
+  std::vector<Bit_word> cycle_memory_;
+  std::vector<Bit_word> leaf_memory_;
 };
 
 }  // namespace gns

@@ -1,47 +1,41 @@
 #pragma once
 
-#include <bit>
 #include <cstddef>
-#include <cstdint>
 #include <vector>
 
 #include "graph/Node_set.h"
+#include "search/Bit_rows.h"
+#include "search/Clique_vector.h"
 
 namespace gns {
 
-/// A row of bits over the candidates of a local graph. Candidate 0 is the highest bit of the first
-/// word, so that among sets of which none holds another the words compare, descending, as the sets
-/// do lexicographically.
-using Bit_word = std::uint64_t;
-constexpr std::size_t word_bits = 64;
-
-constexpr Bit_word Bit_of(std::size_t position) {
-  return (Bit_word{1} << (word_bits - 1)) >> (position % word_bits);
-}
-
-/// Calls use(position) for each set bit, ascending.
-template <typename Use>
-void For_each_bit(const Bit_word* row, std::size_t words, Use use) {
-  for (std::size_t w = 0; w < words; ++w) {
-    for (Bit_word rest = row[w]; rest != 0;) {
-      const auto position = static_cast<std::size_t>(std::countl_zero(rest));
-      rest ^= Bit_of(position);
-      use(w * word_bits + position);
-    }
-  }
-}
-
-/// What the cliques of one node are made from: its unfinished neighbours (the candidates) with the
-/// links among them, and its finished neighbours (the excluded), each with its links to candidates.
+/// What the cliques of one node are made from: the node in hand with its unfinished neighbours (the
+/// candidates) and the links among them, and its finished neighbours (the excluded), each with its
+/// links to the others.
+///
+/// Links of the node in hand stand in the rows of a directed graph only, where their direction
+/// counts.
 struct Local_graph {
-  std::vector<Node_index> candidates;  ///< ascending
+  std::vector<Node_index> nodes;  ///< ascending: the node in hand and the candidates
+  std::size_t home = 0;           ///< position of the node in hand
   std::size_t excluded_count = 0;
   std::size_t words = 0;       ///< words per row
-  std::vector<Bit_word> rows;  ///< a row per candidate, then a row per excluded node
+  std::vector<Bit_word> rows;  ///< a row per node, then a row per excluded node
+  /// Likewise the ends of the one-way links from a node and of those to it; both empty in an
+  /// undirected graph.
+  std::vector<Bit_word> out_rows;
+  std::vector<Bit_word> in_rows;
 
   [[nodiscard]] const Bit_word* Row(std::size_t row) const { return rows.data() + row * words; }
-  [[nodiscard]] Bit_word* Row(std::size_t row) { return rows.data() + row * words; }
-  [[nodiscard]] std::size_t Row_count() const { return candidates.size() + excluded_count; }
+  [[nodiscard]] const Bit_word* Out(std::size_t row) const { return out_rows.data() + row * words; }
+  [[nodiscard]] const Bit_word* In(std::size_t row) const { return in_rows.data() + row * words; }
+  [[nodiscard]] std::size_t Row_count() const { return nodes.size() + excluded_count; }
+
+  /// Adds the nodes of a row of bits as a clique.
+  void Record(Clique_vector& cliques, const Bit_word* row) const {
+    For_each_bit(row, words, [&](std::size_t position) { cliques.Append(nodes[position]); });
+    cliques.Close_row();
+  }
 };
 
 }  // namespace gns

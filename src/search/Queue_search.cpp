@@ -18,10 +18,10 @@ namespace {
 using external_control::CURRENT_STATE_REPORT;
 namespace reports = Clique_find_report_sub_routines;
 
-std::string Title_of(const Search_wording& wording, const Time_limit* limit) {
+std::string Title_of(const Search_kind& kind, const Time_limit* limit) {
   constexpr unsigned digits = 3;
-  if (limit == nullptr) return wording.title;
-  return wording.timed_title + double2string(limit->seconds, digits) + ":";
+  if (limit == nullptr) return kind.title;
+  return kind.timed_title + double2string(limit->seconds, digits) + ":";
 }
 
 /// Composes a report at once and makes it the state report.
@@ -35,10 +35,10 @@ void Report(Compose compose) {
 /// The queue of nodes with the count of failures in a row.
 class Node_queue {
  public:
-  Node_queue(const Node_order& order, const Search_wording& wording, const Time_limit* limit)
-      : wording_(wording),
+  Node_queue(const Node_order& order, const Search_kind& kind, const Time_limit* limit)
+      : kind_(kind),
         waiting_(order.begin(), order.end()),
-        progress_(std::make_shared<Progress_report>(Title_of(wording, limit), "nodes", Size())) {}
+        progress_(std::make_shared<Progress_report>(Title_of(kind, limit), "nodes", Size())) {}
 
   [[nodiscard]] std::uint32_t Size() const { return static_cast<std::uint32_t>(waiting_.size()); }
   [[nodiscard]] bool Goes_on() const { return !waiting_.empty() && !gives_up_; }
@@ -61,7 +61,7 @@ class Node_queue {
     progress_shown_ = false;
     gives_up_ = skipped_ >= Size();
     if (gives_up_)
-      Report([&](std::ostream& s) { reports::Report_all_rem_nodes_to_hard(wording_.unit, s); });
+      Report([&](std::ostream& s) { reports::Report_all_rem_nodes_to_hard(kind_.unit, s); });
   }
 
   std::vector<Node_index> Left() const {
@@ -71,7 +71,7 @@ class Node_queue {
   }
 
  private:
-  const Search_wording& wording_;
+  const Search_kind& kind_;
   std::deque<Node_index> waiting_;
   std::shared_ptr<Progress_report> progress_;
   bool progress_shown_ = false;
@@ -79,27 +79,27 @@ class Node_queue {
   bool gives_up_ = false;
 };
 
-void Report_end(const Search_wording& wording, const Time_limit* limit, bool all_solved,
+void Report_end(const Search_kind& kind, const Time_limit* limit, bool all_solved,
                 const Clique_vector& cliques) {
   const auto count = static_cast<std::uint32_t>(cliques.size());
   Report([&](std::ostream& s) {
     if (!all_solved)
-      reports::Report_clique_search_end("exact " + wording.unit, count, s);
+      reports::Report_clique_search_end("exact " + kind.unit, count, s);
     else if (limit == nullptr)
-      reports::Report_clique_search_end(wording.unit, count, s);
+      reports::Report_clique_search_end(kind.unit, count, s);
     else
-      reports::Report_clique_search_end(wording.unit, count, wording.closing_line, s);
+      reports::Report_clique_search_end(kind.unit, count, kind.closing_line, s);
   });
 }
 
 }  // namespace
 
 std::vector<Node_index> Search_queue(Node_search& search, const Node_order& order,
-                                     const Search_wording& wording, const Time_limit* limit,
-                                     bool nested, Clique_vector& cliques) {
+                                     const Search_kind& kind, const Time_limit* limit,
+                                     Clique_vector& cliques) {
   cliques.clear();
   Clique_vector hard_cliques;
-  Node_queue queue(order, wording, limit);
+  Node_queue queue(order, kind, limit);
   Attempt attempt(limit);
   while (queue.Goes_on()) {
     Attempt::Check_for_stop();
@@ -118,8 +118,8 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
   }
   Attempt::Check_for_stop();
   std::vector<Node_index> left = queue.Left();
-  if (!left.empty()) Record_hard_cliques(hard_cliques, nested, cliques);
-  Report_end(wording, limit, left.empty(), cliques);
+  if (!left.empty()) Record_hard_cliques(hard_cliques, kind.nested, cliques);
+  Report_end(kind, limit, left.empty(), cliques);
   return left;
 }
 

@@ -10,12 +10,13 @@
 
 namespace gns {
 
-/// The words in the reports of a search.
-struct Search_wording {
+/// What a search is called in its reports, and what it yields.
+struct Search_kind {
   std::string title;         ///< of an exact search, with its colon
   std::string timed_title;   ///< in front of the time limit
   std::string unit;          ///< what is found
   std::string closing_line;  ///< of a time-limited search that left no node
+  bool nested;               ///< a failed attempt may yield a clique inside another
 };
 
 /// Searches the nodes one by one, in the order given.
@@ -23,12 +24,12 @@ struct Search_wording {
 /// With a time limit (null: none), a node whose attempt ran over goes to the end of the queue,
 /// since it gets easier as others leave the graph. When all nodes in the queue have failed in a row
 /// the search gives up on them. Cliques that only failed attempts found are recorded last, in
-/// lexicographic order; one that equals a recorded clique is left out, and where the search yields
-/// cliques that may be `nested`, so is one that lies inside a recorded clique.
+/// lexicographic order; one that equals a recorded clique is left out, and so is, where they may
+/// be nested, one that lies inside a recorded clique.
 ///
 /// Yields the nodes given up, ascending. Keeps the state report up to date and polls the stop flag.
 std::vector<Node_index> Search_queue(Node_search& search, const Node_order& order,
-                                     const Search_wording& wording, const Time_limit* limit,
-                                     bool nested, Clique_vector& cliques);
+                                     const Search_kind& kind, const Time_limit* limit,
+                                     Clique_vector& cliques);
 
 }  // namespace gns

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <vector>
 
-#include "graph/Adjacency.h"
 #include "graph/Node_order.h"
 #include "search/Local_graph.h"
 
@@ -16,8 +15,9 @@ namespace gns {
 /// keeps more than sqrt(2 x links) of them.
 class Search_graph {
  public:
-  /// `neighs` must outlive the object.
-  Search_graph(const Adjacency& neighs, const Node_order& order);
+  /// `vtx_map` must outlive the object.
+  Search_graph(const Vertex_map& vtx_map, const Node_order& order);
+  Search_graph(const Dir_vertex_map& dir_vtx_map, const Node_order& order);
 
   void Finish(Node_index node) { finished_[node] = 1; }
   [[nodiscard]] bool Is_finished(Node_index node) const { return finished_[node] != 0; }
@@ -27,11 +27,17 @@ class Search_graph {
   bool Cut_out(Node_index node, Local_graph& local);
 
  private:
-  bool Link_candidates(Local_graph& local) const;
+  enum class Direction : std::uint8_t { both, out, in };
+
+  Search_graph(const Adjacency& neighs, const Node_order& order);
+  [[nodiscard]] bool Directed() const { return !directions_.empty(); }
+  bool Collect(Node_index node, Local_graph& local);
+  bool Link_nodes(Local_graph& local) const;
   void Link_excluded(Local_graph& local) const;
 
   const Adjacency& neighs_;
-  Adjacency forward_;  ///< to the neighbours that come later in the node order
+  Adjacency forward_;                  ///< to the neighbours that come later in the node order
+  std::vector<Direction> directions_;  ///< parallel to the members of forward_; or empty
   std::vector<std::uint8_t> finished_;
   std::vector<std::uint32_t> row_of_;  ///< row in the local graph + 1, or 0
   std::vector<Node_index> excluded_;

@@ -1,38 +1,31 @@
 #include "search/Undirected_search.h"
 
+#include <algorithm>
+#include <functional>
+#include <numeric>
+
 #include "search/Queue_search.h"
 
 namespace gns {
 
 namespace {
 
-const Search_wording wording = {" Locating cliques:", " Locating cliques, max. allowed time/node=",
-                                "cliques", " no approximation was needed"};
+const Search_kind kind = {
+    .title = " Locating cliques:",
+    .timed_title = " Locating cliques, max. allowed time/node=",
+    .unit = "cliques",
+    .closing_line = " no approximation was needed",
+    .nested = false,
+};
 
-/// Adds the clique of `node` and the candidates in `row`, all in ascending order.
-void Record(Clique_vector& cliques, Node_index node, const Local_graph& local,
-            const Bit_word* row) {
-  bool placed = false;
-  For_each_bit(row, local.words, [&](std::size_t position) {
-    const Node_index member = local.candidates[position];
-    if (!placed && member > node) {
-      cliques.Append(node);
-      placed = true;
-    }
-    cliques.Append(member);
-  });
-  if (!placed) cliques.Append(node);
-  cliques.Close_row();
-}
-
-std::vector<Node_index> Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
-                               const Vertex_map& vtx_map, const Time_limit* limit) {
+Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix, const Vertex_map& vtx_map,
+                const Time_limit* limit) {
   Node_order order;
   Sort_Vtx_map(order, vtx_map);
-  Undirected_node_search search(vtx_map.Rows(), order);
-  std::vector<Node_index> left = Search_queue(search, order, wording, limit, false, cliques);
+  Undirected_node_search search(vtx_map, order);
+  const std::vector<Node_index> left = Search_queue(search, order, kind, limit, cliques);
   overlap_matrix = Overlap_matrix(cliques);
-  return left;
+  return Spanned_by(left, vtx_map.Rows());
 }
 
 }  // namespace
@@ -40,8 +33,28 @@ std::vector<Node_index> Search(Clique_vector& cliques, Overlap_matrix& overlap_m
 void Undirected_node_search::Find(Node_index node, Attempt& attempt, Clique_vector& cliques) {
   if (!graph_.Cut_out(node, local_)) return;
   walk_.Find(local_, attempt, found_);
+  Sort_found();
   for (std::size_t at = 0; at < found_.size(); at += local_.words)
-    Record(cliques, node, local_, found_.data() + at);
+    local_.Record(cliques, found_.data() + at);
+}
+
+/// Puts the rows in descending order of their words, which is ascending order of the sets.
+void Undirected_node_search::Sort_found() {
+  const std::size_t words = local_.words;
+  if (words == 1) {
+    std::sort(found_.begin(), found_.end(), std::greater<>());
+    return;
+  }
+  places_.resize(found_.size() / words);
+  std::iota(places_.begin(), places_.end(), 0U);
+  const auto row = [&](std::uint32_t place) { return found_.data() + place * words; };
+  std::sort(places_.begin(), places_.end(), [&](std::uint32_t a, std::uint32_t b) {
+    return std::lexicographical_compare(row(b), row(b) + words, row(a), row(a) + words);
+  });
+  sorted_.clear();
+  for (const std::uint32_t place : places_)
+    sorted_.insert(sorted_.end(), row(place), row(place) + words);
+  found_.swap(sorted_);
 }
 
 void Clique_find_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
@@ -52,7 +65,7 @@ void Clique_find_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
 void Clique_find_part_time_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
                               const Vertex_map& vtx_map, Left_map& left_map,
                               const Time_limit& time_limit) {
-  left_map = Spanned_by(Search(cliques, overlap_matrix, vtx_map, &time_limit), vtx_map.Rows());
+  left_map = Search(cliques, overlap_matrix, vtx_map, &time_limit);
 }
 
 }  // namespace gns

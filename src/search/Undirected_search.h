@@ -16,17 +16,21 @@ namespace gns {
 /// Finds the cliques of a node of an undirected graph, in ascending lexicographic order.
 class Undirected_node_search : public Node_search {
  public:
-  Undirected_node_search(const Adjacency& neighs, const Node_order& order)
-      : graph_(neighs, order) {}
+  Undirected_node_search(const Vertex_map& vtx_map, const Node_order& order)
+      : graph_(vtx_map, order) {}
 
   void Find(Node_index node, Attempt& attempt, Clique_vector& cliques) override;
   void Finish(Node_index node) override { graph_.Finish(node); }
 
  private:
+  void Sort_found();
+
   Search_graph graph_;
   Clique_walk walk_;
   Local_graph local_;
   std::vector<Bit_word> found_;
+  std::vector<Bit_word> sorted_;
+  std::vector<std::uint32_t> places_;
 };
 
 /// Finds all maximal cliques of three nodes or more of an undirected graph.

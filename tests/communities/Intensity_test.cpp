@@ -29,7 +29,8 @@ struct Sample {
     index_links = Index_links(keys, weights, nodes);
     Vertex_map vertices;
     Vtx_map_from_link_map(vertices, index_links);
-    Clique_find_ec(cliques, vertices);
+    Overlap_matrix matrix;
+    Clique_find_ec(cliques, matrix, vertices);
   }
 
   literal::Links links;

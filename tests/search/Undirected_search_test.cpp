@@ -24,7 +24,8 @@ using literal::Set;
 
 std::vector<Set> Cliques_of(const Graph& graph) {
   Clique_vector rows;
-  Clique_find_ec(rows, literal::Vertex_map_of(graph));
+  Overlap_matrix matrix;
+  Clique_find_ec(rows, matrix, literal::Vertex_map_of(graph));
   std::vector<Set> cliques;
   for (std::size_t i = 0; i < rows.size(); ++i) cliques.push_back(literal::Members(rows[i]));
   return cliques;
@@ -36,11 +37,11 @@ void Expect_like_literal_search(const Graph& graph) {
   ASSERT_EQ(Cliques_of(graph), cliques);
 
   const Clique_vector rows = literal::Rows_of(cliques);
-  const Overlap_matrix matrix(rows);
+  Overlap_matrix matrix(rows);
   ASSERT_EQ(matrix.size(), cliques.size());
   for (Clique_index i = 0; i < cliques.size(); ++i) {
     const std::map<Clique_index, std::uint32_t>& row = search.Found().overlap_matrix[i];
-    ASSERT_EQ(matrix.Row(rows, i), (std::vector<Overlap_matrix::Entry>(row.begin(), row.end())));
+    ASSERT_EQ(matrix.Row(i), (std::vector<Overlap_matrix::Entry>(row.begin(), row.end())));
   }
 }
 
@@ -154,8 +155,9 @@ TEST(ThreadsUndirectedSearch, StopsInsideTheHardestNode) {
     Stop_process();
   });
   Clique_vector cliques;
+  Overlap_matrix matrix;
   try {
-    Clique_find_ec(cliques, literal::Vertex_map_of(Endless()));
+    Clique_find_ec(cliques, matrix, literal::Vertex_map_of(Endless()));
     ADD_FAILURE() << "the search ended by itself";
   } catch (const std::logic_error& stop) {
     EXPECT_EQ(typeid(stop), typeid(std::logic_error));

@@ -1,0 +1,47 @@
+#include "search/Directed_search.h"
+
+#include "search/Queue_search.h"
+
+namespace gns {
+
+namespace {
+
+const Search_kind kind = {
+    .title = " Locating dir. cliques:",
+    .timed_title = " Locating dir. cliques, max. allowed time/node=",
+    .unit = "directed cliques",
+    .closing_line = "no approximation was needed.",
+    .nested = true,
+};
+
+Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
+                const Dir_vertex_map& dir_vtx_map, const Time_limit* limit) {
+  Node_order order;
+  Sort_dir_vtx_map(order, dir_vtx_map, "Neighs");
+  Directed_node_search search(dir_vtx_map, order);
+  const std::vector<Node_index> left = Search_queue(search, order, kind, limit, cliques);
+  overlap_matrix = Overlap_matrix(cliques);
+  return Spanned_by(left, dir_vtx_map.Rows());
+}
+
+}  // namespace
+
+void Directed_node_search::Find(Node_index node, Attempt& attempt, Clique_vector& cliques) {
+  if (!graph_.Cut_out(node, local_)) return;
+  walk_.Find(local_, attempt, found_);
+  for (const std::uint32_t place : order_.Sort(local_, attempt, found_))
+    local_.Record(cliques, found_.data() + place * local_.words);
+}
+
+void Clique_find_dir_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
+                        const Dir_vertex_map& dir_vtx_map) {
+  Search(cliques, overlap_matrix, dir_vtx_map, nullptr);
+}
+
+void Clique_find_dir_time_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
+                             const Dir_vertex_map& dir_vtx_map, Left_map& left_map,
+                             const Time_limit& time_limit) {
+  left_map = Search(cliques, overlap_matrix, dir_vtx_map, &time_limit);
+}
+
+}  // namespace gns

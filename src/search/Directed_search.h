@@ -1,0 +1,53 @@
+#pragma once
+
+#include <vector>
+
+#include "graph/Vertex_map.h"
+#include "search/Attempt.h"
+#include "search/Clique_vector.h"
+#include "search/Clique_walk.h"
+#include "search/Gap_order.h"
+#include "search/Left_map.h"
+#include "search/Node_search.h"
+#include "search/Overlap_matrix.h"
+#include "search/Search_graph.h"
+
+namespace gns {
+
+/// Finds the directed cliques of a node, in the order of Gap_order.
+class Directed_node_search : public Node_search {
+ public:
+  Directed_node_search(const Dir_vertex_map& dir_vtx_map, const Node_order& order)
+      : graph_(dir_vtx_map, order) {}
+
+  void Find(Node_index node, Attempt& attempt, Clique_vector& cliques) override;
+  void Finish(Node_index node) override { graph_.Finish(node); }
+
+ private:
+  Search_graph graph_;
+  Clique_walk walk_;
+  Gap_order order_;
+  Local_graph local_;
+  std::vector<Bit_word> found_;
+};
+
+/// Finds all maximal directed cliques of three nodes or more of a directed graph. A directed clique
+/// is a set of nodes that can be put in a sequence in which every node has a link to each node
+/// behind it; links in the reverse direction don't matter.
+///
+/// A clique is found with that member that comes first in the order of Sort_dir_vtx_map by
+/// "Neighs"; cliques stand in that order of nodes, and those of one node in the order of Gap_order.
+/// Keeps the state report up to date and polls the stop flag, which ends the search by an
+/// exception.
+/// The matrix is a view of `cliques`.
+void Clique_find_dir_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
+                        const Dir_vertex_map& dir_vtx_map);
+
+/// The same with a limit on the processor time of each attempt on a node; see Search_queue. If
+/// `left_map` isn't empty at its end, some cliques are missing, and one that only failed attempts
+/// found may lie inside another.
+void Clique_find_dir_time_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
+                             const Dir_vertex_map& dir_vtx_map, Left_map& left_map,
+                             const Time_limit& time_limit);
+
+}  // namespace gns

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "search/Attempt.h"
+#include "search/Local_graph.h"
+
+namespace gns {
+
+/// The order in which a walk over gaps meets the directed cliques of one node.
+///
+/// The walk builds a clique as a sequence, beginning with the node in hand alone. Each step puts
+/// one more node into one of the gaps in front of, between and behind the members, such that all
+/// links run forward. The walk tries the gaps from the front, and for one gap the nodes in
+/// ascending order; what it tried once in a gap it doesn't try there again. So a clique is met
+/// first by the steps that each take the first gap into which one of its missing nodes fits, and of
+/// those nodes the smallest, and of two cliques the one comes first whose steps come first
+/// lexicographically.
+///
+/// A missing node fits into a gap if no path of one-way links inside the clique leads from it to a
+/// member in front of the gap, or to it from a member behind. Its first gap therefore is the one
+/// behind the last member that leads to it. A clique of k nodes takes k^2 / 2 row operations at
+/// most.
+class Gap_order {
+ public:
+  /// Yields the places of the cliques, a row of bits each, in the order of the walk, or in the
+  /// order of `cliques` where the attempt runs over. Valid until the next call.
+  std::span<const std::uint32_t> Sort(const Local_graph& local, Attempt& attempt,
+                                      const std::vector<Bit_word>& cliques);
+
+ private:
+  /// A gap, by the number of members in front of it, and the node that goes into it.
+  struct Step {
+    std::uint32_t gap;
+    std::uint32_t node;
+    auto operator<=>(const Step&) const = default;
+  };
+
+  void Trace(const Local_graph& local, const Bit_word* clique);
+  void Split(const Local_graph& local, std::size_t node);
+
+  std::vector<Step> steps_;          ///< of all cliques, one behind the other
+  std::vector<std::size_t> starts_;  ///< steps of clique i: starts_[i] up to starts_[i + 1]
+  std::vector<std::uint32_t> places_;
+  /// The missing nodes by their first gap, a row of bits each; the gap in front is the last row.
+  std::vector<Bit_word> gaps_;
+  std::vector<Bit_word> scratch_;
+};
+
+}  // namespace gns
