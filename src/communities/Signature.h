@@ -16,7 +16,8 @@ namespace gns {
 template <std::size_t words, unsigned collision_bits>
 class Signature {
  public:
-  static constexpr unsigned positions = words * 64 - collision_bits;
+  static constexpr unsigned bits = words * 64;
+  static constexpr unsigned positions = bits - collision_bits;
 
   /// Adds a node by its turn: nodes that are met often should have different turns, modulo
   /// `positions`.
@@ -34,7 +35,8 @@ class Signature {
     return question;
   }
 
-  /// The bound: how many nodes the set of this signature can share with the one of `question`.
+  /// The bound: how many nodes the set of this signature can share with the one of `question`. A
+  /// bound of `bits` says nothing: it stands for any number.
   [[nodiscard]] unsigned Shared_at_most(const Signature& question) const {
     int shared = 0;
     for (std::size_t w = 0; w < words; ++w) shared += std::popcount(words_[w] & question.words_[w]);

@@ -150,11 +150,12 @@ void Unclaimed_cliques::Drop_claimed(List& list) {
 void Unclaimed_cliques::Meet(const List& list, Short_signature question, std::uint32_t overlap) {
   const Short_signature* const signatures = list_signatures_.data() + list.start;
   const Clique_index* const cliques = list_cliques_.data() + list.start;
+  const std::uint32_t least_bound = std::min(overlap, Short_signature::bits);
   std::uint32_t* const passed = passed_.data();
   std::size_t count = 0;
   for (std::uint32_t i = 0; i < list.length; ++i) {
     passed[count] = i;
-    count += signatures[i].Shared_at_most(question) >= overlap ? 1U : 0U;
+    count += signatures[i].Shared_at_most(question) >= least_bound ? 1U : 0U;
   }
   for (std::size_t i = 0; i < count; ++i) {
     const Clique_index met = cliques[passed[i]];
@@ -167,10 +168,11 @@ void Unclaimed_cliques::Meet(const List& list, Short_signature question, std::ui
 
 void Unclaimed_cliques::Keep_by_signature(Clique_index clique, std::uint32_t overlap) {
   const Long_signature question = long_signatures_[clique].As_question();
+  const std::uint32_t least_bound = std::min(overlap, Long_signature::bits);
   std::size_t kept = 0;
   for (const Clique_index candidate : candidates_) {
     candidates_[kept] = candidate;
-    kept += long_signatures_[candidate].Shared_at_most(question) >= overlap ? 1U : 0U;
+    kept += long_signatures_[candidate].Shared_at_most(question) >= least_bound ? 1U : 0U;
   }
   candidates_.resize(kept);
 }
