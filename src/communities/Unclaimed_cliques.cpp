@@ -13,6 +13,18 @@ Node_index Node_limit(const Clique_vector& cliques) {
   return members.empty() ? 1 : *std::ranges::max_element(members) + 1;
 }
 
+constexpr unsigned half = 32;  ///< bits of the lower half of a choice
+
+constexpr Node_index Node_of(std::uint64_t choice) { return static_cast<Node_index>(choice); }
+
+/// Entries to be read, with the price of coming to a list in entries.
+std::uint64_t Reading_cost(std::span<const std::uint64_t> choices) {
+  constexpr std::uint64_t price_of_a_list = 16;
+  std::uint64_t cost = 0;
+  for (const std::uint64_t choice : choices) cost += (choice >> half) + price_of_a_list;
+  return cost;
+}
+
 }  // namespace
 
 Unclaimed_cliques::Unclaimed_cliques(const Clique_vector& cliques)
@@ -45,15 +57,12 @@ void Unclaimed_cliques::Sign(Node_index node_limit) {
 
   short_signatures_.resize(cliques_.size());
   long_signatures_.resize(cliques_.size());
-  std::size_t largest = 0;
   for (std::size_t clique = 0; clique < cliques_.size(); ++clique) {
     for (const Node_index node : cliques_[clique]) {
       short_signatures_[clique].Add(turns[node]);
       long_signatures_[clique].Add(turns[node]);
     }
-    largest = std::max(largest, cliques_[clique].size());
   }
-  chosen_.resize(largest);
 }
 
 void Unclaimed_cliques::Fill_lists() {
@@ -78,7 +87,7 @@ void Unclaimed_cliques::Fill_lists() {
 void Unclaimed_cliques::Reset(std::size_t least_size) {
   if (least_size_ == 0 || least_size > least_size_) Fill_lists();
   least_size_ = least_size;
-  question_ = 0;
+  question_ = 1;
   std::ranges::fill(met_, 0U);
   for (std::size_t node = 0; node < lists_.size(); ++node) {
     List& list = lists_[node];
@@ -89,6 +98,7 @@ void Unclaimed_cliques::Reset(std::size_t least_size) {
     const auto end = std::partition_point(
         first, last, [&](Clique_index clique) { return cliques_[clique].size() >= least_size; });
     list.length = list.unclaimed = static_cast<std::uint32_t>(end - first);
+    list.asked_for = 0;
   }
 }
 
@@ -100,37 +110,54 @@ void Unclaimed_cliques::Claim(Clique_index clique) {
 
 void Unclaimed_cliques::Append_neighbours(Clique_index clique, std::uint32_t overlap,
                                           std::vector<Clique_index>& neighbours) {
-  const std::uint32_t lists = Choose_lists(clique, overlap);
-  ++question_;
+  const std::span<const Choice> chosen = Choose_lists(clique, overlap);
   candidates_.clear();
   const Short_signature question = short_signatures_[clique].As_question();
-  for (std::uint32_t i = 0; i < lists; ++i) {
-    List& list = lists_[static_cast<Node_index>(chosen_[i])];
+  for (const Choice choice : chosen) {
+    List& list = lists_[Node_of(choice)];
     constexpr std::uint32_t most_claimed_share = 4;  // a list is cleaned when a fourth is claimed
     if (list.length - list.unclaimed > list.length / most_claimed_share) Drop_claimed(list);
     Meet(list, question, overlap);
   }
+  if (candidates_.empty()) return;
   Keep_by_signature(clique, overlap);
   Append_checked(clique, overlap, neighbours);
 }
 
-/// Puts the lists to be read in front of chosen_, the shortest ones, and yields their number: none
-/// if fewer than `overlap` nodes of the clique have an unclaimed clique.
-std::uint32_t Unclaimed_cliques::Choose_lists(Clique_index clique, std::uint32_t overlap) {
-  constexpr unsigned half = 32;
-  std::uint32_t active = 0;
+/// Begins a question: collects the nodes of the clique that have unclaimed cliques.
+void Unclaimed_cliques::Collect_choices(Clique_index clique) {
+  const std::uint32_t question_before = question_++;
+  std::size_t count = 0;
+  std::size_t fresh_count = 0;
   for (const Node_index node : cliques_[clique]) {
-    const std::uint32_t unclaimed = lists_[node].unclaimed;
-    chosen_[active] = (std::uint64_t{unclaimed} << half) | node;
-    active += unclaimed != 0 ? 1U : 0U;
+    List& list = lists_[node];
+    const bool fresh = list.unclaimed != 0 && list.asked_for != question_before;
+    list.asked_for = question_;
+    choices_[count] = fresh_[fresh_count] = (Choice{list.unclaimed} << half) | node;
+    count += list.unclaimed != 0 ? 1U : 0U;
+    fresh_count += fresh ? 1U : 0U;
   }
-  if (active < overlap) return 0;
-  const std::uint32_t lists = active - overlap + 1;
-  const auto first = chosen_.begin();
-  if (lists < active) std::nth_element(first, first + lists - 1, first + active);
-  for (std::uint32_t i = 0; i < lists; ++i)
-    __builtin_prefetch(list_signatures_.data() + lists_[static_cast<Node_index>(chosen_[i])].start);
-  return lists;
+  choices_.resize(count);
+  fresh_.resize(fresh_count);
+}
+
+/// Begins a question and yields the lists to be read: none if fewer than `overlap` nodes of the
+/// clique have an unclaimed clique.
+std::span<const Unclaimed_cliques::Choice> Unclaimed_cliques::Choose_lists(Clique_index clique,
+                                                                           std::uint32_t overlap) {
+  choices_.resize(cliques_[clique].size() + 1);
+  fresh_.resize(choices_.size());
+  Collect_choices(clique);
+  if (choices_.size() < overlap || fresh_.empty()) return {};
+  const std::size_t lists = choices_.size() - overlap + 1;
+  const auto first = choices_.begin();
+  if (lists < choices_.size())
+    std::nth_element(first, first + static_cast<std::ptrdiff_t>(lists - 1), choices_.end());
+  std::span<const Choice> chosen(choices_.data(), lists);
+  if (Reading_cost(fresh_) < Reading_cost(chosen)) chosen = fresh_;
+  for (const Choice choice : chosen)
+    __builtin_prefetch(list_signatures_.data() + lists_[Node_of(choice)].start);
+  return chosen;
 }
 
 void Unclaimed_cliques::Drop_claimed(List& list) {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "communities/Signature.h"
@@ -13,8 +14,10 @@ namespace gns {
 ///
 /// The question it answers: which unclaimed cliques share at least t nodes with a given one? A
 /// clique that does so is listed at one or more of any (n - t + 1) of the n nodes given, so the
-/// shortest lists are read. Most entries are given up by their signature alone.
-/// Memory: 12 bytes per clique and member, 36 per clique.
+/// shortest lists are read. And as the clique asked for before has no unclaimed neighbour left,
+/// such a clique also is listed at a node that the one asked for now has and the one before hasn't:
+/// where these lists are shorter, they are read instead. Most entries are given up by their
+/// signature alone. Memory: 12 bytes per clique and member, 36 per clique.
 class Unclaimed_cliques {
  public:
   /// `cliques` must outlive the object.
@@ -27,7 +30,7 @@ class Unclaimed_cliques {
   [[nodiscard]] bool Is_unclaimed(Clique_index clique) const { return met_[clique] != claimed; }
 
   /// Appends the listed unclaimed cliques that share at least `overlap` (1 or more) nodes with
-  /// `clique`, ascending.
+  /// `clique`, ascending. All of them are to be claimed before the next question.
   void Append_neighbours(Clique_index clique, std::uint32_t overlap,
                          std::vector<Clique_index>& neighbours);
 
@@ -40,13 +43,18 @@ class Unclaimed_cliques {
     std::size_t start = 0;
     std::uint32_t length = 0;
     std::uint32_t unclaimed = 0;
+    std::uint32_t asked_for = 0;  ///< the last question about a clique with this node
   };
+
+  /// A list that may be read: its unclaimed cliques, and in the lower half the node.
+  using Choice = std::uint64_t;
 
   static constexpr std::uint32_t claimed = ~std::uint32_t{0};
 
   void Sign(Node_index node_limit);
   void Fill_lists();
-  std::uint32_t Choose_lists(Clique_index clique, std::uint32_t overlap);
+  std::span<const Choice> Choose_lists(Clique_index clique, std::uint32_t overlap);
+  void Collect_choices(Clique_index clique);
   void Drop_claimed(List& list);
   void Meet(const List& list, Short_signature question, std::uint32_t overlap);
   void Keep_by_signature(Clique_index clique, std::uint32_t overlap);
@@ -62,7 +70,8 @@ class Unclaimed_cliques {
   std::size_t least_size_ = 0;                    ///< 0: nothing listed yet
   std::vector<std::uint32_t> met_;  ///< per clique: the question last met in, or `claimed`
   std::uint32_t question_ = 0;
-  std::vector<std::uint64_t> chosen_;     ///< list lengths (upper half) and nodes of a clique
+  std::vector<Choice> choices_;  ///< the nodes of the clique asked for that have unclaimed cliques
+  std::vector<Choice> fresh_;    ///< those of them that the clique before hasn't
   std::vector<std::uint32_t> passed_;     ///< places in a list whose signature passed
   std::vector<Clique_index> candidates_;  ///< those left of a question
   std::vector<std::uint8_t> marked_;      ///< per node: member of the clique in question
