@@ -1,10 +1,7 @@
 #include "cli/Process_input.h"
 
-#include "cli/Parameters.h"
 #include "cli/Switches.h"
 #include "cli/Usage.h"
-#include "files/Link_file_reader.h"
-#include "files/Results_directory.h"
 #include "foundation/My_double2string.h"
 
 namespace gns {
@@ -12,20 +9,6 @@ namespace gns {
 namespace {
 
 constexpr unsigned default_digits = 6;
-
-/// The switches that were given. Where there is nothing to run, prints the usage and throws.
-Switch_values Read_command_line(int argc, const char* const* argv) {
-  const Switches switches(argc, argv);
-  Switch_values values;
-  Examin_params(Switch_map(switches.Params()), values);
-  if (values.help) {
-    Print_detailed_usage(switches.Prog_name());
-  } else if (values.error) {
-    Print_usage(switches.Prog_name(), values.errors);
-  }
-  if (values.help || values.error) throw Xusage_printed(values.help);
-  return values;
-}
 
 std::string Results_dir_name(const Switch_values& values) {
   const unsigned digits = values.use_digits ? values.digits : default_digits;
@@ -43,6 +26,24 @@ std::string Results_dir_name(const Switch_values& values) {
   return name;
 }
 
+Run_parameters Parameters_of(const Switch_values& values) {
+  Run_parameters p;
+  p.input_file = values.input_file;
+  p.output_dir = Results_dir_name(values);
+  p.use_lower_threshold = values.use_lower_threshold;
+  p.lower_threshold = values.use_lower_threshold ? values.lower_threshold : 0.0;
+  p.use_upper_threshold = values.use_upper_threshold;
+  p.upper_threshold = values.use_upper_threshold ? values.upper_threshold : 0.0;
+  p.directed = values.directed;
+  p.use_intensity = values.use_intensity;
+  p.intensity_threshold = values.intensity_threshold;
+  p.use_time_limit = values.use_time_limit;
+  p.time_limit = values.time_limit;
+  p.use_single_k = values.use_single_k;
+  p.single_k = values.single_k;
+  return p;
+}
+
 template <typename T>
 void Set_if_given(bool given, const T& given_value, bool& use_value, T& value) {
   use_value = given;
@@ -53,32 +54,41 @@ void Set_if_given(bool given, const T& given_value, bool& use_value, T& value) {
 
 Xusage_printed::Xusage_printed(bool was_asked) : Xerror_msg(""), on_request(was_asked) {}
 
+Switch_values Read_command_line(int argc, const char* const* argv) {
+  const Switches switches(argc, argv);
+  Switch_values values;
+  Examin_params(Switch_map(switches.Params()), values);
+  if (values.help) {
+    Print_detailed_usage(switches.Prog_name());
+  } else if (values.error) {
+    Print_usage(switches.Prog_name(), values.errors);
+  }
+  if (values.help || values.error) throw Xusage_printed(values.help);
+  return values;
+}
+
+void Process_input(const Switch_values& values, Run_start& start, Link_map& links) {
+  start = Start_of_run(Parameters_of(values));
+  Read_links(start, links);
+}
+
 void Process_input(const int& argc, const char* const* argv, std::string& output_dir,
                    Link_map& links, double& time_limit, bool& use_time_limit, bool& directed,
                    bool& use_intensity, double& intensity_threshold, bool& use_single_k,
                    unsigned& single_k, bool& weighted, std::string& com_flag,
                    std::string& run_header) {
   const Switch_values values = Read_command_line(argc, argv);
-  const double lower_threshold = values.use_lower_threshold ? values.lower_threshold : 0.0;
-  const double upper_threshold = values.use_upper_threshold ? values.upper_threshold : 0.0;
-
-  output_dir = Results_dir_name(values);
+  Run_start start;
+  Process_input(values, start, links);
+  output_dir = start.parameters.output_dir;
   directed = directed || values.directed;
   Set_if_given(values.use_time_limit, values.time_limit, use_time_limit, time_limit);
   Set_if_given(values.use_intensity, values.intensity_threshold, use_intensity,
                intensity_threshold);
   Set_if_given(values.use_single_k, values.single_k, use_single_k, single_k);
-
-  weighted = values.use_lower_threshold || values.use_upper_threshold || values.use_intensity;
-  if (weighted) {
-    Read_weighted_links(values.input_file, links, values.use_lower_threshold, lower_threshold,
-                        values.use_upper_threshold, upper_threshold);
-  } else {
-    Read_unw_links(values.input_file, links);
-  }
-  Generate_com_flag(com_flag, directed, use_intensity);
-  Generate_alap_szoveg(run_header, values.input_file, values.use_lower_threshold, lower_threshold,
-                       values.use_upper_threshold, upper_threshold);
+  weighted = start.weighted;
+  com_flag = start.com_flag;
+  run_header = start.run_header;
 }
 
 }  // namespace gns

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "cli/Parameters.h"
+#include "engine/Run_stages.h"
 #include "foundation/Errors.h"
 #include "graph/Link_map.h"
 
@@ -14,6 +16,14 @@ class Xusage_printed : public Xerror_msg {
 
   bool on_request;  ///< the usage was asked for; else the command line is wrong
 };
+
+/// The switches that were given. Where there is nothing to run, prints the usage and throws
+/// `Xusage_printed`.
+Switch_values Read_command_line(int argc, const char* const* argv);
+
+/// Turns switches into the start of a run and reads the links. Throws the errors of the link
+/// readers.
+void Process_input(const Switch_values& values, Run_start& start, Link_map& links);
 
 /// Turns a command line into the parameters of a run, reads the links and begins the header.
 ///

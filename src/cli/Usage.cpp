@@ -133,6 +133,20 @@ constexpr std::string_view detailed_usage =
     "\n"
     "\n";
 
+constexpr std::string_view program_notes =
+    "\n"
+    " --help     shows this text.\n"
+    " --version  shows the version.\n"
+    "\n"
+    " Exit codes: 0 finished, 1 the run failed or a file could not be written,\n"
+    " 2 wrong usage, 130 stopped by SIGINT or SIGTERM.\n"
+    "\n"
+    " Environment:\n"
+    "   VORLANE_MEMORY_LIMIT  the most memory to be used for data: bytes, or a number\n"
+    "                         with K, M or G behind it. By default what the machine\n"
+    "                         has left, less a margin.\n"
+    "   NO_COLOR              if it isn't empty, progress is shown without colour.\n";
+
 void Print_text(std::string_view text, const std::string& prog_name) {
   for (;;) {
     const std::size_t mark = text.find(name_mark);
@@ -157,5 +171,9 @@ void Print_detailed_usage(const std::string& prog_name) {
   Print_text(detailed_usage, prog_name);
   Print_copyright();
 }
+
+void Print_program_notes() { std::cout << program_notes; }
+
+void Print_version() { std::cout << "Vorlane " VORLANE_VERSION "\n"; }
 
 }  // namespace gns

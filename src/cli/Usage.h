@@ -15,4 +15,10 @@ void Print_usage(const std::string& prog_name, const std::string& errors);
 /// The long help and, behind it, the banner.
 void Print_detailed_usage(const std::string& prog_name);
 
+/// What the program offers beside its switches: --help, --version, variables, exit codes.
+void Print_program_notes();
+
+/// Name and version.
+void Print_version();
+
 }  // namespace gns

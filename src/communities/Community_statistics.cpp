@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "control/Clique_find_ext_cont.h"
 #include "foundation/Errors.h"
 
 namespace gns {
@@ -43,6 +44,7 @@ void Prepare_community_graph(Com_graph& com_graph, const Row_array<Node_index>& 
   std::vector<std::uint32_t> shared(coms.size(), 0);
   std::vector<std::uint32_t> met;
   for (std::uint32_t com = 0; com < coms.size(); ++com) {
+    external_control::Check_inside_long_stage();
     met.clear();
     for (const Node_index node : coms[com]) {
       const auto holders = memberships[node];

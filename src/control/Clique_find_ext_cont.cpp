@@ -23,6 +23,7 @@ std::atomic<bool> STOP_INSIDE_LONG_STAGES = false;
 Report_variable CURRENT_STATE_REPORT;
 Report_variable ERROR_MESSAGE;
 Report_variable JAVA_CPP_TRANSLATE_STATE_REPORT;
+Progress PROGRESS;
 
 static_assert(std::atomic<bool>::is_always_lock_free, "the flag is set from signal handlers");
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <cstdint>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -37,6 +38,12 @@ extern Report_variable JAVA_CPP_TRANSLATE_STATE_REPORT;
 /// Set by a host that wants a stop to be honoured inside the long stages too (percolation, writing
 /// of one k), where by default it waits for the next stage.
 extern std::atomic<bool> STOP_INSIDE_LONG_STAGES;
+
+/// How far the run has come, in figures; each is kept by its stage and read from any thread.
+struct Progress {
+  std::atomic<std::uint64_t> cliques_found = 0;
+};
+extern Progress PROGRESS;
 
 /// Assigns the report of a stop and throws std::logic_error("Process stopped by user.\n").
 [[noreturn]] void End_by_stop();

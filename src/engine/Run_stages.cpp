@@ -4,6 +4,7 @@
 #include "control/Clique_find_ext_cont.h"
 #include "engine/Extract_coms.h"
 #include "files/Graph_and_clique_files.h"
+#include "files/Link_file_reader.h"
 #include "files/Results_directory.h"
 #include "files/Unfinished_mark.h"
 #include "foundation/File_faults.h"
@@ -40,10 +41,33 @@ void Extract_all(const Run_parameters& parameters, const Extraction_input& input
 
 }  // namespace
 
-void Open_results(const Run_start& start) {
+Run_start Start_of_run(const Run_parameters& p) {
+  Run_start start;
+  start.parameters = p;
+  start.weighted = p.use_lower_threshold || p.use_upper_threshold || p.use_intensity;
+  Generate_com_flag(start.com_flag, p.directed, p.use_intensity);
+  Generate_alap_szoveg(start.run_header, p.input_file, p.use_lower_threshold, p.lower_threshold,
+                       p.use_upper_threshold, p.upper_threshold);
+  return start;
+}
+
+void Read_links(const Run_start& start, Link_map& links) {
+  CURRENT_STATE_REPORT = " Reading input ...\n";
+  const Run_parameters& p = start.parameters;
+  if (start.weighted)
+    Read_weighted_links(p.input_file, links, p.use_lower_threshold, p.lower_threshold,
+                        p.use_upper_threshold, p.upper_threshold);
+  else
+    Read_unw_links(p.input_file, links);
+}
+
+void Open_results(Run_start& start) {
+  const Run_parameters& p = start.parameters;
+  Extend_alap_szoveg(start.run_header, p.use_intensity, p.intensity_threshold, p.directed,
+                     p.use_time_limit, p.time_limit, p.use_single_k, p.single_k);
   Forget_file_faults();
-  Set_unfinished_mark(start.parameters.output_dir);
-  Kiir_params(start.parameters.output_dir, start.run_header);
+  Set_unfinished_mark(p.output_dir);
+  Kiir_params(p.output_dir, start.run_header);
 }
 
 void Run_from_links(const Run_start& start, Link_map& links, bool& approximation_needed,

@@ -11,13 +11,21 @@ namespace gns {
 /// What a run with links already read starts from.
 struct Run_start {
   Run_parameters parameters;
-  bool weighted = false;   ///< the links were read with weights
-  std::string com_flag;    ///< "directed", "intensity" or empty
-  std::string run_header;  ///< complete
+  bool weighted = false;  ///< the links were read with weights
+  std::string com_flag;   ///< "directed", "intensity" or empty
+  std::string run_header;
 };
 
-/// Prepares the results directory, which must be empty or missing. The first write of a run.
-void Open_results(const Run_start& start);
+/// What follows from the parameters alone. The header has its first three lines.
+Run_start Start_of_run(const Run_parameters& parameters);
+
+/// Reads the links of the input file, with weights if the run needs them. Throws the errors of the
+/// link readers.
+void Read_links(const Run_start& start, Link_map& links);
+
+/// Completes the header and prepares the results directory, which must be empty or missing. The
+/// first write of a run.
+void Open_results(Run_start& start);
 
 /// Everything behind the reading of the links; `links` is emptied on the way. Throws what its
 /// stages throw.

@@ -66,10 +66,10 @@ void Write_com_links(std::size_t com_count, For_each_link for_each_link,
   Write_head(file, "# The links inside the " + Lead(com_flag, ' ') + "communities ", k, run_header);
   Link_lookup lookup(index_links);
   for (std::uint32_t com = 0; com < com_count; ++com) {
-    external_control::Check_inside_long_stage();
     Write_index(file, com, exact_com_count);
     file << ":\n";
     for_each_link(com, [&](const Index_pair& link) {
+      external_control::Check_inside_long_stage();
       const bool forward = lookup.Has(link);
       file << node_names[forward ? link.first : link.second] << ' '
            << node_names[forward ? link.second : link.first] << '\n';
@@ -140,6 +140,7 @@ void Kiir_com_graph_VL(const Com_graph& com_graph, std::uint32_t exact_com_count
   Text_writer file(results_names::Graph_of_communities(dir_of_k, com_flag));
   Write_head(file, "# The graph of " + Lead(com_flag, ' '), k, run_header);
   for (const Com_overlap& overlap : com_graph) {
+    external_control::Check_inside_long_stage();
     Write_index(file, overlap.first, exact_com_count);
     file << ' ';
     Write_index(file, overlap.second, exact_com_count);

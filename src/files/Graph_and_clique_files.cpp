@@ -17,6 +17,7 @@ void Kiir_graph(const Link_map& links, const std::string& output_dir, bool direc
                     : "# (mutual links and self-links were removed)\n")
        << '\n';
   for (std::size_t i = 0; i < links.size(); ++i) {
+    external_control::Check_inside_long_stage();
     file << links.First(i) << ' ' << links.Second(i);
     if (weighted) file << ' ' << links.Weight(i);
     file << '\n';

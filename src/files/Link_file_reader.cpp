@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "control/Clique_find_ext_cont.h"
 #include "foundation/Errors.h"
 #include "foundation/Line_reader.h"
 #include "foundation/My_string_to_d.h"
@@ -24,6 +25,7 @@ void Read_links(const std::string& file_name, Link_map& links, bool weighted, Ac
   links.clear();
   Link_map_builder builder(weighted);
   for (std::string_view line; reader.Next(line);) {
+    external_control::Check_inside_long_stage();
     const std::string_view cut_line = Trimmed(line, " \t");
     if (Is_skipped(cut_line)) continue;
     std::string_view rest = cut_line;

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "control/Clique_find_ext_cont.h"
+
 namespace gns {
 
 namespace {
@@ -9,6 +11,7 @@ namespace {
 /// One stable counting pass by the member `key` of the pairs.
 void Scatter_by(Node_index Index_pair::*key, std::vector<Index_pair>& pairs,
                 std::vector<double>& weights, std::uint32_t key_limit) {
+  external_control::Check_inside_long_stage();
   std::vector<std::size_t> place(std::size_t{key_limit} + 1, 0);
   for (const Index_pair& pair : pairs) ++place[std::size_t{pair.*key} + 1];
   for (std::size_t i = 1; i < place.size(); ++i) place[i] += place[i - 1];

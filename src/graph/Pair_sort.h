@@ -10,7 +10,7 @@ namespace gns {
 /// Sorts pairs lexicographically, stably, in time linear in pairs and keys.
 ///
 /// Every member of a pair is below `key_limit`. `weights` is empty or parallel to `pairs` and moves
-/// along. Needs a second copy of both arrays while it works.
+/// along. Polls as a long stage does. Needs a second copy of both arrays while it works.
 void Sort_pairs(std::vector<Index_pair>& pairs, std::vector<double>& weights,
                 std::uint32_t key_limit);
 

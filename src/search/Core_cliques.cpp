@@ -13,8 +13,10 @@ namespace {
 /// The rows of `sets`, in order, that no set of `index` covers.
 Clique_vector Not_covered_by(const Inclusion_index& index, const Clique_vector& sets) {
   Clique_vector kept;
-  for (std::size_t i = 0; i < sets.size(); ++i)
+  for (std::size_t i = 0; i < sets.size(); ++i) {
+    external_control::Check_inside_long_stage();
     if (!index.Covers(sets[i])) kept.push_back(sets[i]);
+  }
   return kept;
 }
 

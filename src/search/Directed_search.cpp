@@ -29,8 +29,10 @@ Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
 void Directed_node_search::Find(Node_index node, Attempt& attempt, Clique_vector& cliques) {
   if (!graph_.Cut_out(node, local_)) return;
   walk_.Find(local_, attempt, found_);
-  for (const std::uint32_t place : order_.Sort(local_, attempt, found_))
+  for (const std::uint32_t place : order_.Sort(local_, attempt, found_)) {
+    Attempt::Check_for_stop();
     local_.Record(cliques, found_.data() + place * local_.words);
+  }
 }
 
 void Clique_find_dir_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,

@@ -22,6 +22,7 @@ std::span<const std::uint32_t> Gap_order::Sort(const Local_graph& local, Attempt
     if (had_candidates && attempt.Runs_over()) return places_;
   }
   std::sort(places_.begin(), places_.end(), [&](std::uint32_t a, std::uint32_t b) {
+    Attempt::Check_for_stop();
     return std::lexicographical_compare(steps_.data() + starts_[a], steps_.data() + starts_[a + 1],
                                         steps_.data() + starts_[b], steps_.data() + starts_[b + 1]);
   });

@@ -6,17 +6,21 @@
 #include <unordered_set>
 #include <vector>
 
+#include "control/Clique_find_ext_cont.h"
 #include "search/Inclusion_index.h"
 
 namespace gns {
 
 namespace {
 
+using external_control::Check_inside_long_stage;
+
 /// The rows of `sets` in lexicographic order, each once.
 Clique_vector Sorted_unique(const Clique_vector& sets) {
   std::vector<std::uint32_t> order(sets.size());
   std::iota(order.begin(), order.end(), 0U);
   std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+    Check_inside_long_stage();
     return std::ranges::lexicographical_compare(sets[a], sets[b]);
   });
   Clique_vector sorted;
@@ -62,6 +66,7 @@ class Recorded_cliques {
 void Record_unequal(const Clique_vector& hard_cliques, Clique_vector& cliques) {
   const Recorded_cliques recorded(cliques);
   for (std::size_t i = 0; i < hard_cliques.size(); ++i) {
+    Check_inside_long_stage();
     cliques.push_back(hard_cliques[i]);
     if (recorded.Has_last()) cliques.Truncate(cliques.size() - 1);
   }
@@ -74,6 +79,7 @@ void Record_not_covered(const Clique_vector& hard_cliques, Clique_vector& clique
   const Inclusion_index hard(hard_cliques);
   std::vector<std::uint32_t> uncovered;
   for (std::uint32_t i = 0; i < hard_cliques.size(); ++i) {
+    Check_inside_long_stage();
     const Node_span set = hard_cliques[i];
     if (!recorded.Covers(set) && !hard.Covers(set, [&](std::uint32_t other) { return other < i; }))
       uncovered.push_back(i);

@@ -115,6 +115,7 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
       cliques.Truncate(recorded);
       queue.Put_back(node);
     }
+    external_control::PROGRESS.cliques_found.store(cliques.size(), std::memory_order_relaxed);
   }
   Attempt::Check_for_stop();
   std::vector<Node_index> left = queue.Left();

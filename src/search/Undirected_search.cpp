@@ -1,7 +1,6 @@
 #include "search/Undirected_search.h"
 
 #include <algorithm>
-#include <functional>
 #include <numeric>
 
 #include "search/Queue_search.h"
@@ -34,26 +33,35 @@ void Undirected_node_search::Find(Node_index node, Attempt& attempt, Clique_vect
   if (!graph_.Cut_out(node, local_)) return;
   walk_.Find(local_, attempt, found_);
   Sort_found();
-  for (std::size_t at = 0; at < found_.size(); at += local_.words)
+  for (std::size_t at = 0; at < found_.size(); at += local_.words) {
+    Attempt::Check_for_stop();
     local_.Record(cliques, found_.data() + at);
+  }
 }
 
-/// Puts the rows in descending order of their words, which is ascending order of the sets.
+/// Puts the rows in descending order of their words, which is ascending order of the sets. A
+/// node may have a hundred million cliques, so every comparison polls.
 void Undirected_node_search::Sort_found() {
   const std::size_t words = local_.words;
   if (words == 1) {
-    std::sort(found_.begin(), found_.end(), std::greater<>());
+    std::sort(found_.begin(), found_.end(), [](Bit_word a, Bit_word b) {
+      Attempt::Check_for_stop();
+      return a > b;
+    });
     return;
   }
   places_.resize(found_.size() / words);
   std::iota(places_.begin(), places_.end(), 0U);
   const auto row = [&](std::uint32_t place) { return found_.data() + place * words; };
   std::sort(places_.begin(), places_.end(), [&](std::uint32_t a, std::uint32_t b) {
+    Attempt::Check_for_stop();
     return std::lexicographical_compare(row(b), row(b) + words, row(a), row(a) + words);
   });
   sorted_.clear();
-  for (const std::uint32_t place : places_)
+  for (const std::uint32_t place : places_) {
+    Attempt::Check_for_stop();
     sorted_.insert(sorted_.end(), row(place), row(place) + words);
+  }
   found_.swap(sorted_);
 }
 

@@ -1,0 +1,12 @@
+#include "cli/Environment.h"
+
+#include <cstdlib>
+
+namespace gns {
+
+std::string_view Environment_variable(const char* name) {
+  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nobody writes
+  return value == nullptr ? "" : value;
+}
+
+}  // namespace gns

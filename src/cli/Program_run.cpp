@@ -1,0 +1,118 @@
+#include "cli/Program_run.h"
+
+#include <algorithm>
+#include <iostream>
+#include <new>
+#include <string>
+
+#include "cli/Live_display.h"
+#include "cli/Memory_limit.h"
+#include "cli/Own_input.h"
+#include "cli/Process_input.h"
+#include "cli/Resources.h"
+#include "cli/Run_table.h"
+#include "cli/State_lines.h"
+#include "cli/Stop_signals.h"
+#include "control/Clique_find_ext_cont.h"
+#include "engine/Check_switches.h"
+#include "engine/Find_coms.h"
+#include "files/Results_directory.h"
+#include "files/Unfinished_mark.h"
+#include "foundation/File_faults.h"
+#include "foundation/Total_path.h"
+
+namespace gns {
+
+namespace {
+
+/// One run of the program, from its switches to its exit code.
+class Program_run {
+ public:
+  explicit Program_run(const Switch_values& values) : values_(values) {}
+
+  Exit_code Run() {
+    const std::string message = Message();
+    std::cout << message << (message.ends_with('\n') ? "" : "\n");
+    if (message == std::bad_alloc().what()) Explain_lack_of_memory();
+    List_file_faults();
+    if (message == "Process stopped by user.\n" && Stop_signal_came()) return Exit_code::stopped;
+    if (message != run_finished || !File_faults().empty()) return Exit_code::run_failed;
+    Print_findings();
+    return Exit_code::finished;
+  }
+
+ private:
+  std::string Message() {
+    try {
+      const Live_display display(watch_);
+      memory_limit_ = Limit_memory();
+      Run_stages();
+      return run_finished;
+    } catch (const std::exception& failure) {
+      return failure.what();
+    }
+  }
+
+  void Run_stages() {
+    Link_map links;
+    Process_input(values_, start_, links);
+    Refuse_bad_parameters(start_.parameters);
+    const std::string& output_dir = start_.parameters.output_dir;
+    Refuse_own_input(start_.parameters.input_file, output_dir);
+    Check_out_dir(output_dir);
+    Open_results(start_);
+    bool approximation_needed = false;
+    Run_from_links(start_, links, approximation_needed, summary_);
+  }
+
+  void Explain_lack_of_memory() const {
+    std::vector<std::string> stage = State_lines();
+    stage.resize(std::max<std::size_t>(stage.size(), 1));
+    std::cerr << "vorlane: memory ran out";
+    if (memory_limit_ > 0) std::cerr << " (limit " << In_megabytes(memory_limit_) << ")";
+    std::cerr
+        << " in the stage \"" << stage.front() << "\", with "
+        << external_control::PROGRESS.cliques_found.load()
+        << " cliques found.\n"
+           "A link weight threshold (-w, -W) leaves fewer cliques. A single k (-k) does not:\n"
+           "all cliques are found first.\n";
+  }
+
+  void List_file_faults() const {
+    const std::vector<File_fault> faults = File_faults();
+    if (faults.empty()) return;
+    std::cerr << "vorlane: " << faults.size() << " file(s) could not be written:\n";
+    for (const File_fault& fault : faults)
+      std::cerr << "  " << fault.path << ": " << fault.reason << "\n";
+    std::cerr << "The results are not whole; " << Unfinished_mark_of(start_.parameters.output_dir)
+              << " tells so.\n";
+  }
+
+  void Print_findings() const {
+    std::cout << "\n";
+    Print_run_table(std::cout, summary_);
+    std::cout << "\n  " << Resources_used(watch_) << "\n  results in "
+              << Get_total_path(start_.parameters.output_dir) << "\n";
+  }
+
+  Switch_values values_;
+  Stopwatch watch_;
+  std::uint64_t memory_limit_ = 0;
+  Run_start start_;
+  Run_summary summary_;
+};
+
+}  // namespace
+
+Exit_code Run_program(int argc, const char* const* argv) {
+  try {
+    return Program_run(Read_command_line(argc, argv)).Run();
+  } catch (const Xusage_printed& usage) {
+    return usage.on_request ? Exit_code::finished : Exit_code::wrong_usage;
+  } catch (const Xerror_msg& failure) {
+    std::cout << failure.what();
+    return Exit_code::wrong_usage;
+  }
+}
+
+}  // namespace gns

@@ -1,0 +1,25 @@
+#include "cli/Resources.h"
+
+#include <sys/resource.h>
+
+#include "foundation/My_double2string.h"
+
+namespace gns {
+
+std::uint64_t Peak_memory() {
+  constexpr std::uint64_t unit = 1024;  // what the system counts in
+  struct rusage usage = {};
+  if (::getrusage(RUSAGE_SELF, &usage) != 0) return 0;
+  return static_cast<std::uint64_t>(usage.ru_maxrss) * unit;
+}
+
+std::string In_megabytes(std::uint64_t bytes) {
+  constexpr unsigned shift = 20;
+  return std::to_string(bytes >> shift) + " MB";
+}
+
+std::string Resources_used(const Stopwatch& watch) {
+  return double2string(watch.Seconds(), 2) + " s, peak memory " + In_megabytes(Peak_memory());
+}
+
+}  // namespace gns

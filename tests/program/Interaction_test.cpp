@@ -1,0 +1,138 @@
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+
+#include <chrono>
+#include <thread>
+
+#include "Child.h"
+
+namespace gns {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+template <typename Condition>
+void Wait_until(Condition condition) {
+  const auto end = Clock::now() + std::chrono::seconds(60);
+  while (!condition()) {
+    ASSERT_LT(Clock::now(), end);
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+}
+
+/// True while the process has a handler of its own for SIGINT.
+bool Catches_interrupt(pid_t pid) {
+  std::ifstream status("/proc/" + std::to_string(pid) + "/status");
+  std::string word;
+  while (status >> word && word != "SigCgt:") continue;
+  std::uint64_t signals = 0;
+  status >> std::hex >> signals;
+  return (signals >> (SIGINT - 1U) & 1U) != 0;
+}
+
+TEST(Stop, EndsALongSearchWithinASecond) {
+  const Temp_dir temp;
+  temp.Write("hard", Moon_moser_links(22));
+  for (const int signal : {SIGINT, SIGTERM}) {
+    const std::string out = "out" + std::to_string(signal);
+    Child child(temp, {"-i", "hard", "-o", out});
+    Wait_until([&] { return std::filesystem::exists(temp.Path(out + "/graph")); });
+    child.Signal(signal);
+    const auto asked = Clock::now();
+    EXPECT_EQ(child.Wait(), 130);
+    EXPECT_LT(Clock::now() - asked, std::chrono::seconds(1));
+    EXPECT_EQ(child.Out(), "Process stopped by user.\n");
+    EXPECT_EQ(child.Err(), "");
+    EXPECT_TRUE(std::filesystem::exists(temp.Path(out + ".unfinished")));
+  }
+}
+
+TEST(Stop, SecondSignalEndsAtOnce) {
+  const Temp_dir temp;
+  ASSERT_EQ(::mkfifo(temp.Path("pipe").c_str(), 0600), 0);
+  Child child(temp, {"-i", "pipe"});
+  // Both ends open, nothing written: the program waits in a read and meets no poll.
+  const int pipe = ::open(temp.Path("pipe").c_str(), O_WRONLY);
+  child.Signal(SIGINT);
+  Wait_until([&] { return !Catches_interrupt(child.Pid()); });
+  child.Signal(SIGTERM);
+  EXPECT_EQ(child.Wait(), -SIGTERM);
+  ::close(pipe);
+}
+
+/// A pseudo terminal for the standard error of a child.
+class Terminal {
+ public:
+  Terminal() : master_(::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC)) {
+    const struct winsize size = {10, 20, 0, 0};
+    if (::grantpt(master_) != 0 || ::unlockpt(master_) != 0 || Open() < 0 ||
+        ::ioctl(master_, TIOCSWINSZ, &size) != 0)
+      throw std::runtime_error("no pseudo terminal");
+  }
+  Terminal(const Terminal&) = delete;
+  Terminal& operator=(const Terminal&) = delete;
+  ~Terminal() { ::close(master_); }
+
+  [[nodiscard]] int Open() const { return ::open(::ptsname(master_), O_RDWR | O_NOCTTY); }
+
+  /// Adds what has arrived to Text().
+  void Read() {
+    struct pollfd ready = {master_, POLLIN, 0};
+    char buffer[4096];
+    while (::poll(&ready, 1, 0) > 0) {
+      const ssize_t got = ::read(master_, buffer, sizeof buffer);
+      if (got <= 0) return;
+      text_.append(buffer, static_cast<std::size_t>(got));
+    }
+  }
+  [[nodiscard]] bool Has(const std::string& part) const {
+    return text_.find(part) != std::string::npos;
+  }
+  [[nodiscard]] const std::string& Text() const { return text_; }
+
+ private:
+  int master_;
+  std::string text_;
+};
+
+/// What a long search shows on a terminal until it is stopped.
+std::string Shown(const char* variable, const char* value, const std::string& awaited) {
+  const Temp_dir temp;
+  temp.Write("hard", Moon_moser_links(22));
+  Terminal terminal;
+  Child child(temp, {"-i", "hard", "-o", "out"}, [&] {
+    ::unsetenv("NO_COLOR");
+    ::setenv("TERM", "xterm", 1);
+    ::setenv(variable, value, 1);
+    ::dup2(terminal.Open(), STDERR_FILENO);
+  });
+  Wait_until([&] {
+    terminal.Read();
+    return terminal.Has(awaited) && std::filesystem::exists(temp.Path("out/graph"));
+  });
+  child.Signal(SIGINT);
+  EXPECT_EQ(child.Wait(), 130);
+  EXPECT_EQ(child.Out(), "Process stopped by user.\n");
+  terminal.Read();
+  return terminal.Text();
+}
+
+TEST(LiveDisplay, ShowsProgressAndErasesIt) {
+  const std::string shown = Shown("TERM", "xterm", "\x1b[3A");
+  EXPECT_NE(
+      shown.find("\x1b[1;36m Locating cliques:\x1b[0m\x1b[K\r\n 66 of 66 nodes to \x1b[K\r\n"),
+      std::string::npos)
+      << shown;
+  EXPECT_TRUE(shown.ends_with("A\x1b[J")) << shown;
+}
+
+TEST(LiveDisplay, LeavesColourOutWhereItIsNotWanted) {
+  const std::string shown = Shown("NO_COLOR", "1", "\x1b[3A");
+  EXPECT_NE(shown.find("\r Locating cliques:\x1b[K\r\n"), std::string::npos) << shown;
+  EXPECT_EQ(shown.find('m' + std::string("\x1b")), std::string::npos) << shown;
+  EXPECT_EQ(Shown("TERM", "dumb", ""), "");
+}
+
+}  // namespace
+}  // namespace gns

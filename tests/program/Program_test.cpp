@@ -1,0 +1,202 @@
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <sstream>
+
+#include "Child.h"
+#include "cli/Memory_limit.h"
+
+namespace gns {
+namespace {
+
+void Limit(int resource, rlim_t value) {
+  const struct rlimit limit = {value, value};
+  ::setrlimit(static_cast<__rlimit_resource>(resource), &limit);
+}
+
+class Program : public ::testing::Test {
+ protected:
+  /// Runs the program to its end and keeps what it printed.
+  int Run(const Words& arguments, const std::function<void()>& in_child = {}) {
+    Child child(temp_, arguments, in_child);
+    const int code = child.Wait();
+    out_ = child.Out();
+    err_ = child.Err();
+    return code;
+  }
+
+  /// What stands in the directory of the test, but for the two output files.
+  [[nodiscard]] Words Entries() const {
+    Words names;
+    for (const auto& entry : std::filesystem::directory_iterator(temp_.Path()))
+      if (!entry.path().filename().string().starts_with('.'))
+        names.push_back(entry.path().filename());
+    std::ranges::sort(names);
+    return names;
+  }
+
+  /// The links of the graph file.
+  [[nodiscard]] std::string Links() const {
+    const std::string file = temp_.Read("out/graph");
+    return file.substr(std::min(file.find("\n\n") + 2, file.size()));
+  }
+
+  Temp_dir temp_;
+  std::string net_ = temp_.Write("net", "a b 1\nb c 2\nc a 3\nc d 4\nd e 5\ne c 6\n");
+  std::string out_;
+  std::string err_;
+};
+
+TEST_F(Program, TellsWhatItFound) {
+  ASSERT_EQ(Run({"-i", "net", "-o", "new/out"}), 0);
+  EXPECT_TRUE(
+      out_.starts_with("Process ended succesfully.\n\n  nodes 5, links 6, cliques 2\n\n"
+                       "  k  cliques of k nodes  communities  largest  nodes covered\n"
+                       "  3                   2            2        3              5\n\n  "))
+      << out_;
+  EXPECT_TRUE(out_.ends_with(" MB\n  results in " + temp_.Path("new/out") + "\n")) << out_;
+  EXPECT_EQ(err_, "");
+  EXPECT_EQ(Entries(), (Words{"net", "new"}));
+  EXPECT_EQ(temp_.Read("new/out/k=3/communities"),
+            "# The communities at k=3\n# from " + net_ +
+                "\n# at no lower link weight threshold,\n# and at no upper link weight threshold.\n"
+                "# Links were treated as undirected.\n"
+                "# No time limit was set for the clique search.\n\n0: a b c \n1: c d e \n");
+}
+
+TEST_F(Program, EndsWithItsExitCodeAndMessage) {
+  struct Case {
+    Words arguments;
+    int code;
+    std::string printed;
+  };
+  std::filesystem::create_directories(temp_.Path("full/k=3"));
+  std::filesystem::create_directories(temp_.Path("dir"));
+  const Words before = Entries();
+  for (const Case& c : std::vector<Case>{
+           {{"-h"}, 0, " When using vorlane you"},
+           {{"-i", "none", "--help"}, 0, "Exit codes: 0 finished"},
+           {{"--version", "-q"}, 0, "Vorlane 1."},
+           {{}, 2, "You must specify an input file.\n"},
+           {{"-i", "net", "-q"}, 2, "unknown parameter in parameter list! (Check_keys()).\n"},
+           {{"-i", "net", "-w", "3", "-W", "2"}, 2, " The sepcified lower threshold"},
+           {{"-i", "none"}, 1, "ERROR : File not found: 'none' \n"},
+           {{"-i", "dir"}, 1, "ERROR : File not found: 'dir' \n"},
+           {{"-i", "net", "-o", "full"}, 1, "already exists and it is non-empty.\n"},
+           {{"-i", "net", "-I", "1", "-k", "2"}, 1, "-clique size must be at least 3"},
+           {{"-i", "net", "-o", "net"}, 1, "it is the input file"},
+           {{"-i", "net", "-o", "dir/../net/out"}, 1, "it is the input file"}}) {
+    EXPECT_EQ(Run(c.arguments), c.code) << out_;
+    EXPECT_NE(out_.find(c.printed), std::string::npos) << out_;
+    EXPECT_EQ(err_, "");
+    EXPECT_EQ(Entries(), before);
+  }
+}
+
+TEST_F(Program, RefusesItsInputUnderAnyName) {
+  std::filesystem::create_hard_link(net_, temp_.Path("linked"));
+  std::filesystem::create_symlink(net_, temp_.Path("out.unfinished"));
+  const Words before = Entries();
+  for (const char* output_dir : {"linked", "out", "linked/sub"}) {
+    EXPECT_EQ(Run({"-i", "net", "-o", output_dir}), 1);
+    EXPECT_NE(out_.find("it is the input file"), std::string::npos) << out_;
+  }
+  EXPECT_EQ(Entries(), before);
+  EXPECT_TRUE(temp_.Read("net").starts_with("a b 1\n"));
+}
+
+TEST_F(Program, ReadsWhatLinkFilesHold) {
+  const std::string nul("a\0b", 3);
+  const std::string long_name(1 << 20U, 'x');
+  const std::string long_line(5 << 20U, ' ');
+  const std::vector<std::pair<std::string, std::string>> cases{
+      {"", ""},
+      {"a b\r\nb c\r\n", "a b\nb c\n"},
+      {"# remark\n\na b", "a b\n"},
+      {nul + " c\n", nul + " c\n"},
+      {"\xff\xc0 \xe2\x82\n", "\xff\xc0 \xe2\x82\n"},
+      {"a" + long_line + "b" + long_line + "c\nb" + long_line, "a b\n"},
+      {long_name + " y\n", long_name + " y\n"},
+      {"a a\nb a\na b\nb a\n", "a b\nb a\n"}};
+  for (const auto& [contents, links] : cases) {
+    std::filesystem::remove_all(temp_.Path("out"));
+    temp_.Write("odd", contents);
+    EXPECT_EQ(Run({"-i", "odd", "-o", "out"}), 0) << out_.substr(0, 200);
+    EXPECT_TRUE(Links() == links) << contents.substr(0, 200);
+  }
+  temp_.Write("odd", "a b\n  c\td \nlonely\n");
+  EXPECT_EQ(Run({"-i", "odd", "-o", "out"}), 1);
+  EXPECT_EQ(out_, "ERROR: Wrong line found in ' the file I was reading' :\nlonely\n");
+}
+
+TEST_F(Program, ReadsOddWeightsAsFormattedInputDoes) {
+  for (const std::string text : {"nan", "inf", "1e400", "-1e400", "1e-400", "0x10", "3abc", "+.5",
+                                 "5.", ".", "-", "1e", "1e+", "--1", "1,5", "7 x", ""}) {
+    SCOPED_TRACE(text);
+    std::filesystem::remove_all(temp_.Path("out"));
+    temp_.Write("odd", "a b " + text + "\n");
+    double weight = 0.0;
+    std::ostringstream links;
+    const bool good = !(std::istringstream(text) >> weight).fail();
+    if (good && weight > 0.25) links << "a b " << weight << "\n";
+    EXPECT_EQ(Run({"-i", "odd", "-o", "out", "-w", "0.25"}), good ? 0 : 1);
+    EXPECT_EQ(Links(), links.str());
+  }
+}
+
+TEST_F(Program, UnreadableFile) {
+  if (::geteuid() == 0) GTEST_SKIP() << "root may read everything";
+  ::chmod(net_.c_str(), 0);
+  EXPECT_EQ(Run({"-i", "net"}), 1);
+  EXPECT_EQ(out_, "ERROR : File not found: 'net' \n");
+}
+
+TEST_F(Program, ListsFilesThatCouldNotBeWritten) {
+  temp_.Write("big", Moon_moser_links(4));
+  EXPECT_EQ(Run({"-i", "big", "-o", "out", "-k", "5"}, [] { Limit(RLIMIT_FSIZE, 400); }), 1);
+  EXPECT_EQ(out_, "Process ended succesfully.\n");
+  EXPECT_NE(err_.find("\n  out/graph: write: File too large\n"), std::string::npos) << err_;
+  EXPECT_EQ(Entries(), (Words{"big", "net", "out", "out.unfinished"}));
+}
+
+TEST_F(Program, LossOfItsOwnOutput) {
+  EXPECT_EQ(Run({"-i", "net", "-o", "out"}, [] { Child::Redirect("/dev/full", 1); }), 1);
+  EXPECT_NE(err_.find("standard output: No space left"), std::string::npos) << err_;
+  const auto broken_pipe = [] {
+    int ends[2];
+    if (::pipe(ends) == 0) ::dup2(ends[1], 1);
+    ::close(ends[0]);
+  };
+  EXPECT_EQ(Run({"-i", "net", "-o", "out2"}, broken_pipe), 0);
+  EXPECT_EQ(err_, "");
+}
+
+TEST_F(Program, RunsWithASmallStack) {
+  if (!memory_is_limited) GTEST_SKIP() << "sanitizers need more";
+  std::ostringstream links;
+  for (int i = 0; i < 1500; ++i)
+    for (int j = 0; j < i; ++j) links << i << " " << j << "\n";
+  temp_.Write("complete", links.str());
+  EXPECT_EQ(
+      Run({"-i", "complete", "-o", "out", "-k", "1000000"}, [] { Limit(RLIMIT_STACK, 1 << 18); }),
+      0);
+  EXPECT_NE(out_.find("nodes 1500, links 1124250, cliques 1\n"), std::string::npos) << out_;
+}
+
+TEST_F(Program, EndsInGoodOrderWhenMemoryRunsOut) {
+  if (!memory_is_limited) GTEST_SKIP() << "no limit below sanitizers";
+  temp_.Write("hard", Moon_moser_links(17));
+  EXPECT_EQ(Run({"-i", "hard", "-o", "out"}, [] { ::setenv("VORLANE_MEMORY_LIMIT", "100M", 1); }),
+            1);
+  EXPECT_EQ(out_, "std::bad_alloc\n");
+  EXPECT_TRUE(
+      err_.starts_with("vorlane: memory ran out (limit 100 MB) in the stage \"Locating "
+                       "cliques:\", with 0 cliques found.\n"))
+      << err_;
+  EXPECT_EQ(Entries(), (Words{"hard", "net", "out", "out.unfinished"}));
+  EXPECT_EQ(Run({"-i", "net"}, [] { ::setenv("VORLANE_MEMORY_LIMIT", "1T", 1); }), 1);
+  EXPECT_TRUE(out_.starts_with("VORLANE_MEMORY_LIMIT is '1T', but must")) << out_;
+}
+
+}  // namespace
+}  // namespace gns
