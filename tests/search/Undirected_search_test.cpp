@@ -46,7 +46,7 @@ void Expect_like_literal_search(const Graph& graph) {
 }
 
 TEST(UndirectedSearch, EqualsLiteralSearchOnRandomGraphs) {
-  for (std::uint32_t seed = 0; seed < 4000; ++seed) {
+  for (std::uint32_t seed = 0; seed < 3000; ++seed) {
     Expect_like_literal_search(literal::Random_graph(seed));
     if (HasFatalFailure()) FAIL() << "seed " << seed;
   }
