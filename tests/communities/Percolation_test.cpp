@@ -7,10 +7,10 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "Literal_percolation.h"
+#include "Random_graphs.h"
 #include "communities/Coms_funcs.h"
 #include "control/Clique_find_ext_cont.h"
-#include "literal/Literal_percolation.h"
-#include "literal/Random_graphs.h"
 
 namespace gns {
 namespace {

@@ -10,9 +10,9 @@
 #include <thread>
 #include <typeinfo>
 
+#include "Literal_search.h"
+#include "Random_graphs.h"
 #include "control/Clique_find_ext_cont.h"
-#include "literal/Literal_search.h"
-#include "literal/Random_graphs.h"
 #include "search/Clique_reports.h"
 #include "search/Overlap_matrix.h"
 
