@@ -107,6 +107,20 @@ inline Graph Two_sides(Random& random, std::uint32_t side, std::uint32_t inner) 
   return graph;
 }
 
+/// A node whose neighbours have more neighbours than itself, leaves, and `inner` links from a few
+/// of them to the others: all cliques are found at that one node.
+inline Graph Hub(Random& random, std::uint32_t neighbours, std::uint32_t inner) {
+  const Node_index hub = neighbours + 1;
+  Graph graph = Without_links(hub + neighbours * neighbours);
+  for (Node_index neigh = 1; neigh <= neighbours; ++neigh) {
+    Link(graph, hub, neigh);
+    for (std::uint32_t leaf = 0; leaf < neighbours; ++leaf)
+      Link(graph, neigh, hub + (neigh - 1) * neighbours + leaf + 1);
+  }
+  for (; inner > 0; --inner) Link(graph, random.Node(4), random.Node(neighbours));
+  return graph;
+}
+
 /// The same graph with its nodes numbered anew.
 inline Graph Shuffled(Random& random, const Graph& graph) {
   std::vector<Node_index> number(graph.size() + 1);

@@ -55,10 +55,12 @@ TEST(UndirectedSearch, EqualsLiteralSearchOnRandomGraphs) {
 /// More than 64 and more than 128 candidates at one node.
 TEST(UndirectedSearch, EqualsLiteralSearchOnLongBitRows) {
   literal::Random random(1);
-  Expect_like_literal_search(literal::Two_sides(random, 100, 3));
+  Expect_like_literal_search(literal::Two_sides(random, 67, 5));
   Expect_like_literal_search(literal::Shuffled(random, literal::Two_sides(random, 72, 3)));
   Expect_like_literal_search(literal::Shuffled(random, literal::Two_sides(random, 133, 2)));
   Expect_like_literal_search(literal::Nearly_complete(random, 131, 4));
+  Expect_like_literal_search(literal::Hub(random, 90, 120));
+  Expect_like_literal_search(literal::Hub(random, 135, 120));
 }
 
 /// All sets of three nodes or more that are linked completely and lie in no other such set.
