@@ -5,8 +5,8 @@
 #include <set>
 #include <vector>
 
+#include "Random_graphs.h"
 #include "foundation/Errors.h"
-#include "literal/Random_graphs.h"
 
 namespace gns {
 namespace {

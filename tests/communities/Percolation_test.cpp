@@ -7,10 +7,10 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "Literal_percolation.h"
+#include "Random_graphs.h"
 #include "communities/Coms_funcs.h"
 #include "control/Clique_find_ext_cont.h"
-#include "literal/Literal_percolation.h"
-#include "literal/Random_graphs.h"
 
 namespace gns {
 namespace {
@@ -82,7 +82,7 @@ std::vector<std::uint32_t> Disordered(std::vector<std::uint32_t> ks, std::uint32
 }
 
 TEST(Percolation, EqualsLiteralPercolationInAnyOrderOfK) {
-  for (std::uint32_t seed = 0; seed < 3000; ++seed) {
+  for (std::uint32_t seed = 0; seed < 2000; ++seed) {
     const bool nested = seed % 4 == 3;
     const Clique_input input = Random_input(seed, nested);
     std::vector<std::uint32_t> ks = All_k_descending(input);

@@ -178,6 +178,7 @@ TEST(LinkMap, OrderAndSums) {
   // Bytes compare unsigned, a prefix comes first, and a NUL is a byte like any other.
   EXPECT_EQ(Listed(Built({{"b", "\xc3", 1},
                           {"b", "~", 1},
+                          {"b", "A\xc3", 1},
                           {"aaaaaaaab", "b", 4},
                           {"aaaaaaaa", "b", 1e17},
                           {"a\0"s, "b", 3},
@@ -188,6 +189,7 @@ TEST(LinkMap, OrderAndSums) {
                                                          {"a\0 b"s, 3},
                                                          {"aaaaaaaa b", 1},
                                                          {"aaaaaaaab b", 4},
+                                                         {"b A\xc3", 1},
                                                          {"b ~", 1},
                                                          {"b \xc3", 1}}));
   EXPECT_EQ(Listed(Built({{"a", "b", 2}, {"a", "b", 3}}, false)),

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "literal/Literal_search.h"
+#include "Literal_search.h"
 
 namespace gns::literal {
 
@@ -104,6 +104,20 @@ inline Graph Two_sides(Random& random, std::uint32_t side, std::uint32_t inner) 
     const Node_index offset = random.Below(2) * side;
     Link(graph, offset + random.Node(side), offset + random.Node(side));
   }
+  return graph;
+}
+
+/// A node whose neighbours have more neighbours than itself, leaves, and `inner` links from a few
+/// of them to the others: all cliques are found at that one node.
+inline Graph Hub(Random& random, std::uint32_t neighbours, std::uint32_t inner) {
+  const Node_index hub = neighbours + 1;
+  Graph graph = Without_links(hub + neighbours * neighbours);
+  for (Node_index neigh = 1; neigh <= neighbours; ++neigh) {
+    Link(graph, hub, neigh);
+    for (std::uint32_t leaf = 0; leaf < neighbours; ++leaf)
+      Link(graph, neigh, hub + (neigh - 1) * neighbours + leaf + 1);
+  }
+  for (; inner > 0; --inner) Link(graph, random.Node(4), random.Node(neighbours));
   return graph;
 }
 

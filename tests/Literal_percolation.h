@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "literal/Literal_search.h"
+#include "Literal_search.h"
 
 namespace gns::literal {
 
