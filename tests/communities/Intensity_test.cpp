@@ -100,7 +100,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Weight_case{"ties", {1.0, 2.0, 4.0}, {1.0, 2.0, std::sqrt(8.0), 4.0}},
         Weight_case{"equal", {3.0}, {3.0, std::nextafter(3.0, 0.0), 2.9}},
-        Weight_case{"equal_small", {0.1}, {0.1, 0.3}}, Weight_case{"ones", {1.0}, {0.0, 1.0}},
+        // Added up in another order, these sums fall on the other side of the threshold.
+        Weight_case{"equal_low", {0.71}, {0.71}}, Weight_case{"equal_high", {2.94}, {2.94}},
+        Weight_case{"ones", {1.0}, {0.0, 1.0}},
         Weight_case{"fractions", {0.1, 0.2, 0.3, 0.7, 1.1}, {0.0, 0.1, 0.25, 0.3, 1e-300, 1e300}},
         Weight_case{"zero", {0.0, 0.5, 2.0, 8.0}, {0.0, 0.5, 2.0, 3.0}},
         Weight_case{"negative", {-1.0, 0.5, 1.0, 3.0}, {0.0, 0.5, 1.0, -2.0}},

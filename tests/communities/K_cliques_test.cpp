@@ -44,17 +44,20 @@ std::size_t Count_by_definition(const literal::Links& links, unsigned nodes, uns
 
 TEST(KCliques, AreThoseWhoseGeometricMeanExceedsTheThreshold) {
   std::mt19937 random(7);
-  std::lognormal_distribution<double> weight(0.0, 1.0);
-  for (const double threshold : {0.5, 1.0, 1.3, 1.6, 2.0, 3.0}) {
-    literal::Links links = Cliques({{1, 14}}, 0.0);
-    for (auto& link : links) link.second = weight(random);
-    const Weighted_sample sample(links, 14);
-    const Weighted_cliques cliques(sample.cliques, sample.index_links);
-    for (const unsigned k : {3U, 5U, 7U, 10U, 13U, 14U}) {
-      K_cliques k_cliques(k);
-      Generate_k_cls_from_cls_ec(cliques, k_cliques, k, threshold);
-      EXPECT_EQ(k_cliques.size(), Count_by_definition(links, 14, k, threshold))
-          << "k=" << k << " I=" << threshold;
+  for (const double deviation : {1.0, 0.05}) {
+    for (const double mean : {-0.7, 0.0, 0.2, 0.3, 0.5, 0.7, 1.1}) {
+      const double threshold = std::exp(mean * deviation);
+      std::lognormal_distribution<double> weight(0.0, deviation);
+      literal::Links links = Cliques({{1, 14}}, 0.0);
+      for (auto& link : links) link.second = weight(random);
+      const Weighted_sample sample(links, 14);
+      const Weighted_cliques cliques(sample.cliques, sample.index_links);
+      for (const unsigned k : {3U, 5U, 7U, 10U, 13U, 14U}) {
+        K_cliques k_cliques(k);
+        Generate_k_cls_from_cls_ec(cliques, k_cliques, k, threshold);
+        EXPECT_EQ(k_cliques.size(), Count_by_definition(links, 14, k, threshold))
+            << "k=" << k << " I=" << threshold;
+      }
     }
   }
 }
