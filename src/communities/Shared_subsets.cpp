@@ -21,7 +21,7 @@ constexpr std::size_t small_table = std::size_t{1} << 20U;
 }  // namespace
 
 Shared_subsets::Shared_subsets(const K_cliques& k_cliques)
-    : k_cliques_(k_cliques), hashes_(k_cliques.K()) {
+    : k_cliques_(k_cliques), hashes_(k_cliques.K()), next_hashes_(k_cliques.K()) {
   // At most half of the slots are in use when each subset is met once only.
   const std::size_t subsets = k_cliques.size() * k_cliques.K();
   const std::size_t slots =
@@ -33,13 +33,18 @@ Shared_subsets::Shared_subsets(const K_cliques& k_cliques)
 void Shared_subsets::Begin_part(std::uint32_t part) {
   part_ = part;
   std::ranges::fill(table_, Entry{none, 0, 0});
+  if (!k_cliques_.empty()) Hash_subsets(k_cliques_[0]);
 }
 
-/// The hash of a set is the sum over its nodes, mixed: leaving out a node costs a subtraction.
+/// The hash of a set is the sum over its nodes, mixed: leaving out a node costs a subtraction. The
+/// slots are fetched while the k-clique before is looked at.
 void Shared_subsets::Hash_subsets(Node_span k_clique) {
   std::uint64_t sum = 0;
-  for (std::size_t i = 0; i < k_clique.size(); ++i) sum += hashes_[i] = Hash_of(k_clique[i]);
-  for (std::uint64_t& hash : hashes_) hash = Mix(sum - hash);
+  for (std::size_t i = 0; i < k_clique.size(); ++i) sum += next_hashes_[i] = Hash_of(k_clique[i]);
+  for (std::uint64_t& hash : next_hashes_) {
+    hash = Mix(sum - hash);
+    if (Part_of(hash) == part_) __builtin_prefetch(&table_[hash & (table_.size() - 1)], 1);
+  }
 }
 
 bool Shared_subsets::Same_subset(const Entry& entry, Node_span k_clique,

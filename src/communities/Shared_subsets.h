@@ -50,15 +50,20 @@ class Shared_subsets {
   std::uint32_t part_ = 0;
   std::vector<Entry> table_;           ///< open addressing; the size is a power of two
   std::vector<std::uint64_t> hashes_;  ///< of the subsets of one k-clique, by the node left out
+  std::vector<std::uint64_t> next_hashes_;  ///< of the next k-clique
 };
 
 template <typename Meet>
 void Shared_subsets::Enter(K_clique_index k_clique, Meet meet) {
-  Hash_subsets(k_cliques_[k_clique]);
+  hashes_.swap(next_hashes_);
+  if (k_clique + std::size_t{1} < k_cliques_.size()) Hash_subsets(k_cliques_[k_clique + 1]);
   for (std::uint32_t left_out = 0; left_out < hashes_.size(); ++left_out) {
     if (Part_of(hashes_[left_out]) != part_) continue;
     Entry& entry = Find(hashes_[left_out], k_clique, left_out);
-    if (entry.k_clique != k_clique) meet(left_out, entry);
+    if (entry.k_clique == k_clique) continue;
+    meet(left_out, entry);
+    entry.k_clique = k_clique;
+    entry.left_out = left_out & 0x7fffffffU;
   }
 }
 

@@ -100,18 +100,17 @@ const Communities& Extraction::Find_by_overlap(std::uint32_t k) {
 void Extraction::Write_communities(std::uint32_t k, const Communities& communities) const {
   Kiir_coms_VL(communities.coms, input_.output_dir, k, input_.node_names,
                communities.exact_com_count, input_.com_flag, input_.run_header);
-  const auto write_links = [&](const auto& com_links) {
-    Kiir_com_links_VL(com_links, input_.output_dir, k, input_.node_names,
-                      communities.exact_com_count, input_.com_flag, input_.run_header,
-                      input_.index_links);
-  };
   if (input_.use_intensity) {
-    write_links(K_clique_com_links(by_intensity_->k_cliques, by_intensity_->com_k_cliques));
+    Kiir_com_links_VL(K_clique_com_links(by_intensity_->k_cliques, by_intensity_->com_k_cliques),
+                      input_.output_dir, k, input_.node_names, communities.exact_com_count,
+                      input_.com_flag, input_.run_header);
     return;
   }
   Kiir_coms_cliques_VL(communities.com_cliques, input_.output_dir, k, communities.exact_com_count,
                        input_.exact_clique_count, input_.com_flag, input_.run_header);
-  write_links(communities.com_links);
+  Kiir_com_links_VL(communities.com_links, input_.output_dir, k, input_.node_names,
+                    communities.exact_com_count, input_.com_flag, input_.run_header,
+                    input_.index_links);
 }
 
 /// Writes one set of distributions, or, where some communities are approximate, three. Yields the

@@ -55,24 +55,22 @@ class Link_lookup {
   std::size_t next_ = 0;
 };
 
-/// The file of the links; for_each_link(com, use) calls use(link) for each link of a community.
+/// The file of the links; for_each_link(com, use) calls use(link) for each link of a community,
+/// with the nodes in the order in which they are shown.
 template <typename For_each_link>
 void Write_com_links(std::size_t com_count, For_each_link for_each_link,
                      const std::string& output_dir, std::uint32_t k, const Node_names& node_names,
                      std::uint32_t exact_com_count, const std::string& com_flag,
-                     const std::string& run_header, const Index_links& index_links) {
+                     const std::string& run_header) {
   const std::string dir_of_k = Prepared_dir(output_dir, k);
   Text_writer file(results_names::In_dir_of_k(dir_of_k, com_flag, "communities_links"));
   Write_head(file, "# The links inside the " + Lead(com_flag, ' ') + "communities ", k, run_header);
-  Link_lookup lookup(index_links);
   for (std::uint32_t com = 0; com < com_count; ++com) {
     Write_index(file, com, exact_com_count);
     file << ":\n";
     for_each_link(com, [&](const Index_pair& link) {
       external_control::Check_inside_long_stage();
-      const bool forward = lookup.Has(link);
-      file << node_names[forward ? link.first : link.second] << ' '
-           << node_names[forward ? link.second : link.first] << '\n';
+      file << node_names[link.first] << ' ' << node_names[link.second] << '\n';
     });
   }
 }
@@ -117,20 +115,21 @@ void Kiir_com_links_VL(const Row_array<Index_pair>& com_links, const std::string
                        std::uint32_t k, const Node_names& node_names, std::uint32_t exact_com_count,
                        const std::string& com_flag, const std::string& run_header,
                        const Index_links& index_links) {
+  Link_lookup lookup(index_links);
   const auto for_each_link = [&](std::uint32_t com, auto use) {
-    for (const Index_pair& link : com_links[com]) use(link);
+    for (const Index_pair& link : com_links[com])
+      use(lookup.Has(link) ? link : Index_pair{link.second, link.first});
   };
   Write_com_links(com_links.size(), for_each_link, output_dir, k, node_names, exact_com_count,
-                  com_flag, run_header, index_links);
+                  com_flag, run_header);
 }
 
 void Kiir_com_links_VL(const K_clique_com_links& com_links, const std::string& output_dir,
                        std::uint32_t k, const Node_names& node_names, std::uint32_t exact_com_count,
-                       const std::string& com_flag, const std::string& run_header,
-                       const Index_links& index_links) {
+                       const std::string& com_flag, const std::string& run_header) {
   const auto for_each_link = [&](std::uint32_t com, auto use) { com_links.For_each(com, use); };
   Write_com_links(com_links.size(), for_each_link, output_dir, k, node_names, exact_com_count,
-                  com_flag, run_header, index_links);
+                  com_flag, run_header);
 }
 
 void Kiir_com_graph_VL(const Com_graph& com_graph, std::uint32_t exact_com_count,

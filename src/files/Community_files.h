@@ -32,11 +32,11 @@ void Kiir_com_links_VL(const Row_array<Index_pair>& com_links, const std::string
                        std::uint32_t k, const Node_names& node_names, std::uint32_t exact_com_count,
                        const std::string& com_flag, const std::string& run_header,
                        const Index_links& index_links);
-/// The same with links that are computed from k-cliques while they are written.
+/// The same for links inside k-cliques, which the link map holds from the smaller index to the
+/// greater; they are computed while they are written.
 void Kiir_com_links_VL(const K_clique_com_links& com_links, const std::string& output_dir,
                        std::uint32_t k, const Node_names& node_names, std::uint32_t exact_com_count,
-                       const std::string& com_flag, const std::string& run_header,
-                       const Index_links& index_links);
+                       const std::string& com_flag, const std::string& run_header);
 
 /// A line per pair of communities that share nodes: two indices and the number of nodes.
 void Kiir_com_graph_VL(const Com_graph& com_graph, std::uint32_t exact_com_count,

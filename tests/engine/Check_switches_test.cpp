@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
+#include "foundation/Errors.h"
+
 namespace gns {
 namespace {
 
@@ -52,6 +56,34 @@ TEST(CheckSwitches, EveryBrokenRuleIsToldInOrder) {
               c.errors.empty());
     EXPECT_EQ(errors, "before\n" + c.errors);
   }
+}
+
+TEST(RefuseBadParameters, ASingleKTooSmallForTheIntensityMethod) {
+  const std::string head = "The following error(s) occured:\n";
+  const std::string k_text =
+      " The k-clique size must be at least 3 when a link weight\n intensity condition is set.\n";
+  Run_parameters p;
+  p.use_single_k = true;
+  p.single_k = 2;
+  Refuse_bad_parameters(p);
+  p.use_intensity = true;
+  const auto message = [&p]() -> std::string {
+    try {
+      Refuse_bad_parameters(p);
+    } catch (const Xerror_msg& error) {
+      return error.what();
+    }
+    return "";
+  };
+  EXPECT_EQ(message(), head + k_text + "\n");
+  p.directed = true;
+  EXPECT_EQ(message(), head + directed_intensity_text + k_text + "\n");
+  p.directed = false;
+  p.single_k = 3;
+  EXPECT_EQ(message(), "");
+  p.single_k = 0;
+  p.use_single_k = false;
+  EXPECT_EQ(message(), "");
 }
 
 }  // namespace

@@ -34,16 +34,18 @@ TEST(WholeRun, LeavesTheExpectedDirectory) {
     std::string name;
     bool use_thresholds;
     bool use_single_k;
+    bool use_intensity;
   };
-  for (const Case& c : std::vector<Case>{{"six_links", false, false},
-                                         {"overlapping", false, false},
-                                         {"thresholds", true, true}}) {
+  for (const Case& c : std::vector<Case>{{"six_links", false, false, false},
+                                         {"overlapping", false, false, false},
+                                         {"thresholds", true, true, false},
+                                         {"intensity", false, false, true}}) {
     const Temp_dir temp;
     const std::string input = std::string(VORLANE_EXPECTED_DIR) + "/" + c.name + "/links.txt";
     const std::string out = temp.Path("new/out");
     bool approximation_needed = true;
-    EXPECT_EQ(Find_coms(input, out, c.use_thresholds, 0.5, c.use_thresholds, 2e6, false, false, 9,
-                        false, -1, c.use_single_k, 5, approximation_needed),
+    EXPECT_EQ(Find_coms(input, out, c.use_thresholds, 0.5, c.use_thresholds, 2e6, false,
+                        c.use_intensity, 9, false, -1, c.use_single_k, 5, approximation_needed),
               "Process ended succesfully.");
     EXPECT_FALSE(approximation_needed);
     EXPECT_EQ(Contents_of(out), Expected_files(c.name, input)) << c.name;
