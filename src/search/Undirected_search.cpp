@@ -33,7 +33,7 @@ Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix, const Ve
 void Undirected_node_search::Find(Node_index node, Attempt& attempt, Clique_vector& cliques) {
   if (!graph_.Cut_out(node, local_)) return;
   walk_.Find(local_, attempt, found_);
-  Sort_found();
+  if (!attempt.Timed_out()) Sort_found();
   for (std::size_t at = 0; at < found_.size(); at += local_.words)
     local_.Record(cliques, found_.data() + at);
 }
