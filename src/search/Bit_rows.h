@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
 
 namespace gns {
 
@@ -27,6 +28,11 @@ inline std::size_t First_bit(const Bit_word* row, std::size_t words) {
   for (std::size_t w = 0; w < words; ++w)
     if (row[w] != 0) return w * word_bits + static_cast<std::size_t>(std::countl_zero(row[w]));
   return words * word_bits;
+}
+inline std::size_t Count_bits(const Bit_word* row, std::size_t words) {
+  std::size_t count = 0;
+  for (std::size_t w = 0; w < words; ++w) count += static_cast<std::size_t>(std::popcount(row[w]));
+  return count;
 }
 inline bool Share_bit(const Bit_word* a, const Bit_word* b, std::size_t words) {
   for (std::size_t w = 0; w < words; ++w)
@@ -60,6 +66,15 @@ void Spread(const Bit_word* links, std::size_t words, const Bit_word* inside, Bi
     Flip_bit(seen, next);
     for (std::size_t w = 0; w < words; ++w) ends[w] |= links[next * words + w];
   }
+}
+
+/// Calls use(n) with n as a constant of the type: the number of words per row if that is 1 or 2,
+/// for code that is compiled for these lengths, else 0.
+template <typename Use>
+void With_row_length(std::size_t words, Use use) {
+  if (words == 1) return use(std::integral_constant<std::size_t, 1>());
+  if (words == 2) return use(std::integral_constant<std::size_t, 2>());
+  use(std::integral_constant<std::size_t, 0>());
 }
 
 }  // namespace gns

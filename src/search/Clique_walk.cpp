@@ -20,6 +20,7 @@ class Clique_walk::Descent {
         local_(local),
         attempt_(attempt),
         found_(found),
+        rows_(local.rows.data()),
         words_(fixed_words != 0 ? fixed_words : local.words),
         clique_((memory.clique_.assign(words_, 0), memory.clique_.data())),
         cycles_(local, clique_, memory.cycle_memory_),
@@ -36,6 +37,7 @@ class Clique_walk::Descent {
 
  private:
   [[nodiscard]] std::size_t Words() const { return fixed_words != 0 ? fixed_words : words_; }
+  [[nodiscard]] const Bit_word* Row(std::size_t row) const { return rows_ + row * Words(); }
   [[nodiscard]] std::size_t Level() const { return memory_.excluded_starts_.size() - 1; }
   [[nodiscard]] Bit_word* Candidates(std::size_t level) {
     return memory_.bits_.data() + level * 2 * Words();
@@ -57,7 +59,7 @@ class Clique_walk::Descent {
     for (std::size_t i = 0; i < local_.nodes.size(); ++i) Flip_bit(Candidates(0), i);
     Flip_bit(Candidates(0), local_.home);
     for (std::size_t row = local_.nodes.size(); row < local_.Row_count(); ++row)
-      if (Share_bit(local_.Row(row), Candidates(0), Words()))
+      if (Share_bit(Row(row), Candidates(0), Words()))
         memory_.excluded_.push_back(static_cast<std::uint32_t>(row));
     if (!Choose_branches()) memory_.excluded_starts_.pop_back();
   }
@@ -78,7 +80,7 @@ class Clique_walk::Descent {
   bool Enter(std::size_t level, std::size_t next) {
     Reserve_level(level + 1);
     if constexpr (directed) cycles_.Join(next);
-    const Bit_word* neighs = local_.Row(next);
+    const Bit_word* neighs = Row(next);
     const Bit_word* above = Candidates(level);
     Bit_word* below = Candidates(level + 1);
     std::size_t count = 0;
@@ -111,7 +113,7 @@ class Clique_walk::Descent {
 
   /// Whether the node of an excluded row can join the clique that `next` is about to join.
   [[nodiscard]] bool Can_join(std::size_t row, std::size_t next) const {
-    if (!Has_bit(local_.Row(row), next)) return false;
+    if (!Has_bit(Row(row), next)) return false;
     if constexpr (directed) return !cycles_.Closes(row);
     return true;
   }
@@ -133,7 +135,7 @@ class Clique_walk::Descent {
     bool looked = !directed || next == last;
     for (std::size_t i = memory_.excluded_starts_[level]; i < memory_.excluded_.size(); ++i) {
       const std::uint32_t row = memory_.excluded_[i];
-      if (!Has_bit(local_.Row(row), last) || !Can_join(row, next)) continue;
+      if (!Has_bit(Row(row), last) || !Can_join(row, next)) continue;
       if constexpr (directed) {
         if (!looked) leaf_cycles_.Join(last);
         looked = true;
@@ -152,7 +154,7 @@ class Clique_walk::Descent {
     Bit_word* branches = To_branch(level);
     std::size_t fewest = std::numeric_limits<std::size_t>::max();
     const auto consider = [&](std::size_t row) {
-      const Bit_word* linked = local_.Row(row);
+      const Bit_word* linked = Row(row);
       std::size_t count = 0;
       for (std::size_t w = 0; w < Words(); ++w)
         count += static_cast<std::size_t>(std::popcount(candidates[w] & ~linked[w]));
@@ -195,34 +197,21 @@ class Clique_walk::Descent {
   const Local_graph& local_;
   Attempt& attempt_;
   std::vector<Bit_word>& found_;
+  const Bit_word* rows_;
   std::size_t words_;
   Bit_word* clique_;
   One_way_cycles<fixed_words> cycles_;       ///< of the node that joins, and of pivots
   One_way_cycles<fixed_words> leaf_cycles_;  ///< of the last node of a clique
 };
 
-template <bool directed>
-void Clique_walk::Descend(const Local_graph& local, Attempt& attempt,
-                          std::vector<Bit_word>& found) {
-  switch (local.words) {
-    case 1:
-      Descent<directed, 1>(*this, local, attempt, found).Run();
-      break;
-    case 2:
-      Descent<directed, 2>(*this, local, attempt, found).Run();
-      break;
-    default:
-      Descent<directed, 0>(*this, local, attempt, found).Run();
-      break;
-  }
-}
-
 void Clique_walk::Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found) {
   found.clear();
-  if (local.out_rows.empty())
-    Descend<false>(local, attempt, found);
-  else
-    Descend<true>(local, attempt, found);
+  With_row_length(local.words, [&](auto fixed_words) {
+    if (local.out_rows.empty())
+      Descent<false, fixed_words()>(*this, local, attempt, found).Run();
+    else
+      Descent<true, fixed_words()>(*this, local, attempt, found).Run();
+  });
 }
 
 }  // namespace gns

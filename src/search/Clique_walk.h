@@ -26,8 +26,6 @@ class Clique_walk {
  private:
   template <bool directed, std::size_t fixed_words>
   class Descent;
-  template <bool directed>
-  void Descend(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found);
 
   std::vector<Bit_word> bits_;           ///< per level: the candidates, then those to branch on
   std::vector<std::uint32_t> excluded_;  ///< rows excluded at each level, level behind level

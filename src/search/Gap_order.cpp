@@ -9,16 +9,18 @@ std::span<const std::uint32_t> Gap_order::Sort(const Local_graph& local, Attempt
                                                const std::vector<Bit_word>& cliques) {
   places_.resize(cliques.size() / local.words);
   std::iota(places_.begin(), places_.end(), 0U);
-  if (places_.size() < 2) return places_;
+  if (places_.size() < 2 || attempt.Timed_out()) return places_;
 
   steps_.clear();
   starts_.assign(1, 0);
+  scratch_.resize(2 * local.words);
   for (std::size_t at = 0; at < cliques.size(); at += local.words) {
     Attempt::Check_for_stop();
-    Trace(local, cliques.data() + at);
-    starts_.push_back(steps_.size());
+    With_row_length(local.words,
+                    [&](auto fixed_words) { Trace<fixed_words()>(local, cliques.data() + at); });
     constexpr std::size_t steps_of_three = 2;
-    const bool had_candidates = steps_.size() - starts_[starts_.size() - 2] > steps_of_three;
+    const bool had_candidates = steps_.size() - starts_.back() > steps_of_three;
+    starts_.push_back(steps_.size());
     if (had_candidates && attempt.Runs_over()) return places_;
   }
   std::sort(places_.begin(), places_.end(), [&](std::uint32_t a, std::uint32_t b) {
@@ -30,35 +32,41 @@ std::span<const std::uint32_t> Gap_order::Sort(const Local_graph& local, Attempt
 }
 
 /// Appends the steps to a clique.
+template <std::size_t fixed_words>
 void Gap_order::Trace(const Local_graph& local, const Bit_word* clique) {
-  const std::size_t words = local.words;
-  gaps_.assign(clique, clique + words);
+  const std::size_t words = fixed_words != 0 ? fixed_words : local.words;
+  const std::size_t most_rows = Count_bits(clique, words) + 1;
+  gaps_.resize(std::max(gaps_.size(), most_rows * words));
+  std::copy_n(clique, words, gaps_.data());
   Flip_bit(gaps_.data(), local.home);
-  Split(local, local.home);
-  for (std::uint32_t gap = 0; !gaps_.empty();) {
-    const std::size_t node = First_bit(gaps_.data() + gaps_.size() - words, words);
+  Split<fixed_words>(local, local.home, gaps_.data());
+  Step gap = 0;
+  for (std::size_t rows = 2; rows > 0;) {
+    Bit_word* front = gaps_.data() + (rows - 1) * words;
+    const std::size_t node = First_bit(front, words);
     if (node == words * word_bits) {
-      gaps_.resize(gaps_.size() - words);
+      --rows;
       ++gap;
       continue;
     }
-    steps_.push_back({gap, static_cast<std::uint32_t>(node)});
-    Flip_bit(gaps_.data() + gaps_.size() - words, node);
-    Split(local, node);
+    steps_.push_back(gap << 32U | node);
+    Flip_bit(front, node);
+    Split<fixed_words>(local, node, front);
+    ++rows;
   }
 }
 
 /// Puts `node` into the gap in front: of the missing nodes of that gap, those to which paths lead
-/// from it go to the gap behind it. Such paths stay among the missing nodes of the gap.
-void Gap_order::Split(const Local_graph& local, std::size_t node) {
-  const std::size_t words = local.words;
-  gaps_.resize(gaps_.size() + words);
-  scratch_.resize(2 * words);
-  Bit_word* behind = gaps_.data() + gaps_.size() - 2 * words;
+/// from it go to the gap behind it, the others stay in the gap in front, now one row further on.
+/// Such paths stay among the missing nodes of the gap.
+template <std::size_t fixed_words>
+void Gap_order::Split(const Local_graph& local, std::size_t node, Bit_word* behind) {
+  const std::size_t words = fixed_words != 0 ? fixed_words : local.words;
   Bit_word* front = behind + words;
+  const Bit_word* out = local.out_rows.data() + node * words;
+  const Bit_word* in = local.in_rows.data() + node * words;
   std::copy_n(behind, words, front);
-  std::copy_n(local.Out(node), words, behind);
-  const Bit_word* in = local.In(node);
+  std::copy_n(out, words, behind);
   const auto all_told = [&] {
     for (std::size_t w = 0; w < words; ++w)
       if ((front[w] & ~in[w] & ~behind[w]) != 0) return false;

@@ -31,17 +31,16 @@ class Gap_order {
                                       const std::vector<Bit_word>& cliques);
 
  private:
-  /// A gap, by the number of members in front of it, and the node that goes into it.
-  struct Step {
-    std::uint32_t gap;
-    std::uint32_t node;
-    auto operator<=>(const Step&) const = default;
-  };
+  /// A gap, by the number of members in front of it, and in the lower half the node that goes into
+  /// it, by its position in the local graph.
+  using Step = std::uint64_t;
 
+  template <std::size_t fixed_words>
   void Trace(const Local_graph& local, const Bit_word* clique);
-  void Split(const Local_graph& local, std::size_t node);
+  template <std::size_t fixed_words>
+  void Split(const Local_graph& local, std::size_t node, Bit_word* behind);
 
-  std::vector<Step> steps_;          ///< of all cliques, one behind the other
+  std::vector<Step> steps_;          ///< to all cliques, one behind the other
   std::vector<std::size_t> starts_;  ///< steps of clique i: starts_[i] up to starts_[i + 1]
   std::vector<std::uint32_t> places_;
   /// The missing nodes by their first gap, a row of bits each; the gap in front is the last row.

@@ -4,15 +4,6 @@
 
 namespace gns {
 
-namespace {
-
-void Set_bit(std::vector<Bit_word>& rows, const Local_graph& local, std::size_t row,
-             std::size_t position) {
-  rows[row * local.words + position / word_bits] |= Bit_of(position);
-}
-
-}  // namespace
-
 Search_graph::Search_graph(const Adjacency& neighs, const Node_order& order)
     : neighs_(neighs), finished_(order.size() + 1, 0), row_of_(order.size() + 1, 0) {
   std::vector<std::uint32_t> rank(order.size() + 1);
@@ -23,9 +14,6 @@ Search_graph::Search_graph(const Adjacency& neighs, const Node_order& order)
         if (rank[node] < rank[neigh]) enter(node, neigh);
   });
 }
-
-Search_graph::Search_graph(const Vertex_map& vtx_map, const Node_order& order)
-    : Search_graph(vtx_map.Rows(), order) {}
 
 Search_graph::Search_graph(const Dir_vertex_map& dir_vtx_map, const Node_order& order)
     : Search_graph(dir_vtx_map.Rows(), order) {
@@ -53,8 +41,7 @@ bool Search_graph::Cut_out(Node_index node, Local_graph& local) {
   for (const Node_index member : local.nodes) row_of_[member] = ++row;
   for (const Node_index excluded : excluded_) row_of_[excluded] = ++row;
   if (!Directed()) row_of_[node] = 0;
-  const bool linked = Link_nodes(local);
-  if (linked) Link_excluded(local);
+  const bool linked = Directed() ? Link<true>(local) : Link<false>(local);
   for (const Node_index neigh : neighs_[node]) row_of_[neigh] = 0;
   row_of_[node] = 0;
   return linked;
@@ -81,43 +68,60 @@ bool Search_graph::Collect(Node_index node, Local_graph& local) {
   return true;
 }
 
+Search_graph::Direction Search_graph::Reverse(Direction direction) {
+  if (direction == Direction::both) return direction;
+  return direction == Direction::out ? Direction::in : Direction::out;
+}
+
+/// Enters a link from a row to a position; `direction` is that of the link as seen from the row.
+void Search_graph::Enter(Local_graph& local, std::size_t row, std::size_t position,
+                         Direction direction) {
+  const std::size_t word = row * local.words + position / word_bits;
+  local.rows[word] |= Bit_of(position);
+  if (direction == Direction::out) local.out_rows[word] |= Bit_of(position);
+  if (direction == Direction::in) local.in_rows[word] |= Bit_of(position);
+}
+
+/// Enters all links; false if no two candidates are linked.
+template <bool directed>
+bool Search_graph::Link(Local_graph& local) const {
+  const bool linked = Link_nodes<directed>(local);
+  if (linked) Link_excluded<directed>(local);
+  return linked;
+}
+
 /// Enters the links that are kept with a node: to other nodes, and, where nodes finished out of
-/// order, to excluded nodes.
+/// order, to excluded nodes. True if two candidates are linked.
+template <bool directed>
 bool Search_graph::Link_nodes(Local_graph& local) const {
   bool linked = false;
   for (std::size_t i = 0; i < local.nodes.size(); ++i) {
-    if (!Directed() && i == local.home) continue;
-    const Node_span neighs = forward_[local.nodes[i]];
-    const std::size_t start = forward_.Start(local.nodes[i]);
-    for (std::size_t k = 0; k < neighs.size(); ++k) {
-      if (row_of_[neighs[k]] == 0) continue;
-      const std::size_t j = row_of_[neighs[k]] - 1;
-      const bool inside = j < local.nodes.size();
-      Set_bit(local.rows, local, j, i);
-      if (inside) Set_bit(local.rows, local, i, j);
-      if (inside && i != local.home && j != local.home) linked = true;
-      if (!Directed() || directions_[start + k] == Direction::both) continue;
-      const bool out = directions_[start + k] == Direction::out;
-      Set_bit(out ? local.in_rows : local.out_rows, local, j, i);
-      if (inside) Set_bit(out ? local.out_rows : local.in_rows, local, i, j);
+    if (i == local.home && !directed) continue;
+    std::size_t link = forward_.Start(local.nodes[i]);
+    for (const Node_index neigh : forward_[local.nodes[i]]) {
+      const std::size_t here = link++;
+      if (row_of_[neigh] == 0) continue;
+      const std::size_t j = row_of_[neigh] - 1;
+      const Direction direction = Direction_of<directed>(here);
+      Enter(local, j, i, Reverse(direction));
+      if (j >= local.nodes.size()) continue;
+      Enter(local, i, j, direction);
+      if (i != local.home && j != local.home) linked = true;
     }
   }
   return linked;
 }
 
 /// Enters the links that are kept with an excluded node.
+template <bool directed>
 void Search_graph::Link_excluded(Local_graph& local) const {
   std::size_t row = local.nodes.size();
   for (const Node_index excluded : excluded_) {
-    const Node_span neighs = forward_[excluded];
-    const std::size_t start = forward_.Start(excluded);
-    for (std::size_t k = 0; k < neighs.size(); ++k) {
-      const std::size_t j = std::size_t{row_of_[neighs[k]]} - 1;  // wraps for a node outside
-      if (j >= local.nodes.size()) continue;
-      Set_bit(local.rows, local, row, j);
-      if (!Directed() || directions_[start + k] == Direction::both) continue;
-      Set_bit(directions_[start + k] == Direction::out ? local.out_rows : local.in_rows, local, row,
-              j);
+    std::size_t link = forward_.Start(excluded);
+    for (const Node_index neigh : forward_[excluded]) {
+      const std::size_t here = link++;
+      const std::size_t j = std::size_t{row_of_[neigh]} - 1;  // wraps for a node outside
+      if (j < local.nodes.size()) Enter(local, row, j, Direction_of<directed>(here));
     }
     ++row;
   }

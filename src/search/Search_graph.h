@@ -15,8 +15,9 @@ namespace gns {
 /// keeps more than sqrt(2 x links) of them.
 class Search_graph {
  public:
-  /// `vtx_map` must outlive the object.
-  Search_graph(const Vertex_map& vtx_map, const Node_order& order);
+  /// Undirected; `neighs` must outlive the object.
+  Search_graph(const Adjacency& neighs, const Node_order& order);
+  /// Directed; `dir_vtx_map` must outlive the object.
   Search_graph(const Dir_vertex_map& dir_vtx_map, const Node_order& order);
 
   void Finish(Node_index node) { finished_[node] = 1; }
@@ -29,15 +30,24 @@ class Search_graph {
  private:
   enum class Direction : std::uint8_t { both, out, in };
 
-  Search_graph(const Adjacency& neighs, const Node_order& order);
   [[nodiscard]] bool Directed() const { return !directions_.empty(); }
+  template <bool directed>
+  [[nodiscard]] Direction Direction_of(std::size_t link) const {
+    return directed ? directions_[link] : Direction::both;
+  }
+  static Direction Reverse(Direction direction);
+  static void Enter(Local_graph& local, std::size_t row, std::size_t position, Direction direction);
   bool Collect(Node_index node, Local_graph& local);
+  template <bool directed>
+  bool Link(Local_graph& local) const;
+  template <bool directed>
   bool Link_nodes(Local_graph& local) const;
+  template <bool directed>
   void Link_excluded(Local_graph& local) const;
 
   const Adjacency& neighs_;
   Adjacency forward_;                  ///< to the neighbours that come later in the node order
-  std::vector<Direction> directions_;  ///< parallel to the members of forward_; or empty
+  std::vector<Direction> directions_;  ///< of the links in forward_; empty: undirected
   std::vector<std::uint8_t> finished_;
   std::vector<std::uint32_t> row_of_;  ///< row in the local graph + 1, or 0
   std::vector<Node_index> excluded_;

@@ -21,7 +21,7 @@ Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix, const Ve
                 const Time_limit* limit) {
   Node_order order;
   Sort_Vtx_map(order, vtx_map);
-  Undirected_node_search search(vtx_map, order);
+  Undirected_node_search search(vtx_map.Rows(), order);
   const std::vector<Node_index> left = Search_queue(search, order, kind, limit, cliques);
   overlap_matrix = Overlap_matrix(cliques);
   return Spanned_by(left, vtx_map.Rows());
@@ -32,7 +32,7 @@ Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix, const Ve
 void Undirected_node_search::Find(Node_index node, Attempt& attempt, Clique_vector& cliques) {
   if (!graph_.Cut_out(node, local_)) return;
   walk_.Find(local_, attempt, found_);
-  Sort_found();
+  if (!attempt.Timed_out()) Sort_found();
   for (std::size_t at = 0; at < found_.size(); at += local_.words) {
     Attempt::Check_for_stop();
     local_.Record(cliques, found_.data() + at);

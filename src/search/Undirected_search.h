@@ -13,11 +13,12 @@
 
 namespace gns {
 
-/// Finds the cliques of a node of an undirected graph, in ascending lexicographic order.
+/// Finds the cliques of a node of an undirected graph, in ascending lexicographic order (in any
+/// order where the attempt runs over).
 class Undirected_node_search : public Node_search {
  public:
-  Undirected_node_search(const Vertex_map& vtx_map, const Node_order& order)
-      : graph_(vtx_map, order) {}
+  Undirected_node_search(const Adjacency& neighs, const Node_order& order)
+      : graph_(neighs, order) {}
 
   void Find(Node_index node, Attempt& attempt, Clique_vector& cliques) override;
   void Finish(Node_index node) override { graph_.Finish(node); }
