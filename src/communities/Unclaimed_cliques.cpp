@@ -33,6 +33,7 @@ Unclaimed_cliques::Unclaimed_cliques(const Clique_vector& cliques)
   lists_.resize(node_limit);
   marked_.assign(node_limit, 0);
   for (const Node_index node : cliques.Values()) ++lists_[node].length;
+  lists_[everywhere].length = static_cast<std::uint32_t>(cliques.size());
   std::size_t start = 0;
   std::uint32_t longest = 0;
   for (List& list : lists_) {
@@ -72,13 +73,15 @@ void Unclaimed_cliques::Fill_lists() {
     return cliques_[a].size() > cliques_[b].size();
   });
   for (List& list : lists_) list.length = 0;
+  const auto enter = [this](Node_index node, Clique_index clique) {
+    List& list = lists_[node];
+    const std::size_t place = list.start + list.length++;
+    list_signatures_[place] = short_signatures_[clique];
+    list_cliques_[place] = clique;
+  };
   for (const Clique_index clique : by_size) {
-    for (const Node_index node : cliques_[clique]) {
-      List& list = lists_[node];
-      const std::size_t place = list.start + list.length++;
-      list_signatures_[place] = short_signatures_[clique];
-      list_cliques_[place] = clique;
-    }
+    enter(everywhere, clique);
+    for (const Node_index node : cliques_[clique]) enter(node, clique);
   }
 }
 
@@ -105,6 +108,7 @@ void Unclaimed_cliques::Reset(std::size_t least_size) {
 void Unclaimed_cliques::Claim(Clique_index clique) {
   met_[clique] = claimed;
   if (cliques_[clique].size() < least_size_) return;
+  --lists_[everywhere].unclaimed;
   for (const Node_index node : cliques_[clique]) --lists_[node].unclaimed;
 }
 
@@ -133,7 +137,7 @@ void Unclaimed_cliques::Collect_choices(Clique_index clique) {
     List& list = lists_[node];
     const bool fresh = list.unclaimed != 0 && list.asked_for != question_before;
     list.asked_for = question_;
-    choices_[count] = fresh_[fresh_count] = (Choice{list.unclaimed} << half) | node;
+    choices_[count] = fresh_[fresh_count] = Choice_of(node);
     count += list.unclaimed != 0 ? 1U : 0U;
     fresh_count += fresh ? 1U : 0U;
   }
@@ -155,9 +159,15 @@ std::span<const Unclaimed_cliques::Choice> Unclaimed_cliques::Choose_lists(Cliqu
     std::nth_element(first, first + static_cast<std::ptrdiff_t>(lists - 1), choices_.end());
   std::span<const Choice> chosen(choices_.data(), lists);
   if (Reading_cost(fresh_) < Reading_cost(chosen)) chosen = fresh_;
+  all_ = Choice_of(everywhere);
+  if (Reading_cost({&all_, 1}) < Reading_cost(chosen)) chosen = {&all_, 1};
   for (const Choice choice : chosen)
     __builtin_prefetch(list_signatures_.data() + lists_[Node_of(choice)].start);
   return chosen;
+}
+
+Unclaimed_cliques::Choice Unclaimed_cliques::Choice_of(Node_index node) const {
+  return (Choice{lists_[node].unclaimed} << half) | node;
 }
 
 void Unclaimed_cliques::Drop_claimed(List& list) {
