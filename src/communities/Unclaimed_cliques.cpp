@@ -1,8 +1,10 @@
 #include "communities/Unclaimed_cliques.h"
 
 #include <algorithm>
-#include <limits>
+#include <iterator>
 #include <numeric>
+
+#include "communities/Coms_funcs.h"
 
 namespace gns {
 
@@ -15,7 +17,7 @@ Node_index Node_limit(const Clique_vector& cliques) {
 
 constexpr unsigned half = 32;  ///< bits of the lower half of a choice
 
-constexpr Node_index Node_of(std::uint64_t choice) { return static_cast<Node_index>(choice); }
+constexpr std::uint32_t List_of(std::uint64_t choice) { return static_cast<std::uint32_t>(choice); }
 
 /// Entries to be read, with the price of coming to a list in entries.
 std::uint64_t Reading_cost(std::span<const std::uint64_t> choices) {
@@ -28,12 +30,54 @@ std::uint64_t Reading_cost(std::span<const std::uint64_t> choices) {
 }  // namespace
 
 Unclaimed_cliques::Unclaimed_cliques(const Clique_vector& cliques)
-    : cliques_(cliques), met_(cliques.size(), 0) {
-  const Node_index node_limit = Node_limit(cliques);
-  lists_.resize(node_limit);
-  marked_.assign(node_limit, 0);
-  for (const Node_index node : cliques.Values()) ++lists_[node].length;
-  lists_[everywhere].length = static_cast<std::uint32_t>(cliques.size());
+    : cliques_(cliques),
+      node_limit_(Node_limit(cliques)),
+      largest_(Max_clique_size_in_cl_vec(cliques)),
+      met_(cliques.size(), 0),
+      marked_(node_limit_, 0) {
+  Deal_turns();
+  Sign();
+  Lay_out_lists();
+}
+
+/// Numbers the nodes from the most frequent on.
+void Unclaimed_cliques::Deal_turns() {
+  std::vector<std::uint32_t> frequency(node_limit_, 0);
+  for (const Node_index node : cliques_.Values()) ++frequency[node];
+  std::vector<Node_index> by_frequency(node_limit_);
+  std::iota(by_frequency.begin(), by_frequency.end(), 0U);
+  std::sort(by_frequency.begin(), by_frequency.end(),
+            [&](Node_index a, Node_index b) { return frequency[a] > frequency[b]; });
+  turns_.resize(node_limit_);
+  for (std::uint32_t turn = 0; turn < node_limit_; ++turn) turns_[by_frequency[turn]] = turn;
+}
+
+void Unclaimed_cliques::Sign() {
+  short_signatures_.resize(cliques_.size());
+  long_signatures_.resize(cliques_.size());
+  for (std::size_t clique = 0; clique < cliques_.size(); ++clique) {
+    for (const Node_index node : cliques_[clique]) {
+      short_signatures_[clique].Add(turns_[node]);
+      long_signatures_[clique].Add(turns_[node]);
+    }
+  }
+}
+
+/// Calls use(index) for each list that a clique stands in.
+template <typename Use>
+void Unclaimed_cliques::For_each_list_of(Clique_index clique, Use use) const {
+  const Node_span members = cliques_[clique];
+  for (const Node_index node : members) use(node);
+  use(node_limit_ + static_cast<List_index>(members.size()));
+  if (!alike_.Built()) return;
+  for (const std::uint32_t bucket : alike_.Of(clique)) use(node_limit_ + largest_ + 1 + bucket);
+}
+
+/// Gives each list its place, for all cliques.
+void Unclaimed_cliques::Lay_out_lists() {
+  lists_.assign(std::size_t{node_limit_} + largest_ + 1 + alike_.Count(), List{});
+  for (Clique_index clique = 0; clique < cliques_.size(); ++clique)
+    For_each_list_of(clique, [this](List_index list) { ++lists_[list].length; });
   std::size_t start = 0;
   std::uint32_t longest = 0;
   for (List& list : lists_) {
@@ -42,28 +86,8 @@ Unclaimed_cliques::Unclaimed_cliques(const Clique_vector& cliques)
     longest = std::max(longest, list.length);
   }
   passed_.resize(longest + std::size_t{1});
-  Sign(node_limit);
   list_signatures_.resize(start);
   list_cliques_.resize(start);
-}
-
-/// Deals the positions of the signatures over the nodes, from the most frequent on.
-void Unclaimed_cliques::Sign(Node_index node_limit) {
-  std::vector<Node_index> by_frequency(node_limit);
-  std::iota(by_frequency.begin(), by_frequency.end(), 0U);
-  std::sort(by_frequency.begin(), by_frequency.end(),
-            [this](Node_index a, Node_index b) { return lists_[a].length > lists_[b].length; });
-  std::vector<std::uint32_t> turns(node_limit);
-  for (std::uint32_t turn = 0; turn < node_limit; ++turn) turns[by_frequency[turn]] = turn;
-
-  short_signatures_.resize(cliques_.size());
-  long_signatures_.resize(cliques_.size());
-  for (std::size_t clique = 0; clique < cliques_.size(); ++clique) {
-    for (const Node_index node : cliques_[clique]) {
-      short_signatures_[clique].Add(turns[node]);
-      long_signatures_[clique].Add(turns[node]);
-    }
-  }
 }
 
 void Unclaimed_cliques::Fill_lists() {
@@ -73,29 +97,35 @@ void Unclaimed_cliques::Fill_lists() {
     return cliques_[a].size() > cliques_[b].size();
   });
   for (List& list : lists_) list.length = 0;
-  const auto enter = [this](Node_index node, Clique_index clique) {
-    List& list = lists_[node];
-    const std::size_t place = list.start + list.length++;
-    list_signatures_[place] = short_signatures_[clique];
-    list_cliques_[place] = clique;
-  };
   for (const Clique_index clique : by_size) {
-    enter(everywhere, clique);
-    for (const Node_index node : cliques_[clique]) enter(node, clique);
+    For_each_list_of(clique, [this, clique](List_index index) {
+      List& list = lists_[index];
+      const std::size_t place = list.start + list.length++;
+      list_signatures_[place] = short_signatures_[clique];
+      list_cliques_[place] = clique;
+    });
   }
 }
 
 /// Dropping claimed cliques moves entries about among those listed, so a list keeps its bigger
 /// cliques in front as long as the least size only falls.
 void Unclaimed_cliques::Reset(std::size_t least_size) {
+  constexpr std::uint64_t dear_question = 4096;  // entries read; buckets pay from here on
+  const bool dense = entries_read_ > std::uint64_t{question_} * dear_question;
+  if (dense && !alike_.Built()) {
+    alike_.Build(cliques_, turns_);
+    Lay_out_lists();
+    least_size_ = 0;
+  }
   if (least_size_ == 0 || least_size > least_size_) Fill_lists();
   least_size_ = least_size;
   question_ = 1;
+  entries_read_ = 0;
   std::ranges::fill(met_, 0U);
-  for (std::size_t node = 0; node < lists_.size(); ++node) {
-    List& list = lists_[node];
+  for (std::size_t index = 0; index < lists_.size(); ++index) {
+    List& list = lists_[index];
     const std::size_t next =
-        node + 1 < lists_.size() ? lists_[node + 1].start : list_cliques_.size();
+        index + 1 < lists_.size() ? lists_[index + 1].start : list_cliques_.size();
     const auto first = list_cliques_.begin() + static_cast<std::ptrdiff_t>(list.start);
     const auto last = list_cliques_.begin() + static_cast<std::ptrdiff_t>(next);
     const auto end = std::partition_point(
@@ -108,8 +138,7 @@ void Unclaimed_cliques::Reset(std::size_t least_size) {
 void Unclaimed_cliques::Claim(Clique_index clique) {
   met_[clique] = claimed;
   if (cliques_[clique].size() < least_size_) return;
-  --lists_[everywhere].unclaimed;
-  for (const Node_index node : cliques_[clique]) --lists_[node].unclaimed;
+  For_each_list_of(clique, [this](List_index list) { --lists_[list].unclaimed; });
 }
 
 void Unclaimed_cliques::Append_neighbours(Clique_index clique, std::uint32_t overlap,
@@ -118,7 +147,7 @@ void Unclaimed_cliques::Append_neighbours(Clique_index clique, std::uint32_t ove
   candidates_.clear();
   const Short_signature question = short_signatures_[clique].As_question();
   for (const Choice choice : chosen) {
-    List& list = lists_[Node_of(choice)];
+    List& list = lists_[List_of(choice)];
     constexpr std::uint32_t most_claimed_share = 4;  // a list is cleaned when a fourth is claimed
     if (list.length - list.unclaimed > list.length / most_claimed_share) Drop_claimed(list);
     Meet(list, question, overlap);
@@ -159,15 +188,51 @@ std::span<const Unclaimed_cliques::Choice> Unclaimed_cliques::Choose_lists(Cliqu
     std::nth_element(first, first + static_cast<std::ptrdiff_t>(lists - 1), choices_.end());
   std::span<const Choice> chosen(choices_.data(), lists);
   if (Reading_cost(fresh_) < Reading_cost(chosen)) chosen = fresh_;
-  all_ = Choice_of(everywhere);
-  if (Reading_cost({&all_, 1}) < Reading_cost(chosen)) chosen = {&all_, 1};
+  chosen = Choose_among_all(clique, overlap, chosen);
   for (const Choice choice : chosen)
-    __builtin_prefetch(list_signatures_.data() + lists_[Node_of(choice)].start);
+    __builtin_prefetch(list_signatures_.data() + lists_[List_of(choice)].start);
   return chosen;
 }
 
-Unclaimed_cliques::Choice Unclaimed_cliques::Choice_of(Node_index node) const {
-  return (Choice{lists_[node].unclaimed} << half) | node;
+/// Compares what was chosen, if it is dear, with the lists of sizes and buckets.
+std::span<const Unclaimed_cliques::Choice> Unclaimed_cliques::Choose_among_all(
+    Clique_index clique, std::uint32_t overlap, std::span<const Choice> chosen) {
+  constexpr std::uint64_t dear = 1024;
+  constexpr unsigned splits = std::size(Alike_buckets::splits);
+  std::uint64_t least_cost = Reading_cost(chosen);
+  if (least_cost < dear) return chosen;
+  for (unsigned split = 0; split <= splits; ++split) {
+    if (split < splits && !alike_.Built()) continue;
+    Collect_alike(clique, overlap, split);
+    const std::uint64_t cost = Reading_cost(other_);
+    if (cost >= least_cost) continue;
+    least_cost = cost;
+    best_.swap(other_);
+    chosen = best_;
+  }
+  return chosen;
+}
+
+/// Collects the buckets of a split, and the sizes of which a clique differs by too many nodes to be
+/// in a common bucket for sure; the sizes all, if there is no such split.
+void Unclaimed_cliques::Collect_alike(Clique_index clique, std::uint32_t overlap, unsigned split) {
+  other_.clear();
+  std::size_t largest_alike = 0;
+  if (split < std::size(Alike_buckets::splits)) {
+    for (const std::uint32_t bucket : alike_.Of(clique, split))
+      other_.push_back(Choice_of(node_limit_ + largest_ + 1 + bucket));
+    const std::size_t size = cliques_[clique].size();
+    const std::size_t reach = std::size_t{2} * overlap + Alike_buckets::splits[split] - 1;
+    largest_alike = reach > size ? reach - size : 0;
+  }
+  for (std::size_t size = std::max(largest_alike + 1, least_size_); size <= largest_; ++size) {
+    const List_index list = node_limit_ + static_cast<List_index>(size);
+    if (lists_[list].unclaimed != 0) other_.push_back(Choice_of(list));
+  }
+}
+
+Unclaimed_cliques::Choice Unclaimed_cliques::Choice_of(List_index list) const {
+  return (Choice{lists_[list].unclaimed} << half) | list;
 }
 
 void Unclaimed_cliques::Drop_claimed(List& list) {
@@ -187,6 +252,7 @@ void Unclaimed_cliques::Drop_claimed(List& list) {
 void Unclaimed_cliques::Meet(const List& list, Short_signature question, std::uint32_t overlap) {
   const Short_signature* const signatures = list_signatures_.data() + list.start;
   const Clique_index* const cliques = list_cliques_.data() + list.start;
+  entries_read_ += list.length;
   const std::uint32_t least_bound = std::min(overlap, Short_signature::bits);
   std::uint32_t* const passed = passed_.data();
   std::size_t count = 0;
