@@ -229,6 +229,7 @@ TEST_F(SmallRun, StopBeforeTheFirstPoll) {
   EXPECT_EQ(Run(), "Process stopped by user.\n");
   EXPECT_EQ(Read_state_report(), " Process stopped by user.\n");
   EXPECT_EQ(Written(), (std::vector<std::string>{"graph", "input_params.txt"}));
+  EXPECT_EQ(summary_.nodes, 0U);
   EXPECT_TRUE(Marked());
 
   parameters_.output_dir = temp_.Path("again");

@@ -1,0 +1,92 @@
+#include "engine/Extract_coms.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "Directory_contents.h"
+#include "Temp_dir.h"
+#include "control/Clique_find_ext_cont.h"
+
+namespace gns {
+namespace {
+
+/// Cliques 3 and 4 are approximate; node 10 of the graph is in no clique.
+class Extracted : public ::testing::Test {
+ protected:
+  Extracted() {
+    const std::vector<std::vector<Node_index>> sets = {
+        {1, 2, 3}, {2, 3, 4}, {4, 5, 6}, {5, 6, 7}, {1, 8, 9}};
+    for (const std::vector<Node_index>& set : sets) cliques_.push_back(set);
+  }
+
+  std::map<std::string, std::string> Files_at(std::uint32_t k) {
+    const std::string header = " from here\n";
+    const Node_names no_names;
+    const Index_links no_links({}, {}, 10);
+    const std::string out = temp_.Path(std::to_string(k));
+    Extraction_input input = {.cliques = cliques_,
+                              .exact_clique_count = 3,
+                              .com_flag = flag_,
+                              .run_header = header,
+                              .output_dir = out,
+                              .node_names = no_names,
+                              .vertex_count = 10,
+                              .index_links = no_links,
+                              .max_clique_size = 3,
+                              .nested_cliques = false,
+                              .use_intensity = false,
+                              .intensity_threshold = 0};
+    Extraction(input).At(k);
+    return Contents_of(out + "/k=" + std::to_string(k));
+  }
+
+  Temp_dir temp_;
+  Clique_vector cliques_;
+  std::string flag_;
+};
+
+TEST_F(Extracted, ThreeSetsOfDistributionsWhereCommunitiesAreApproximate) {
+  const auto files = Files_at(3);
+  EXPECT_EQ(files.size(), 16U);
+  EXPECT_TRUE(files.at("communities_cliques").ends_with("\n\n0: 0 1 \n-1: 2 -3 \n-2: -4 \n"));
+  EXPECT_TRUE(files.at("graph_of_communities").ends_with("\n\n0 -1 1\n0 -2 1\n"));
+  struct Case {
+    std::string stat_flag, membership, size, overlap, degree;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"_merged", "0 1\n1 7\n2 2\n\n", "3 1\n4 2\n\n", "1 2\n\n", "1 2\n2 1\n\n"},
+           {"_exact", "0 6\n1 4\n\n", "4 1\n\n", "\n", "0 1\n\n"},
+           {"_appr", "0 3\n1 7\n\n", "3 1\n4 1\n\n", "\n", "0 2\n\n"},
+       }) {
+    const auto body = [&](const std::string& kind) {
+      const std::string& text = files.at(kind + "_distribution" + c.stat_flag);
+      return text.substr(text.find("\n\n") + 2);
+    };
+    EXPECT_EQ(body("membership"), c.membership) << c.stat_flag;
+    EXPECT_EQ(body("size"), c.size) << c.stat_flag;
+    EXPECT_EQ(body("overlap"), c.overlap) << c.stat_flag;
+    EXPECT_EQ(body("degree"), c.degree) << c.stat_flag;
+  }
+}
+
+TEST_F(Extracted, OneSetWhereNone) {
+  const auto files = Files_at(4);
+  EXPECT_EQ(files.size(), 8U);
+  EXPECT_TRUE(files.at("membership_distribution").ends_with("\n\n0 10\n\n"));
+  EXPECT_EQ(Read_state_report(), " done.\n");
+}
+
+TEST_F(Extracted, AStopDuringPercolationWritesNothingOfThatK) {
+  Stop_process();
+  EXPECT_THROW(Files_at(3), std::logic_error);
+  EXPECT_TRUE(Contents_of(temp_.Path()).empty());
+  EXPECT_EQ(Read_state_report(), " Process stopped by user.\n");
+  Reset_stop_process();
+}
+
+}  // namespace
+}  // namespace gns
