@@ -3,15 +3,13 @@
 #include <cstdint>
 #include <string>
 
-namespace gns {
-
 /// The names of everything in a results directory; the one place that forms them.
 ///
 /// OUT/input_params.txt, OUT/[directed_]graph, OUT/[directed_]cliques, and for each k OUT/k=K with
 /// k-cliques, [FLAG_]communities, [FLAG_]communities_cliques, [FLAG_]communities_links,
 /// graph_of_[FLAG_]communities and [FLAG_]<kind>_distribution[STAT_FLAG], where FLAG is "directed",
 /// "intensity" or empty.
-namespace results_names {
+namespace gns::results_names {
 
 std::string Params(const std::string& output_dir);
 std::string Graph(const std::string& output_dir, bool directed);
@@ -28,5 +26,4 @@ std::string Clique_flag(const std::string& com_flag);
 /// `flag` followed by `separator`, or nothing if it is empty.
 std::string Lead(const std::string& flag, char separator);
 
-}  // namespace results_names
-}  // namespace gns
+}  // namespace gns::results_names

@@ -1,0 +1,71 @@
+#pragma once
+
+/// The whole library in one header: everything that the engine offers to a program, which links
+/// vorlane_engine.
+///
+/// Find_coms() is a run from link file to results directory. Its parts, from the readers to the
+/// writers, can be called by themselves. Stop_process() and Read_state_report() may be called from
+/// other threads while a run goes on; one run at a time per process.
+
+// foundation: errors, text and numbers, paths
+#include "foundation/Dir_error.h"
+#include "foundation/Direktoriz.h"
+#include "foundation/Errors.h"
+#include "foundation/File_faults.h"
+#include "foundation/My_convert_from_string.h"
+#include "foundation/My_double2string.h"
+#include "foundation/My_int2string.h"
+#include "foundation/My_string_to_d.h"
+#include "foundation/Text_fields.h"
+#include "foundation/Total_path.h"
+
+// control: stop and state reports
+#include "control/Clique_find_ext_cont.h"
+
+// graph: from links between names to vertices
+#include "graph/Index_links.h"
+#include "graph/Link_conversion.h"
+#include "graph/Link_map.h"
+#include "graph/Node_names.h"
+#include "graph/Node_order.h"
+#include "graph/Node_set.h"
+#include "graph/Row_array.h"
+#include "graph/Vertex_export.h"
+#include "graph/Vertex_map.h"
+#include "graph/Vtx.h"
+#include "graph/Vtxd.h"
+
+// search: maximal cliques
+#include "search/Clique_find.h"
+#include "search/Clique_reports.h"
+#include "search/Clique_vector.h"
+#include "search/Core_cliques.h"
+#include "search/Directed_search.h"
+#include "search/Left_map.h"
+#include "search/Overlap_matrix.h"
+#include "search/Undirected_search.h"
+
+// communities: percolation, the intensity method, statistics
+#include "communities/Communities.h"
+#include "communities/Community_statistics.h"
+#include "communities/Coms_funcs.h"
+#include "communities/K_clique_communities.h"
+#include "communities/K_clique_generation.h"
+#include "communities/K_cliques.h"
+#include "communities/Percolation.h"
+#include "communities/Weighted_cliques.h"
+
+// files: link files and results directories
+#include "files/Community_files.h"
+#include "files/Graph_and_clique_files.h"
+#include "files/Link_file_reader.h"
+#include "files/Results_directory.h"
+#include "files/Results_names.h"
+#include "files/Statistics_files.h"
+#include "files/Unfinished_mark.h"
+
+// engine: whole runs
+#include "engine/Check_switches.h"
+#include "engine/Find_coms.h"
+#include "engine/Run_parameters.h"
+#include "engine/Run_summary.h"
