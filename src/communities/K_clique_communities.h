@@ -4,6 +4,7 @@
 
 #include "communities/K_cliques.h"
 #include "communities/Sub_links.h"
+#include "control/Clique_find_ext_cont.h"
 #include "graph/Node_set.h"
 #include "graph/Row_array.h"
 
@@ -30,10 +31,12 @@ class K_clique_com_links {
 
   [[nodiscard]] std::size_t size() const { return com_k_cliques_.size(); }
 
-  /// Calls use(link) for each link of a community, smaller index first.
+  /// Calls use(link) for each link of a community, smaller index first. Polls the stop flag as a
+  /// long stage does.
   template <typename Use>
   void For_each(std::size_t com, Use use) const {
     for (const K_clique_index k_clique : com_k_cliques_[com]) {
+      external_control::Check_inside_long_stage();
       const Node_span members = k_cliques_[k_clique];
       for (std::size_t a = 0; a < members.size(); ++a)
         for (std::size_t b = a + 1; b < members.size(); ++b)

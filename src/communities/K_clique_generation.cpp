@@ -1,5 +1,6 @@
 #include "communities/K_clique_generation.h"
 
+#include <limits>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -7,6 +8,7 @@
 
 #include "communities/K_clique_search.h"
 #include "control/Clique_find_ext_cont.h"
+#include "foundation/Errors.h"
 #include "foundation/My_double2string.h"
 #include "search/Clique_reports.h"
 
@@ -45,6 +47,8 @@ void Generate_k_cls_from_cls_ec(const Weighted_cliques& cliques, K_cliques& k_cl
   for (Node_index root = 1; root <= cliques.Node_count(); ++root) {
     external_control::Check_for_stop_signal();
     search.Search_from(root, k_cliques);
+    if (k_cliques.size() > std::numeric_limits<K_clique_index>::max())
+      throw Xerror_msg("ERROR: there are more k-cliques than can be numbered.\n");
     remaining -= done_behind[root];
     progress->Set_remaining(remaining);
   }
