@@ -7,28 +7,29 @@
 #include <set>
 #include <vector>
 
+#include "Literal_search.h"
 #include "graph/Node_order.h"
 #include "graph/Vertex_map.h"
 
+namespace gns::literal {
+
 /// The walk over gaps that gives directed cliques their order, taken literally: sets, lists and
 /// recursion. To be compared with; it never ends on everyday networks.
-class Literal_directed_search {
+class Directed_search {
  public:
-  using Set = std::set<gns::Node_index>;
-
   /// The maximal directed cliques of three nodes or more, in the order of recording.
-  static std::vector<Set> Cliques(const gns::Dir_vertex_map& map) {
-    Literal_directed_search search(map);
-    gns::Node_order order;
+  static std::vector<Set> Cliques(const Dir_vertex_map& map) {
+    Directed_search search(map);
+    Node_order order;
     Sort_dir_vtx_map(order, map, "Neighs");
-    for (const gns::Node_index node : order) search.Search(node);
+    for (const Node_index node : order) search.Search(node);
     return search.cliques_;
   }
 
  private:
   /// A member and the candidates for the gap in front of it; the last element closes the chain.
   struct Element {
-    gns::Node_index member;
+    Node_index member;
     Set candidates;
   };
   using Chain = std::list<Element>;
@@ -37,25 +38,25 @@ class Literal_directed_search {
     Set out;
   };
 
-  explicit Literal_directed_search(const gns::Dir_vertex_map& map) {
-    for (gns::Node_index node = 1; node <= map.size(); ++node) {
-      const gns::Node_span in = map.Ineighs(node);
-      const gns::Node_span out = map.Oneighs(node);
+  explicit Directed_search(const Dir_vertex_map& map) {
+    for (Node_index node = 1; node <= map.size(); ++node) {
+      const Node_span in = map.Ineighs(node);
+      const Node_span out = map.Oneighs(node);
       graph_[node] = {Set(in.begin(), in.end()), Set(out.begin(), out.end())};
     }
   }
 
-  void Search(gns::Node_index node) {
+  void Search(Node_index node) {
     known_.clear();
     for (const std::size_t clique : cliques_of_[node]) known_.push_back(cliques_[clique]);
     found_.clear();
     Walk({{node, graph_[node].in}, {node, graph_[node].out}}, 1);
     for (const auto& [key, clique] : found_) {
-      for (const gns::Node_index member : clique) cliques_of_[member].push_back(cliques_.size());
+      for (const Node_index member : clique) cliques_of_[member].push_back(cliques_.size());
       cliques_.push_back(clique);
     }
-    for (const gns::Node_index other : graph_[node].in) graph_[other].out.erase(node);
-    for (const gns::Node_index other : graph_[node].out) graph_[other].in.erase(node);
+    for (const Node_index other : graph_[node].in) graph_[other].out.erase(node);
+    for (const Node_index other : graph_[node].out) graph_[other].in.erase(node);
   }
 
   /// Visits what the chain of `size` members can grow to.
@@ -66,7 +67,7 @@ class Literal_directed_search {
     if (full && size > 2) Note(chain);
     for (auto element = chain.begin(); element != chain.end(); ++element) {
       while (!element->candidates.empty()) {
-        const gns::Node_index next = *element->candidates.begin();
+        const Node_index next = *element->candidates.begin();
         const Chain longer = Insert(chain, element, next);
         element->candidates.erase(next);
         Walk(longer, size + 1);
@@ -74,7 +75,7 @@ class Literal_directed_search {
     }
   }
 
-  Chain Insert(const Chain& chain, Chain::const_iterator place, gns::Node_index next) {
+  Chain Insert(const Chain& chain, Chain::const_iterator place, Node_index next) {
     Chain longer;
     const Set* linked = &graph_[next].in;
     for (auto element = chain.begin(); element != chain.end(); ++element) {
@@ -119,9 +120,11 @@ class Literal_directed_search {
     found_[last + 1] = clique;
   }
 
-  std::map<gns::Node_index, Neighbours> graph_;
+  std::map<Node_index, Neighbours> graph_;
   std::vector<Set> cliques_;
-  std::map<gns::Node_index, std::vector<std::size_t>> cliques_of_;
+  std::map<Node_index, std::vector<std::size_t>> cliques_of_;
   std::vector<Set> known_;         ///< cliques that hold the node in hand
   std::map<unsigned, Set> found_;  ///< cliques of the node in hand, by the order of noting
 };
+
+}  // namespace gns::literal

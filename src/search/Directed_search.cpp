@@ -11,7 +11,6 @@ const Search_kind kind = {
     .timed_title = " Locating dir. cliques, max. allowed time/node=",
     .unit = "directed cliques",
     .closing_line = "no approximation was needed.",
-    .nested = true,
 };
 
 Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix,

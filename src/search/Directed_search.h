@@ -37,15 +37,13 @@ class Directed_node_search : public Node_search {
 ///
 /// A clique is found with that member that comes first in the order of Sort_dir_vtx_map by
 /// "Neighs"; cliques stand in that order of nodes, and those of one node in the order of Gap_order.
-/// Keeps the state report up to date and polls the stop flag, which ends the search by an
-/// exception.
-/// The matrix is a view of `cliques`.
+/// The matrix is a view of `cliques`. Keeps the state report up to date and polls the stop flag,
+/// which ends the search by an exception.
 void Clique_find_dir_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
                         const Dir_vertex_map& dir_vtx_map);
 
-/// The same with a limit on the processor time of each attempt on a node; see Search_queue. If
-/// `left_map` isn't empty at its end, some cliques are missing, and one that only failed attempts
-/// found may lie inside another.
+/// The same with a limit on the processor time of each attempt on a node; see Search_queue. All
+/// cliques that it yields are maximal; some are missing if `left_map` isn't empty at its end.
 void Clique_find_dir_time_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
                              const Dir_vertex_map& dir_vtx_map, Left_map& left_map,
                              const Time_limit& time_limit);

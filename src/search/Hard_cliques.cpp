@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "control/Clique_find_ext_cont.h"
-#include "search/Inclusion_index.h"
 
 namespace gns {
 
@@ -63,38 +62,16 @@ class Recorded_cliques {
   std::unordered_set<std::uint32_t, Hash, Equal> positions_;
 };
 
-void Record_unequal(const Clique_vector& hard_cliques, Clique_vector& cliques) {
-  const Recorded_cliques recorded(cliques);
-  for (std::size_t i = 0; i < hard_cliques.size(); ++i) {
-    Check_inside_long_stage();
-    cliques.push_back(hard_cliques[i]);
-    if (recorded.Has_last()) cliques.Truncate(cliques.size() - 1);
-  }
-}
-
-/// A hard clique inside an earlier hard one is left out even where that one was left out itself:
-/// then both lie inside the same recorded clique.
-void Record_not_covered(const Clique_vector& hard_cliques, Clique_vector& cliques) {
-  const Inclusion_index recorded(cliques);
-  const Inclusion_index hard(hard_cliques);
-  std::vector<std::uint32_t> uncovered;
-  for (std::uint32_t i = 0; i < hard_cliques.size(); ++i) {
-    Check_inside_long_stage();
-    const Node_span set = hard_cliques[i];
-    if (!recorded.Covers(set) && !hard.Covers(set, [&](std::uint32_t other) { return other < i; }))
-      uncovered.push_back(i);
-  }
-  for (const std::uint32_t i : uncovered) cliques.push_back(hard_cliques[i]);
-}
-
 }  // namespace
 
-void Record_hard_cliques(const Clique_vector& hard_cliques, bool nested, Clique_vector& cliques) {
+void Record_hard_cliques(const Clique_vector& hard_cliques, Clique_vector& cliques) {
   const Clique_vector sorted = Sorted_unique(hard_cliques);
-  if (nested)
-    Record_not_covered(sorted, cliques);
-  else
-    Record_unequal(sorted, cliques);
+  const Recorded_cliques recorded(cliques);
+  for (std::size_t i = 0; i < sorted.size(); ++i) {
+    Check_inside_long_stage();
+    cliques.push_back(sorted[i]);
+    if (recorded.Has_last()) cliques.Truncate(cliques.size() - 1);
+  }
 }
 
 }  // namespace gns

@@ -119,7 +119,7 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
   }
   Attempt::Check_for_stop();
   std::vector<Node_index> left = queue.Left();
-  if (!left.empty()) Record_hard_cliques(hard_cliques, kind.nested, cliques);
+  if (!left.empty()) Record_hard_cliques(hard_cliques, cliques);
   Report_end(kind, limit, left.empty(), cliques);
   return left;
 }

@@ -10,13 +10,12 @@
 
 namespace gns {
 
-/// What a search is called in its reports, and what it yields.
+/// What a search is called in its reports.
 struct Search_kind {
   std::string title;         ///< of an exact search, with its colon
   std::string timed_title;   ///< in front of the time limit
   std::string unit;          ///< what is found
   std::string closing_line;  ///< of a time-limited search that left no node
-  bool nested;               ///< a failed attempt may yield a clique inside another
 };
 
 /// Searches the nodes one by one, in the order given.
@@ -24,8 +23,7 @@ struct Search_kind {
 /// With a time limit (null: none), a node whose attempt ran over goes to the end of the queue,
 /// since it gets easier as others leave the graph. When all nodes in the queue have failed in a row
 /// the search gives up on them. Cliques that only failed attempts found are recorded last, in
-/// lexicographic order; one that equals a recorded clique is left out, and so is, where they may
-/// be nested, one that lies inside a recorded clique.
+/// lexicographic order, unless they were recorded already.
 ///
 /// Yields the nodes given up, ascending. Keeps the state report up to date and polls the stop flag.
 std::vector<Node_index> Search_queue(Node_search& search, const Node_order& order,

@@ -14,7 +14,6 @@ const Search_kind kind = {
     .timed_title = " Locating cliques, max. allowed time/node=",
     .unit = "cliques",
     .closing_line = " no approximation was needed",
-    .nested = false,
 };
 
 Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix, const Vertex_map& vtx_map,
