@@ -3,9 +3,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
-#include <cstring>
 #include <utility>
 
 #include "foundation/File_faults.h"
@@ -28,7 +28,7 @@ Text_writer& Text_writer::operator<<(std::string_view text) {
       return *this;
     }
   }
-  std::memcpy(buffer_.get() + used_, text.data(), text.size());
+  std::copy_n(text.data(), text.size(), buffer_.get() + used_);
   used_ += text.size();
   return *this;
 }
