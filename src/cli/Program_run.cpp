@@ -74,8 +74,8 @@ class Program_run {
         << " in the stage \"" << stage.front() << "\", with "
         << external_control::PROGRESS.cliques_found.load()
         << " cliques found.\n"
-           "A link weight threshold (-w, -W) leaves fewer cliques. A single k (-k) does not:\n"
-           "all cliques are found first.\n";
+           "A link weight threshold (-w, -W) leaves fewer cliques, and so does a small time limit\n"
+           "per node (-t 0.001 or less). A single k (-k) doesn't: all cliques are found first.\n";
   }
 
   void List_file_faults() const {

@@ -45,7 +45,7 @@ Extraction::Extraction(const Extraction_input& input) : input_(input) {
   if (input.use_intensity)
     by_intensity_.emplace(input);
   else
-    percolation_.emplace(input.cliques, input.exact_clique_count, input.nested_cliques);
+    percolation_.emplace(input.cliques, input.exact_clique_count, false);
 }
 
 K_summary Extraction::At(std::uint32_t k) {

@@ -27,7 +27,6 @@ struct Extraction_input {
   std::uint32_t vertex_count;
   const Index_links& index_links;
   std::uint32_t max_clique_size;  ///< for the state report only
-  bool nested_cliques;            ///< a clique may lie inside another
   bool use_intensity;
   double intensity_threshold;  ///< read only if `use_intensity` is set
 };

@@ -118,8 +118,7 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
   Extract_all(parameters,
               {cliques, exact_clique_count, start.com_flag, start.run_header, parameters.output_dir,
                node_names, vertex_count, index_links, Max_clique_size_in_cl_vec(cliques),
-               parameters.directed && parameters.use_time_limit, parameters.use_intensity,
-               parameters.intensity_threshold},
+               parameters.use_intensity, parameters.intensity_threshold},
               summary);
   if (File_faults().empty()) Remove_unfinished_mark(parameters.output_dir);
 }

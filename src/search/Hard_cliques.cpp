@@ -64,12 +64,24 @@ class Recorded_cliques {
 
 }  // namespace
 
-void Record_hard_cliques(const Clique_vector& hard_cliques, Clique_vector& cliques) {
-  const Clique_vector sorted = Sorted_unique(hard_cliques);
+void Hard_cliques::Take_from(Clique_vector& cliques, std::size_t first) {
+  constexpr std::size_t few = 1024;
+  for (std::size_t i = first; i < cliques.size(); ++i) found_.push_back(cliques[i]);
+  cliques.Truncate(first);
+  if (found_.size() > 2 * distinct_ + few) Drop_repeats();
+}
+
+void Hard_cliques::Drop_repeats() {
+  found_ = Sorted_unique(found_);
+  distinct_ = found_.size();
+}
+
+void Hard_cliques::Record(Clique_vector& cliques) {
+  Drop_repeats();
   const Recorded_cliques recorded(cliques);
-  for (std::size_t i = 0; i < sorted.size(); ++i) {
+  for (std::size_t i = 0; i < found_.size(); ++i) {
     Check_inside_long_stage();
-    cliques.push_back(sorted[i]);
+    cliques.push_back(found_[i]);
     if (recorded.Has_last()) cliques.Truncate(cliques.size() - 1);
   }
 }

@@ -98,7 +98,7 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
                                      const Search_kind& kind, const Time_limit* limit,
                                      Clique_vector& cliques) {
   cliques.clear();
-  Clique_vector hard_cliques;
+  Hard_cliques hard_cliques;
   Node_queue queue(order, kind, limit);
   Attempt attempt(limit);
   while (queue.Goes_on()) {
@@ -111,15 +111,14 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
       queue.Note_success();
       search.Finish(node);
     } else {
-      for (std::size_t i = recorded; i < cliques.size(); ++i) hard_cliques.push_back(cliques[i]);
-      cliques.Truncate(recorded);
+      hard_cliques.Take_from(cliques, recorded);
       queue.Put_back(node);
     }
     external_control::PROGRESS.cliques_found.store(cliques.size(), std::memory_order_relaxed);
   }
   Attempt::Check_for_stop();
   std::vector<Node_index> left = queue.Left();
-  if (!left.empty()) Record_hard_cliques(hard_cliques, cliques);
+  if (!left.empty()) hard_cliques.Record(cliques);
   Report_end(kind, limit, left.empty(), cliques);
   return left;
 }

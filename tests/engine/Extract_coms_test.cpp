@@ -37,7 +37,6 @@ class Extracted : public ::testing::Test {
                               .vertex_count = 10,
                               .index_links = no_links,
                               .max_clique_size = 3,
-                              .nested_cliques = false,
                               .use_intensity = false,
                               .intensity_threshold = 0};
     Extraction(input).At(k);
