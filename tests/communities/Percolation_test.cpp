@@ -166,6 +166,19 @@ TEST(Percolation, PollsOnlyWhereTheHostWantsIt) {
   Reset_stop_process();
 }
 
+TEST(ComsFuncs, CommunitiesAtOneK) {
+  for (std::uint32_t seed = 0; seed < 100; ++seed) {
+    const Clique_input input = Random_input(seed, seed % 2 == 0);
+    const Clique_vector cliques = literal::Rows_of(input.cliques);
+    Communities found;
+    found.coms.push_back(std::vector<Node_index>{1});
+    Coms_from_appr_ovlp_matr(found.coms, found.com_links, found.com_cliques, cliques,
+                             Overlap_matrix(cliques), 3 + seed % 3, input.exact_clique_count,
+                             found.exact_com_count);
+    Expect_like_literal_percolation(found, input, 3 + seed % 3);
+  }
+}
+
 TEST(ComsFuncs, ReportAndSizes) {
   struct Case {
     std::uint32_t k;

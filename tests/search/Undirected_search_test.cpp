@@ -2,13 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
+#include <algorithm>
 #include <bit>
+#include <map>
+#include <set>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 #include <thread>
 #include <typeinfo>
+#include <utility>
+#include <vector>
 
 #include "Literal_search.h"
 #include "Random_graphs.h"
