@@ -11,11 +11,14 @@ namespace gns {
 /// Seconds of processor time that the whole process has used.
 double Processor_seconds();
 
+/// Yields seconds.
+using Clock = std::function<double()>;
+
 /// How much processor time one attempt on a node may take.
 struct Time_limit {
   double seconds;
   /// The one door to the clock.
-  std::function<double()> now = Processor_seconds;
+  Clock now = Processor_seconds;
 };
 
 /// An attempt to find the cliques of one node: polls the stop flag and, where there is a limit,
