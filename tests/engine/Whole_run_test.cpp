@@ -55,9 +55,9 @@ TEST(WholeRun, LeavesTheExpectedDirectory) {
   }
 }
 
-/// Three cliques are found; then five nodes that are all linked run over their time, once more
-/// after the node E among them has finished. Their community holds an exact clique as well at k=3
-/// and there is none of them at k=5.
+/// Three cliques are found; then five nodes that are all linked run over their time, and again
+/// after node E, which waits among them, has finished. At k=3 their community holds an exact clique
+/// as well, and at k=5 they have none.
 TEST(WholeRun, CoversHardNodesByApproximateCliques) {
   const Temp_dir temp;
   Run_parameters parameters;
