@@ -103,9 +103,9 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
   Clique_vector cliques;
   Overlap_matrix overlap_matrix;
   std::uint32_t exact_clique_count = 0;
-  Find_cliques_ec(parameters.use_time_limit, parameters.directed, cliques, overlap_matrix,
-                  dir_vtx_map, vtx_map, exact_clique_count, parameters.time_limit,
-                  approximation_needed);
+  const Time_limit time_limit = {parameters.time_limit, start.clock};
+  Find_cliques_ec(parameters.use_time_limit ? &time_limit : nullptr, parameters.directed, cliques,
+                  overlap_matrix, dir_vtx_map, vtx_map, exact_clique_count, approximation_needed);
   Summarize(cliques, exact_clique_count, summary);
   Check_for_stop_signal();
 

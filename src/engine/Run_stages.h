@@ -5,6 +5,7 @@
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
 #include "graph/Link_map.h"
+#include "search/Attempt.h"
 
 namespace gns {
 
@@ -14,6 +15,7 @@ struct Run_start {
   bool weighted = false;  ///< the links were read with weights
   std::string com_flag;   ///< "directed", "intensity" or empty
   std::string run_header;
+  Clock clock = Processor_seconds;  ///< what a time limit is measured by
 };
 
 /// What follows from the parameters alone. The header has its first three lines.

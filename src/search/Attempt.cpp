@@ -9,24 +9,34 @@ double Processor_seconds() { return static_cast<double>(std::clock()) / 1000000.
 
 void Attempt::Start() {
   timed_out_ = false;
-  stride_ = 1;
-  steps_to_read_ = 1;
+  first_reading_ = true;
+  work_to_read_ = 0;
   if (limit_ != nullptr) start_time_ = last_time_ = limit_->now();
 }
 
-/// Reads the clock and sets how many steps may pass until it is read again: twice as many as the
-/// last time while they take less than a few microseconds, half as many where they take more.
 bool Attempt::Read() {
-  constexpr double target = 5e-6;
-  constexpr std::uint32_t longest_stride = 1U << 10U;
   const double time = limit_->now();
   timed_out_ = time - start_time_ > limit_->seconds;
-  const double taken = time - last_time_;
+  // What came before the first step is work of another kind.
+  if (!first_reading_) Adapt_interval(time - last_time_, interval_ - work_to_read_);
+  first_reading_ = false;
   last_time_ = time;
-  if (taken < target) stride_ = std::min(stride_ * 2, longest_stride);
-  if (taken > 2 * target) stride_ = std::max(stride_ / 2, 1U);
-  steps_to_read_ = stride_;
+  work_to_read_ = interval_;
   return timed_out_;
+}
+
+/// Sets the interval such that it takes a fiftieth of the limit, but not so little that the
+/// readings themselves take the time. It grows slowly and falls at once.
+void Attempt::Adapt_interval(double taken, std::int64_t work) {
+  constexpr double limit_parts = 50;
+  constexpr double least = 5e-6;
+  constexpr double most = 1e-4;
+  constexpr std::int64_t longest = usual_work << 14U;
+  const double target = std::clamp(limit_->seconds / limit_parts, least, most);
+  const double fitting = static_cast<double>(work) * target / std::max(taken, target / 2);
+  const auto most_work = static_cast<double>(std::min(interval_ * 2, longest));
+  interval_ =
+      static_cast<std::int64_t>(std::clamp(fitting, static_cast<double>(usual_work), most_work));
 }
 
 }  // namespace gns

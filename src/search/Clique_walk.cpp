@@ -89,12 +89,13 @@ class Clique_walk::Descent {
       if constexpr (directed) below[w] &= ~cycles_.Closing(w);
       count += static_cast<std::size_t>(std::popcount(below[w]));
     }
+    const std::size_t start = memory_.excluded_.size();
+    attempt_.Add_work((start - memory_.excluded_starts_[level] + count) * Words());
     if (count <= 1) {
       Try_leaf(level, next, count == 1 ? First_bit(below, Words()) : next);
       return false;
     }
 
-    const std::size_t start = memory_.excluded_.size();
     for (std::size_t i = memory_.excluded_starts_[level]; i < start; ++i) {
       const std::uint32_t row = memory_.excluded_[i];
       if (Can_join(row, next)) memory_.excluded_.push_back(row);

@@ -19,7 +19,9 @@ std::span<const std::uint32_t> Gap_order::Sort(const Local_graph& local, Attempt
     With_row_length(local.words,
                     [&](auto fixed_words) { Trace<fixed_words()>(local, cliques.data() + at); });
     constexpr std::size_t steps_of_three = 2;
-    const bool had_candidates = steps_.size() - starts_.back() > steps_of_three;
+    const std::size_t steps = steps_.size() - starts_.back();
+    const bool had_candidates = steps > steps_of_three;
+    attempt.Add_work(steps * steps * local.words);
     starts_.push_back(steps_.size());
     if (had_candidates && attempt.Runs_over()) return places_;
   }

@@ -10,6 +10,7 @@
 #include "Temp_dir.h"
 #include "control/Clique_find_ext_cont.h"
 #include "engine/Find_coms.h"
+#include "engine/Run_stages.h"
 #include "files/Unfinished_mark.h"
 #include "foundation/File_faults.h"
 
@@ -52,6 +53,36 @@ TEST(WholeRun, LeavesTheExpectedDirectory) {
     EXPECT_EQ(Read_state_report(), " done.\n");
     EXPECT_EQ(Contents_of(temp.Path("new")).size(), Contents_of(out).size());  // no mark
   }
+}
+
+/// Three cliques are found; then five nodes that are all linked run over their time, and again
+/// after node E, which waits among them, has finished. At k=3 their community holds an exact clique
+/// as well, and at k=5 they have none.
+TEST(WholeRun, CoversHardNodesByApproximateCliques) {
+  const Temp_dir temp;
+  Run_parameters parameters;
+  parameters.input_file = std::string(VORLANE_EXPECTED_DIR) + "/time_limit/links.txt";
+  parameters.output_dir = temp.Path("out");
+  parameters.use_time_limit = true;
+  parameters.time_limit = 0.25;
+  Run_start start = Start_of_run(parameters);
+  start.clock = [time = 0.0]() mutable {
+    const std::string report = Read_state_report();
+    const bool hard = report.find("\n 6 of 12 ") != std::string::npos ||
+                      report.find("\n 5 of 12 ") != std::string::npos;
+    return time += hard ? 0.5 : 0.0;
+  };
+  Open_results(start);
+  Link_map links;
+  Read_links(start, links);
+  bool approximation_needed = false;
+  Run_summary summary;
+  Run_from_links(start, links, approximation_needed, summary);
+  EXPECT_TRUE(approximation_needed);
+  EXPECT_EQ(summary.exact_cliques, 3U);
+  EXPECT_EQ(summary.approximate_cliques, 5U);
+  EXPECT_EQ(Contents_of(parameters.output_dir),
+            Expected_files("time_limit", parameters.input_file));
 }
 
 /// A run on a small network of its own.
