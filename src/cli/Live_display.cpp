@@ -24,8 +24,12 @@ bool Can_rewrite() {
 /// What is shown, line by line: the place for further figures.
 std::vector<std::string> Display_lines(const Stopwatch& watch) {
   std::vector<std::string> lines = State_lines();
-  const std::uint64_t cliques = external_control::PROGRESS.cliques_found.load();
-  if (cliques > 0) lines.push_back("cliques so far: " + std::to_string(cliques));
+  const external_control::Progress& progress = external_control::PROGRESS;
+  const auto add_count = [&lines](const char* what, std::uint64_t count) {
+    if (count > 0) lines.push_back(what + (" so far: " + std::to_string(count)));
+  };
+  add_count("cliques", progress.cliques_found.load());
+  add_count("k-cliques", progress.k_cliques_found.load());
   lines.push_back(Resources_used(watch));
   return lines;
 }

@@ -70,8 +70,15 @@ class Program_run {
     stage.resize(std::max<std::size_t>(stage.size(), 1));
     std::cerr << "vorlane: memory ran out";
     if (memory_limit_ > 0) std::cerr << " (limit " << In_megabytes(memory_limit_) << ")";
+    std::cerr << " in the stage \"" << stage.front() << "\", with ";
+    const std::uint64_t k_cliques = external_control::PROGRESS.k_cliques_found.load();
+    if (k_cliques > 0) {
+      std::cerr << k_cliques << " k-cliques found.\n"
+                << "A higher intensity threshold (-I) leaves fewer k-cliques, and so does, where\n"
+                   "that is possible, a single k (-k) near 3 or near the largest clique.\n";
+      return;
+    }
     std::cerr
-        << " in the stage \"" << stage.front() << "\", with "
         << external_control::PROGRESS.cliques_found.load()
         << " cliques found.\n"
            "A link weight threshold (-w, -W) leaves fewer cliques, and so does a small time limit\n"

@@ -45,7 +45,6 @@ void Generate_k_cls_from_cls_ec(const Weighted_cliques& cliques, K_cliques& k_cl
   const std::vector<std::uint32_t> done_behind = Cliques_done_behind(cliques, k);
   K_clique_search search(cliques, k, intensity_threshold);
   for (Node_index root = 1; root <= cliques.Node_count(); ++root) {
-    external_control::Check_for_stop_signal();
     search.Search_from(root, k_cliques);
     if (k_cliques.size() > std::numeric_limits<K_clique_index>::max())
       throw Xerror_msg("ERROR: there are more k-cliques than can be numbered.\n");

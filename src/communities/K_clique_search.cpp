@@ -11,8 +11,6 @@ namespace gns {
 
 namespace {
 
-using external_control::Check_for_stop_signal;
-
 /// More than two sums of the logarithms of a k-clique can differ by rounding, in whatever order and
 /// grouping they are added up, and a few operations on top.
 double Rounding_margin(std::uint32_t k, double largest_log) {
@@ -36,6 +34,7 @@ K_clique_search::K_clique_search(const Weighted_cliques& cliques, std::uint32_t 
       k_clique_(k) {}
 
 void K_clique_search::Search_from(Node_index root, K_cliques& found) {
+  Tell_and_poll(found);
   if (!(threshold_ < std::numeric_limits<double>::infinity())) return;
   k_clique_[0] = root;
   Collect_candidates(root);
@@ -43,7 +42,7 @@ void K_clique_search::Search_from(Node_index root, K_cliques& found) {
   Link_candidates();
   if (!Begin_level(0, found)) return;
   for (std::uint32_t depth = 0;;) {
-    Check_for_stop_signal();
+    Tell_and_poll(found);
     Level& level = levels_[depth];
     const std::uint32_t missing = k_ - 1 - depth;
     if (missing > 1 && level.candidates.size() - level.next >= missing) {
@@ -54,6 +53,12 @@ void K_clique_search::Search_from(Node_index root, K_cliques& found) {
     if (depth == 0) return;
     --depth;
   }
+}
+
+void K_clique_search::Tell_and_poll(const K_cliques& found) const {
+  external_control::PROGRESS.k_cliques_found.store(found.size(), std::memory_order_relaxed);
+  external_control::PROGRESS.k_cliques_visited.store(visited_, std::memory_order_relaxed);
+  external_control::Check_for_stop_signal();
 }
 
 void K_clique_search::Collect_candidates(Node_index root) {
@@ -117,6 +122,7 @@ bool K_clique_search::Descend(std::uint32_t depth, K_cliques& found) {
   Level& level = levels_[depth];
   Level& below = levels_[depth + 1];
   const std::size_t at = level.next++;
+  ++visited_;
   const std::uint32_t node = level.candidates.nodes[at];
   below.sum = level.sum + level.candidates.sums[at];
   below.all_pass = level.all_pass;
@@ -148,6 +154,7 @@ void K_clique_search::Extend(const Level& level, std::size_t at, Candidates& can
 
 /// Completes a partial k-clique that lacks one node.
 void K_clique_search::Take_each(const Level& level, K_cliques& found) {
+  visited_ += level.candidates.size();
   for (std::size_t i = 0; i < level.candidates.size(); ++i) {
     k_clique_.back() = names_[level.candidates.nodes[i]];
     if (level.all_pass || Passes(level.sum + level.candidates.sums[i])) found.push_back(k_clique_);
@@ -161,7 +168,8 @@ void K_clique_search::Take_all_subsets(const Level& level, std::uint32_t depth, 
   subset_.resize(missing);
   std::iota(subset_.begin(), subset_.end(), 0);
   for (;;) {
-    Check_for_stop_signal();
+    Tell_and_poll(found);
+    ++visited_;
     for (std::size_t i = 0; i < missing; ++i) k_clique_[depth + 1 + i] = names_[nodes[subset_[i]]];
     found.push_back(k_clique_);
     std::size_t last = missing;

@@ -24,7 +24,8 @@ class K_clique_search {
   /// `cliques` must outlive the object; `k` is at least 3.
   K_clique_search(const Weighted_cliques& cliques, std::uint32_t k, double intensity_threshold);
 
-  /// Appends the k-cliques whose smallest node is `root`. Polls the stop flag at each step.
+  /// Appends the k-cliques whose smallest node is `root`. Polls the stop flag at each step, and
+  /// tells there how many k-cliques have been found and visited.
   void Search_from(Node_index root, K_cliques& found);
 
  private:
@@ -37,6 +38,7 @@ class K_clique_search {
     bool all_pass = false;
   };
 
+  void Tell_and_poll(const K_cliques& found) const;
   void Collect_candidates(Node_index root);
   void Link_candidates();
   void Note_range(std::span<const double> logs);
@@ -61,6 +63,7 @@ class K_clique_search {
   std::vector<std::uint32_t> number_of_;  ///< per node: its position in names_ + 1, or 0
   double highest_log_ = 0.0;              ///< of the links at the root and in local_
   bool bounded_ = false;                  ///< all of them are finite
+  std::uint64_t visited_ = 0;             ///< whole k-cliques and parts of them
   std::vector<Level> levels_;             ///< [d]: d + 1 nodes are chosen
   std::vector<Node_index> k_clique_;
   std::vector<std::uint32_t> subset_;
