@@ -45,15 +45,21 @@ def succeed(*command):
     return run.stdout
 
 
-def build_tools():
-    """Builds the program and the C tools of the bench, installing what they need."""
-    succeed(ROOT / "scripts" / "setup", "--bench")
+def build_program():
+    """Builds the program and the tool that measures it, installing what they need."""
+    succeed(ROOT / "scripts" / "setup", "--run")
     succeed(ROOT / "scripts" / "run", "--version")
     TOOLS.mkdir(exist_ok=True)
+    succeed("gcc", "-O3", "-o", TOOLS / "measure", ROOT / "bench" / "measure.c")
+
+
+def build_tools():
+    """Builds the program and its rival too."""
+    succeed(ROOT / "scripts" / "setup", "--bench")
+    build_program()
     igraph = succeed("pkg-config", "--cflags", "--libs", "igraph").split()
-    for source, flags in (("measure.c", []), ("rivals/maximal_cliques.c", igraph)):
-        source = ROOT / "bench" / source
-        succeed("gcc", "-O3", "-o", TOOLS / source.stem, source, *flags)
+    succeed("gcc", "-O3", "-o", TOOLS / "maximal_cliques",
+            ROOT / "bench" / "rivals" / "maximal_cliques.c", *igraph)
 
 
 def measure(command, accepted=(0,)):
