@@ -145,18 +145,17 @@ void Intensity_coms_from_k_cliques_ec(const K_cliques& k_cliques, Row_array<Node
                                       Row_array<K_clique_index>& com_k_cliques,
                                       const Link_logs& logs, double intensity_threshold) {
   constexpr unsigned digits = 6;
+  coms.clear();
+  com_k_cliques.clear();
+  if (k_cliques.empty()) return;
   const auto progress = std::make_shared<Progress_report>(
       " Extracting communities from the k-cliques at k=" + std::to_string(k_cliques.K()) + ",",
       " and a link weight intensity threshlod I=" + double2string(intensity_threshold, digits) +
           ":",
       "k-cliques", static_cast<std::uint32_t>(k_cliques.size()));
-  if (!k_cliques.empty()) external_control::CURRENT_STATE_REPORT = progress;
+  external_control::CURRENT_STATE_REPORT = progress;
   K_clique_joiner joiner(k_cliques, logs, intensity_threshold);
-  K_clique_groups& groups = joiner.Join(*progress);
-
-  coms.clear();
-  com_k_cliques.clear();
-  Collect_k_cliques(k_cliques.size(), groups, com_k_cliques);
+  Collect_k_cliques(k_cliques.size(), joiner.Join(*progress), com_k_cliques);
   std::vector<bool> met;
   for (std::size_t com = 0; com < com_k_cliques.size(); ++com)
     Append_members(k_cliques, com_k_cliques[com], met, coms);

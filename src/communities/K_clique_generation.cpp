@@ -27,20 +27,17 @@ std::vector<std::uint32_t> Cliques_done_behind(const Weighted_cliques& cliques, 
   return done_behind;
 }
 
-}  // namespace
-
-void Generate_k_cls_from_cls_ec(const Weighted_cliques& cliques, K_cliques& k_cliques,
-                                std::uint32_t k, double intensity_threshold) {
-  using external_control::CURRENT_STATE_REPORT;
+/// The search for all k-cliques, with the progress report of the stage.
+void Search(const Weighted_cliques& cliques, K_cliques& k_cliques, double intensity_threshold) {
   constexpr unsigned digits = 6;
-  k_cliques = K_cliques(k);
+  const std::uint32_t k = k_cliques.K();
   auto remaining = static_cast<std::uint32_t>(cliques.Cliques().size());
   const auto progress = std::make_shared<Progress_report>(
       " Generating k-cliques at k=" + std::to_string(k) + ",",
       " and a link weight intensity threshold I=" + double2string(intensity_threshold, digits) +
           ":",
       "cliques", remaining);
-  if (cliques.Largest_clique() >= k) CURRENT_STATE_REPORT = progress;
+  external_control::CURRENT_STATE_REPORT = progress;
 
   const std::vector<std::uint32_t> done_behind = Cliques_done_behind(cliques, k);
   K_clique_search search(cliques, k, intensity_threshold);
@@ -51,10 +48,18 @@ void Generate_k_cls_from_cls_ec(const Weighted_cliques& cliques, K_cliques& k_cl
     remaining -= done_behind[root];
     progress->Set_remaining(remaining);
   }
+}
+
+}  // namespace
+
+void Generate_k_cls_from_cls_ec(const Weighted_cliques& cliques, K_cliques& k_cliques,
+                                std::uint32_t k, double intensity_threshold) {
+  k_cliques = K_cliques(k);
+  if (k <= cliques.Largest_clique()) Search(cliques, k_cliques, intensity_threshold);
   std::ostringstream report;
   Clique_find_report_sub_routines::Report_clique_search_end(
       " k-cliques", static_cast<std::uint32_t>(k_cliques.size()), report);
-  CURRENT_STATE_REPORT = report.str();
+  external_control::CURRENT_STATE_REPORT = report.str();
 }
 
 }  // namespace gns

@@ -133,9 +133,14 @@ TEST_F(ThreadsKCliques, ReportAndStop) {
   Row_array<Node_index> coms;
   Row_array<K_clique_index> com_k_cliques;
 
-  Generate_k_cls_from_cls_ec(cliques, k_cliques, 41, 0.3);
-  EXPECT_EQ(Read_state_report(),
-            "_______________________________\n Altogether 0  k-cliques found.\n");
+  for (const std::uint32_t k : {41U, 4294967295U}) {
+    external_control::CURRENT_STATE_REPORT = std::string();
+    Generate_k_cls_from_cls_ec(cliques, k_cliques, k, 0.3);
+    Intensity_coms_from_k_cliques_ec(k_cliques, coms, com_k_cliques, cliques.Logs(), 0.3);
+    EXPECT_EQ(Read_state_report(),
+              "_______________________________\n Altogether 0  k-cliques found.\n");
+    EXPECT_TRUE(coms.empty());
+  }
   Generate_k_cls_from_cls_ec(cliques, k_cliques, 39, 0.3);
   Intensity_coms_from_k_cliques_ec(k_cliques, coms, com_k_cliques, cliques.Logs(), 0.3);
   EXPECT_EQ(Read_state_report(),
