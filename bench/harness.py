@@ -74,10 +74,10 @@ def measure(command, accepted=(0,)):
 
 
 def measure_program(network, folder, *switches):
-    """Runs the program into a directory under folder, which is deleted again."""
+    """Runs the program into a directory under folder, which stays until the folder goes: some file
+    systems are slow to make files where many have just been deleted."""
     results = Path(tempfile.mkdtemp(dir=folder)) / "results"
     usage = measure([PROGRAM, "-i", network.path, "-o", results, *switches])
-    shutil.rmtree(results.parent)
     return usage
 
 

@@ -19,11 +19,13 @@ constexpr unsigned half = 32;  ///< bits of the lower half of a choice
 
 constexpr std::uint32_t List_of(std::uint64_t choice) { return static_cast<std::uint32_t>(choice); }
 
-/// Entries to be read, with the price of coming to a list in entries.
+/// What coming to a list costs, in entries read.
+constexpr std::uint64_t price_of_a_list = 64;
+
+/// Entries to be read, with the price of coming to their lists.
 std::uint64_t Reading_cost(std::span<const std::uint64_t> choices) {
-  constexpr std::uint64_t price_of_a_list = 16;
-  std::uint64_t cost = 0;
-  for (const std::uint64_t choice : choices) cost += (choice >> half) + price_of_a_list;
+  std::uint64_t cost = choices.size() * price_of_a_list;
+  for (const std::uint64_t choice : choices) cost += choice >> half;
   return cost;
 }
 
@@ -182,12 +184,16 @@ std::span<const Unclaimed_cliques::Choice> Unclaimed_cliques::Choose_lists(Cliqu
   fresh_.resize(choices_.size());
   Collect_choices(clique);
   if (choices_.size() < overlap || fresh_.empty()) return {};
+  std::span<const Choice> chosen = fresh_;
   const std::size_t lists = choices_.size() - overlap + 1;
-  const auto first = choices_.begin();
-  if (lists < choices_.size())
-    std::nth_element(first, first + static_cast<std::ptrdiff_t>(lists - 1), choices_.end());
-  std::span<const Choice> chosen(choices_.data(), lists);
-  if (Reading_cost(fresh_) < Reading_cost(chosen)) chosen = fresh_;
+  const std::uint64_t fresh_cost = Reading_cost(fresh_);
+  if (fresh_cost > lists * price_of_a_list) {
+    const auto first = choices_.begin();
+    if (lists < choices_.size())
+      std::nth_element(first, first + static_cast<std::ptrdiff_t>(lists - 1), choices_.end());
+    const std::span<const Choice> shortest(choices_.data(), lists);
+    if (Reading_cost(shortest) < fresh_cost) chosen = shortest;
+  }
   chosen = Choose_among_all(clique, overlap, chosen);
   for (const Choice choice : chosen)
     __builtin_prefetch(list_signatures_.data() + lists_[List_of(choice)].start);

@@ -3,7 +3,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <utility>
@@ -20,22 +19,11 @@ Text_writer::Text_writer(std::string path) : path_(std::move(path)), buffer_(new
 
 Text_writer::~Text_writer() { Close(); }
 
-Text_writer& Text_writer::operator<<(std::string_view text) {
-  if (text.size() > capacity - used_) {
-    Flush();
-    if (text.size() > capacity) {
-      Write_block(text.data(), text.size());
-      return *this;
-    }
-  }
-  std::copy_n(text.data(), text.size(), buffer_.get() + used_);
-  used_ += text.size();
-  return *this;
-}
-
-Text_writer& Text_writer::operator<<(char c) {
-  if (used_ == capacity) Flush();
-  buffer_[used_++] = c;
+/// Writes a text for which the block has no room left.
+Text_writer& Text_writer::Write_across(std::string_view text) {
+  Flush();
+  if (text.size() <= capacity) return *this << text;
+  Write_block(text.data(), text.size());
   return *this;
 }
 

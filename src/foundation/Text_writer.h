@@ -1,7 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <concepts>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -19,8 +21,17 @@ class Text_writer {
   Text_writer(const Text_writer&) = delete;
   Text_writer& operator=(const Text_writer&) = delete;
 
-  Text_writer& operator<<(std::string_view text);
-  Text_writer& operator<<(char c);
+  Text_writer& operator<<(std::string_view text) {
+    if (text.size() > capacity - used_) return Write_across(text);
+    std::copy_n(text.data(), text.size(), buffer_.get() + used_);
+    used_ += text.size();
+    return *this;
+  }
+  Text_writer& operator<<(char c) {
+    if (used_ == capacity) Flush();
+    buffer_[used_++] = c;
+    return *this;
+  }
   /// Plain decimal digits.
   template <std::integral Integer>
   Text_writer& operator<<(Integer value) {
@@ -33,9 +44,10 @@ class Text_writer {
   bool Close();
 
  private:
-  static constexpr std::size_t capacity = std::size_t{1} << 17U;
+  static constexpr std::size_t capacity = std::size_t{1} << 16U;
   static constexpr std::size_t longest_number = 32;
 
+  Text_writer& Write_across(std::string_view text);
   Text_writer& Write_integer(std::int64_t value);
   void Write_block(const char* data, std::size_t size);
   void Flush();

@@ -57,7 +57,7 @@ void Convert_s_links(Index_links& index_links, Node_names& node_names, const Lin
     if (links.Has_weights()) weights.push_back(links.Weight(i));
   }
 
-  node_names = Node_names(links.Names(), numbering.Take_names());
+  node_names = Node_names(*links.Names(), numbering.Take_names());
   Sort_pairs(keys, weights, node_names.size() + 1);
   Fold_equal_pairs(keys, weights);
   index_links = Index_links(keys, std::move(weights), node_names.size());

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <memory>
+#include <cstdint>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "graph/Name_table.h"
@@ -10,23 +9,25 @@
 
 namespace gns {
 
-/// Node index -> node name: the only place where the names survive the conversion of links.
+/// Node index -> node name: the only place where the names survive the conversion of links. Held in
+/// the order of the nodes, as the writers go through them.
 class Node_names {
  public:
   Node_names() = default;
-  /// `numbers[i]` is the number in `table` of the name of node i + 1.
-  Node_names(std::shared_ptr<const Name_table> table, std::vector<std::uint32_t> numbers)
-      : table_(std::move(table)), numbers_(std::move(numbers)) {}
+  /// `numbers[i]` is the number in `names` of the name of node i + 1.
+  Node_names(const Name_table& names, const std::vector<std::uint32_t>& numbers) {
+    names_.Reserve(static_cast<std::uint32_t>(numbers.size()), names.Bytes());
+    for (const std::uint32_t number : numbers) names_.Add(names[number]);
+  }
 
   /// The name of a node; the empty text for an index without one.
   [[nodiscard]] std::string_view operator[](Node_index node) const {
-    return node - 1 < numbers_.size() ? (*table_)[numbers_[node - 1]] : std::string_view();
+    return node - 1 < names_.size() ? names_[node - 1] : std::string_view();
   }
-  [[nodiscard]] Node_index size() const { return static_cast<Node_index>(numbers_.size()); }
+  [[nodiscard]] Node_index size() const { return names_.size(); }
 
  private:
-  std::shared_ptr<const Name_table> table_;
-  std::vector<std::uint32_t> numbers_;
+  Name_table names_;
 };
 
 }  // namespace gns

@@ -34,7 +34,7 @@ Node_names Letters() {
   std::vector<std::uint32_t> numbers;
   for (const char* name : {"a", "b", "c", "d", "e", "f", "g", "h"})
     numbers.push_back(table.Add(name));
-  return {std::make_shared<const Name_table>(table), numbers};
+  return {table, numbers};
 }
 
 /// Two exact communities and an approximate one, as far as the counts say so.
