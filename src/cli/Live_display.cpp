@@ -28,6 +28,10 @@ std::vector<std::string> Display_lines(const Stopwatch& watch) {
   const auto add_count = [&lines](const char* what, std::uint64_t count) {
     if (count > 0) lines.push_back(what + (" so far: " + std::to_string(count)));
   };
+  const std::uint64_t failed = progress.failed_in_a_row.load();
+  if (failed > 0)
+    lines.push_back("nodes left: " + std::to_string(progress.nodes_left.load()) +
+                    ", failed in a row: " + std::to_string(failed));
   add_count("cliques", progress.cliques_found.load());
   add_count("k-cliques", progress.k_cliques_found.load());
   lines.push_back(Resources_used(watch));

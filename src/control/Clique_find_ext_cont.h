@@ -42,6 +42,8 @@ extern std::atomic<bool> STOP_INSIDE_LONG_STAGES;
 /// How far the run has come, in figures; each is kept by its stage and read from any thread.
 struct Progress {
   std::atomic<std::uint64_t> cliques_found = 0;
+  std::atomic<std::uint64_t> nodes_left = 0;         ///< of a clique search, the one in hand too
+  std::atomic<std::uint64_t> failed_in_a_row = 0;    ///< attempts of a time-limited search
   std::atomic<std::uint64_t> k_cliques_found = 0;    ///< at the k at hand
   std::atomic<std::uint64_t> k_cliques_visited = 0;  ///< whole ones and parts of them
 };

@@ -54,6 +54,9 @@ class Node_queue {
 
   void Note_success() { skipped_ = 0; }
 
+  /// Attempts that have failed in a row.
+  [[nodiscard]] std::uint32_t Skipped() const { return skipped_; }
+
   void Put_back(Node_index node) {
     ++skipped_;
     waiting_.push_back(node);
@@ -92,6 +95,13 @@ void Report_end(const Search_kind& kind, const Time_limit* limit, bool all_solve
   });
 }
 
+void Note_progress(std::size_t cliques, std::uint32_t nodes_left, std::uint32_t failed_in_a_row) {
+  external_control::Progress& progress = external_control::PROGRESS;
+  progress.cliques_found.store(cliques, std::memory_order_relaxed);
+  progress.nodes_left.store(nodes_left, std::memory_order_relaxed);
+  progress.failed_in_a_row.store(failed_in_a_row, std::memory_order_relaxed);
+}
+
 }  // namespace
 
 std::vector<Node_index> Search_queue(Node_search& search, const Node_order& order,
@@ -114,9 +124,10 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
       hard_cliques.Take_from(cliques, recorded);
       queue.Put_back(node);
     }
-    external_control::PROGRESS.cliques_found.store(cliques.size(), std::memory_order_relaxed);
+    Note_progress(cliques.size(), queue.Size(), queue.Skipped());
   }
   Attempt::Check_for_stop();
+  Note_progress(cliques.size(), 0, 0);
   std::vector<Node_index> left = queue.Left();
   if (!left.empty()) hard_cliques.Record(cliques);
   Report_end(kind, limit, left.empty(), cliques);
