@@ -18,9 +18,7 @@ Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
   Node_order order;
   Sort_dir_vtx_map(order, dir_vtx_map, "Neighs");
   Directed_node_search search(dir_vtx_map, order);
-  const std::vector<Node_index> left = Search_queue(search, order, kind, limit, cliques);
-  overlap_matrix = Overlap_matrix(cliques);
-  return Spanned_by(left, dir_vtx_map.Rows());
+  return Search_all(search, dir_vtx_map.Rows(), order, kind, limit, cliques, overlap_matrix);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <deque>
 #include <memory>
 #include <sstream>
+#include <utility>
 
 #include "control/Clique_find_ext_cont.h"
 #include "foundation/My_double2string.h"
@@ -132,6 +133,14 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
   if (!left.empty()) hard_cliques.Record(cliques);
   Report_end(kind, limit, left.empty(), cliques);
   return left;
+}
+
+Left_map Search_all(Node_search& search, const Adjacency& neighs, const Node_order& order,
+                    const Search_kind& kind, const Time_limit* limit, Clique_vector& cliques,
+                    Overlap_matrix& overlap_matrix) {
+  std::vector<Node_index> left = Search_queue(search, order, kind, limit, cliques);
+  overlap_matrix = Overlap_matrix(cliques);
+  return Spanned_by(std::move(left), neighs);
 }
 
 }  // namespace gns

@@ -3,10 +3,13 @@
 #include <string>
 #include <vector>
 
+#include "graph/Adjacency.h"
 #include "graph/Node_order.h"
 #include "search/Attempt.h"
 #include "search/Clique_vector.h"
+#include "search/Left_map.h"
 #include "search/Node_search.h"
+#include "search/Overlap_matrix.h"
 
 namespace gns {
 
@@ -29,5 +32,11 @@ struct Search_kind {
 std::vector<Node_index> Search_queue(Node_search& search, const Node_order& order,
                                      const Search_kind& kind, const Time_limit* limit,
                                      Clique_vector& cliques);
+
+/// The whole of a search: yields what was given up as a subgraph of `neighs`, and makes the matrix
+/// a view of `cliques`.
+Left_map Search_all(Node_search& search, const Adjacency& neighs, const Node_order& order,
+                    const Search_kind& kind, const Time_limit* limit, Clique_vector& cliques,
+                    Overlap_matrix& overlap_matrix);
 
 }  // namespace gns

@@ -21,9 +21,7 @@ Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix, const Ve
   Node_order order;
   Sort_Vtx_map(order, vtx_map);
   Undirected_node_search search(vtx_map.Rows(), order);
-  const std::vector<Node_index> left = Search_queue(search, order, kind, limit, cliques);
-  overlap_matrix = Overlap_matrix(cliques);
-  return Spanned_by(left, vtx_map.Rows());
+  return Search_all(search, vtx_map.Rows(), order, kind, limit, cliques, overlap_matrix);
 }
 
 }  // namespace
