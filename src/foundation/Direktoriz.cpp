@@ -7,7 +7,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <string_view>
 
 #include "foundation/Dir_error.h"
 #include "foundation/Errors.h"
@@ -46,25 +45,15 @@ std::vector<std::string> Scan_dir(const std::string& path) {
   return names;
 }
 
-/// The type of something that was just found in the directory `path`.
-std::string Type_of_entry(const std::string& path, const std::string& name) {
-  std::string type;
-  bool empty = true;
-  std::string error_text;
-  if (!Is_there_such_path(path + "/" + name, type, empty, error_text)) {
-    throw Xerror_msg("ERROR: problem with " + name + " in List_dir():\n" + error_text);
-  }
-  return type;
-}
+/// `stat`, which looks at what a symbolic link points to, or `lstat`, which looks at the link.
+using Status_call = int (*)(const char*, struct stat*);
 
-}  // namespace
-
-bool Is_there_such_path(const std::string& path, std::string& type, bool& empty,
-                        std::string& error_text) {
+bool Examine(Status_call get_status, const std::string& path, std::string& type, bool& empty,
+             std::string& error_text) {
   empty = true;
   type = "other";
   struct stat status {};
-  if (stat(path.c_str(), &status) != 0) {
+  if (get_status(path.c_str(), &status) != 0) {
     error_text = Dir_error(errno);
     return false;
   }
@@ -76,6 +65,45 @@ bool Is_there_such_path(const std::string& path, std::string& type, bool& empty,
     empty = status.st_size == empty_dir_size;
   }
   return true;
+}
+
+/// The type of something that was just found in the directory `path`.
+std::string Type_of_entry(const std::string& path, const std::string& name,
+                          Status_call get_status) {
+  std::string type;
+  bool empty = true;
+  std::string error_text;
+  if (!Examine(get_status, path + "/" + name, type, empty, error_text)) {
+    throw Xerror_msg("ERROR: problem with " + name + " in List_dir():\n" + error_text);
+  }
+  return type;
+}
+
+/// What stands in a directory, sorted by name; `get_status` tells the types.
+std::vector<Dir_entry> Entries(const std::string& path, Status_call get_status) {
+  std::vector<Dir_entry> entries;
+  for (const std::string& name : Scan_dir(path)) {
+    if (name == "." || name == "..") continue;
+    entries.emplace_back(name, Type_of_entry(path, name, get_status));
+  }
+  return entries;
+}
+
+/// Throws if there is no directory at the path; yields whether it counts as empty.
+bool Check_listed_dir(const std::string& path) {
+  bool empty = true;
+  std::string error_text;
+  if (!Is_there_such_dir(path, empty, error_text)) {
+    throw Xerror_msg("ERROR: List_dir() called on " + path + " and\n" + error_text);
+  }
+  return empty;
+}
+
+}  // namespace
+
+bool Is_there_such_path(const std::string& path, std::string& type, bool& empty,
+                        std::string& error_text) {
+  return Examine(stat, path, type, empty, error_text);
 }
 
 bool Is_there_such_path(const std::string& path, std::string& error_text) {
@@ -110,18 +138,27 @@ bool Is_there_such_file(const std::string& path) {
 }
 
 std::vector<Dir_entry> List_dir(const std::string& path) {
-  bool empty = true;
-  std::string error_text;
-  if (!Is_there_such_dir(path, empty, error_text)) {
-    throw Xerror_msg("ERROR: List_dir() called on " + path + " and\n" + error_text);
-  }
-  if (empty) return {};
+  if (Check_listed_dir(path)) return {};
+  return Entries(path, stat);
+}
 
-  std::vector<Dir_entry> listing;
-  for (const std::string& name : Scan_dir(path)) {
-    if (name != "." && name != "..") listing.emplace_back(name, Type_of_entry(path, name));
+std::vector<Dir_entry> List_dir_rec(const std::string& path) {
+  Check_listed_dir(path);
+  const std::string top = path + "/";
+  // Found in the opposite order, each directory in front of its contents, and turned at the end.
+  std::vector<Dir_entry> tree;
+  std::vector<Dir_entry> waiting = Entries(path, lstat);
+  while (!waiting.empty()) {
+    tree.push_back(std::move(waiting.back()));
+    waiting.pop_back();
+    if (tree.back().second != "dir") continue;
+    const std::string dir = tree.back().first + "/";
+    std::vector<Dir_entry> inside = Entries(top + tree.back().first, lstat);
+    std::ranges::reverse(inside);
+    for (const auto& [name, type] : inside) waiting.emplace_back(dir + name, type);
   }
-  return listing;
+  std::ranges::reverse(tree);
+  return tree;
 }
 
 void Rename_the_path(const std::string& old_path, const std::string& new_path) {

@@ -7,7 +7,8 @@
 namespace gns {
 
 /// Operations on paths. Paths are used unchanged: a relative one refers to the working directory.
-/// A symbolic link counts as what it points to. Every failure is thrown as `Xerror_msg`.
+/// A symbolic link counts as what it points to, unless told otherwise. Every failure is thrown as
+/// `Xerror_msg`.
 
 /// Name and type of something in a directory.
 using Dir_entry = std::pair<std::string, std::string>;
@@ -31,6 +32,12 @@ bool Is_there_such_file(const std::string& path);
 /// What stands in a directory, without "." and "..", sorted by name. A directory that counts as
 /// empty isn't opened.
 std::vector<Dir_entry> List_dir(const std::string& path);
+
+/// The whole tree below a directory, with names relative to `path`. What stands in the directory
+/// itself is sorted by name, what stands further below in the opposite order, and everything inside
+/// a directory comes in front of the directory. Every directory is opened, also one that counts as
+/// empty. A symbolic link in the tree is "other", wherever it points to, and is never followed.
+std::vector<Dir_entry> List_dir_rec(const std::string& path);
 
 void Rename_the_path(const std::string& old_path, const std::string& new_path);
 

@@ -5,27 +5,17 @@
 
 #include <cerrno>
 #include <filesystem>
-#include <functional>
 #include <vector>
 
+#include "Message_of.h"
 #include "Temp_dir.h"
 #include "foundation/Dir_error.h"
-#include "foundation/Errors.h"
 #include "foundation/Total_path.h"
 
 namespace gns {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string Message_of(const std::function<void()>& operation) {
-  try {
-    operation();
-  } catch (const Xerror_msg& error) {
-    return error.what();
-  }
-  return "nothing was thrown";
-}
 
 TEST(PathTests, TypeAndEmptiness) {
   const Temp_dir temp;
@@ -92,6 +82,24 @@ TEST(ListDir, Failures) {
   fs::create_symlink(temp.Path("nowhere"), temp.Path("dangling"));
   EXPECT_EQ(Message_of([&] { List_dir(temp.Path()); }),
             "ERROR: problem with dangling in List_dir():\n" + Dir_error(ENOENT));
+}
+
+TEST(ListDirRec, ContentsInFrontOfTheirDirectory) {
+  const Temp_dir temp;
+  for (const char* dir : {"d/e", "z"}) Make_dir(temp.Path(dir));
+  for (const char* name : {"a", "d/a", "d/e/x", "d/e/y", "d/f"}) temp.Write(name, "");
+  fs::create_directory_symlink(temp.Path(), temp.Path("d/g"));
+  fs::create_symlink(temp.Path("nowhere"), temp.Path("z/dangling"));
+  EXPECT_EQ(List_dir_rec(temp.Path()), (std::vector<Dir_entry>{{"a", "file"},
+                                                               {"d/g", "other"},
+                                                               {"d/f", "file"},
+                                                               {"d/e/y", "file"},
+                                                               {"d/e/x", "file"},
+                                                               {"d/e", "dir"},
+                                                               {"d/a", "file"},
+                                                               {"d", "dir"},
+                                                               {"z/dangling", "other"},
+                                                               {"z", "dir"}}));
 }
 
 TEST(Renaming, AutoTakesTheFirstFreeNumber) {
