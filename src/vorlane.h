@@ -16,6 +16,7 @@
 #include "foundation/My_double2string.h"
 #include "foundation/My_int2string.h"
 #include "foundation/My_string_to_d.h"
+#include "foundation/Renaming.h"
 #include "foundation/Text_fields.h"
 #include "foundation/Total_path.h"
 
