@@ -8,7 +8,9 @@
 /// other threads while a run goes on; one run at a time per process.
 
 // foundation: errors, text and numbers, paths
+#include "foundation/Deleting.h"
 #include "foundation/Dir_error.h"
+#include "foundation/Dir_prepare.h"
 #include "foundation/Direktoriz.h"
 #include "foundation/Errors.h"
 #include "foundation/File_faults.h"

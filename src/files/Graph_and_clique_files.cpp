@@ -3,7 +3,7 @@
 #include "control/Clique_find_ext_cont.h"
 #include "files/Result_lines.h"
 #include "files/Results_names.h"
-#include "foundation/Direktoriz.h"
+#include "foundation/Dir_prepare.h"
 #include "foundation/Text_writer.h"
 
 namespace gns {

@@ -1,6 +1,7 @@
 #include "files/Results_directory.h"
 
 #include "files/Results_names.h"
+#include "foundation/Dir_prepare.h"
 #include "foundation/Direktoriz.h"
 #include "foundation/Errors.h"
 #include "foundation/My_double2string.h"

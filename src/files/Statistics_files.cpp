@@ -1,7 +1,7 @@
 #include "files/Statistics_files.h"
 
 #include "files/Results_names.h"
-#include "foundation/Direktoriz.h"
+#include "foundation/Dir_prepare.h"
 #include "foundation/Text_writer.h"
 
 namespace gns {

@@ -176,18 +176,6 @@ void Rename_auto(const std::string& path) {
   Rename_the_path(path, candidate);
 }
 
-void Dir_prepare(const std::string& path, const std::string& flag) {
-  if (flag != "keep") {
-    throw Xerror_msg("ERROR: Dir_prepare() called with unknown flag '" + flag + "'");
-  }
-  if (!Is_there_such_path(path)) {
-    Make_dir(path);
-  } else if (!Is_there_such_dir(path)) {
-    Rename_auto(path);
-    Make_dir(path);
-  }
-}
-
 void Make_dir(const std::string& path) {
   for (std::size_t piece_end = 0; piece_end < path.size();) {
     piece_end = std::min(path.find('/', piece_end), path.size() - 1) + 1;

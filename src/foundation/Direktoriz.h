@@ -44,10 +44,6 @@ void Rename_the_path(const std::string& old_path, const std::string& new_path);
 /// Moves a path aside: its new name is the first of path1, path2, ... that doesn't exist.
 void Rename_auto(const std::string& path);
 
-/// Makes sure that the path is a directory. The flag "keep" leaves a directory with its contents
-/// alone and moves anything else aside.
-void Dir_prepare(const std::string& path, const std::string& flag);
-
 /// Makes a directory with all its missing parents.
 void Make_dir(const std::string& path);
 

@@ -10,6 +10,7 @@
 #include "Message_of.h"
 #include "Temp_dir.h"
 #include "foundation/Dir_error.h"
+#include "foundation/Dir_prepare.h"
 #include "foundation/Total_path.h"
 
 namespace gns {
