@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <system_error>
@@ -15,19 +16,30 @@ namespace gns {
 
 namespace {
 
-bool Is_directory(int file) {
-  struct stat status = {};
-  return ::fstat(file, &status) == 0 && S_ISDIR(status.st_mode);
+constexpr std::size_t largest_first_block = std::size_t{1} << 18U;
+constexpr std::size_t smallest_block = std::size_t{1} << 12U;
+
+/// Opens for reading; -1 if there is nothing that `source` admits. To open a pipe that nobody
+/// writes to must not block where pipes are refused.
+int Open_for_reading(const std::string& path, Line_reader::Source source, struct stat& status) {
+  const bool regular_only = source == Line_reader::Source::regular_file;
+  const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | (regular_only ? O_NONBLOCK : 0));
+  if (file < 0 || ::fstat(file, &status) != 0) return file;
+  if (regular_only ? S_ISREG(status.st_mode) : !S_ISDIR(status.st_mode)) return file;
+  ::close(file);
+  return -1;
 }
 
 }  // namespace
 
-Line_reader::Line_reader(std::string path)
-    : path_(std::move(path)), file_(::open(path_.c_str(), O_RDONLY | O_CLOEXEC)) {
-  constexpr std::size_t first_size = std::size_t{1} << 18U;
-  if (file_ >= 0 && Is_directory(file_)) ::close(std::exchange(file_, -1));
+Line_reader::Line_reader(std::string path, Source source, Character_set line_ends)
+    : path_(std::move(path)), line_ends_(line_ends) {
+  struct stat status = {};
+  file_ = Open_for_reading(path_, source, status);
   if (file_ < 0) throw Xep_file_not_found(path_);
-  buffer_.resize(first_size);
+  const auto file_size = static_cast<std::size_t>(std::max<off_t>(status.st_size, 0));
+  capacity_ = std::clamp(file_size + 1, smallest_block, largest_first_block);
+  buffer_ = std::make_unique_for_overwrite<char[]>(capacity_);
 }
 
 Line_reader::~Line_reader() { ::close(file_); }
@@ -35,13 +47,11 @@ Line_reader::~Line_reader() { ::close(file_); }
 bool Line_reader::Next(std::string_view& line) {
   std::size_t searched = start_;
   for (;;) {
-    const char* from = buffer_.data() + searched;
-    const void* newline = std::memchr(from, '\n', end_ - searched);
-    if (newline != nullptr) {
-      const auto length =
-          static_cast<std::size_t>(static_cast<const char*>(newline) - buffer_.data()) - start_;
-      line = {buffer_.data() + start_, length};
-      start_ += length + 1;
+    const char* const line_end = line_ends_.Find_in({buffer_.get() + searched, end_ - searched});
+    if (line_end != nullptr) {
+      line = {buffer_.get() + start_, line_end};
+      start_ += line.size() + 1;
+      terminated_ = true;
       return true;
     }
     const std::size_t held = end_ - start_;
@@ -49,20 +59,34 @@ bool Line_reader::Next(std::string_view& line) {
     searched = start_ + held;
   }
   if (start_ == end_) return false;
-  line = {buffer_.data() + start_, end_ - start_};
+  line = {buffer_.get() + start_, end_ - start_};
   start_ = end_;
+  terminated_ = false;
   return true;
 }
 
-/// Moves the unread bytes to the front and reads more behind them; false at the end of the file.
-bool Line_reader::Fill() {
-  std::memmove(buffer_.data(), buffer_.data() + start_, end_ - start_);
-  end_ -= start_;
+/// Moves the unread bytes to the front, of a larger buffer if they fill this one.
+void Line_reader::Make_room() {
+  if (start_ == 0 && end_ < capacity_) return;
+  const std::size_t held = end_ - start_;
+  if (held == capacity_) {
+    auto larger = std::make_unique_for_overwrite<char[]>(capacity_ * 2);
+    std::memcpy(larger.get(), buffer_.get(), held);
+    buffer_ = std::move(larger);
+    capacity_ *= 2;
+  } else {
+    std::memmove(buffer_.get(), buffer_.get() + start_, held);
+  }
   start_ = 0;
-  if (end_ == buffer_.size()) buffer_.resize(buffer_.size() * 2);
+  end_ = held;
+}
+
+/// Reads more behind the unread bytes; false at the end of the file.
+bool Line_reader::Fill() {
+  Make_room();
   ssize_t got = 0;
   do {
-    got = ::read(file_, buffer_.data() + end_, buffer_.size() - end_);
+    got = ::read(file_, buffer_.get() + end_, capacity_ - end_);
   } while (got < 0 && errno == EINTR);
   if (got < 0)
     throw Xerror_msg("ERROR: reading '" + path_ +

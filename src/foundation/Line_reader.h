@@ -1,33 +1,47 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
+
+#include "foundation/Character_set.h"
 
 namespace gns {
 
 /// Reads a text file line by line, in big blocks; lines may be of any length and hold any bytes.
 class Line_reader {
  public:
-  /// Throws Xep_file_not_found if the file can't be opened or is a directory.
-  explicit Line_reader(std::string path);
+  /// What may stand at the path. Pipes and devices can let a reader wait for ever.
+  enum class Source { any_file, regular_file };
+
+  /// Throws Xep_file_not_found if the file can't be opened, is a directory, or isn't what `source`
+  /// admits. A line ends at each of the characters `line_ends`.
+  explicit Line_reader(std::string path, Source source = Source::any_file,
+                       Character_set line_ends = {'\n'});
   ~Line_reader();
   Line_reader(const Line_reader&) = delete;
   Line_reader& operator=(const Line_reader&) = delete;
 
-  /// Takes the next line, without its newline; the last one may lack it. The text stays valid until
+  /// Takes the next line, without its end; the last one may lack it. The text stays valid until
   /// the next call. False at the end of the file; throws Xerror_msg if reading fails.
   bool Next(std::string_view& line);
 
+  /// True if the line that was taken last had its end.
+  [[nodiscard]] bool Terminated() const { return terminated_; }
+
  private:
+  void Make_room();
   bool Fill();
 
   std::string path_;
+  Character_set line_ends_;
   int file_;
-  std::vector<char> buffer_;
+  std::unique_ptr<char[]> buffer_;
+  std::size_t capacity_ = 0;
   std::size_t start_ = 0;  ///< unread bytes: start_ up to end_
   std::size_t end_ = 0;
+  bool terminated_ = false;
 };
 
 }  // namespace gns
