@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "foundation/My_string_to_d.h"
+#include "foundation/My_string_to_i.h"
 
 namespace gns {
 
@@ -13,6 +14,8 @@ namespace {
 /// Both integer forms: `lowest` is the smallest number that is accepted.
 template <typename Integer>
 bool Convert_integer(std::string_view text, double lowest, Integer& value, bool& suspicious) {
+  suspicious = false;
+  if (Convert_plain(text, value)) return true;
   // The first number that would be rounded out of the range.
   constexpr double too_high = std::numeric_limits<std::int32_t>::max() + 0.5;
   double number = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -9,11 +10,22 @@ namespace gns {
 constexpr bool Is_space(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
 /// Removes the white space at the front of `text`.
-void Skip_space(std::string_view& text);
+inline void Skip_space(std::string_view& text) {
+  std::size_t start = 0;
+  while (start < text.size() && Is_space(text[start])) ++start;
+  text.remove_prefix(start);
+}
 
 /// Takes the next white-space-delimited word off the front of `text`; empty if there is none.
 /// NUL bytes are ordinary characters.
-std::string_view Extract_word(std::string_view& text);
+inline std::string_view Extract_word(std::string_view& text) {
+  Skip_space(text);
+  std::size_t length = 0;
+  while (length < text.size() && !Is_space(text[length])) ++length;
+  const std::string_view word = text.substr(0, length);
+  text.remove_prefix(length);
+  return word;
+}
 
 /// The part of `text` that is left without the characters of the set `characters` at its two ends.
 std::string_view Trimmed(std::string_view text, std::string_view characters);

@@ -10,6 +10,7 @@
 
 #include "foundation/My_convert_from_string.h"
 #include "foundation/My_string_to_d.h"
+#include "foundation/My_string_to_i.h"
 #include "foundation/Text_fields.h"
 
 namespace gns {
@@ -111,6 +112,40 @@ TEST(ExtractDouble, EqualsFormattedInputOnRandomText) {
   }
 }
 
+template <typename Integer>
+void Expect_integer_like_formatted_input(const std::string& text) {
+  std::istringstream stream(text);
+  Integer expected = 77;
+  const bool good = static_cast<bool>(stream >> expected);
+  if (!good) expected = 77;
+  std::string_view rest = text;
+  Integer number = 77;
+  ASSERT_EQ(Extract_integer(rest, number), good) << '"' << text << '"';
+  EXPECT_EQ(number, expected) << '"' << text << '"';
+  stream.clear();
+  const std::string left{std::istreambuf_iterator<char>(stream), {}};
+  EXPECT_EQ(rest, good ? left : text) << '"' << text << '"';
+}
+
+TEST(ExtractInteger, EqualsFormattedInput) {
+  std::vector<std::string> texts = {
+      "2147483647",  "2147483648",   "-2147483648",           "-2147483649",  "4294967295",
+      "4294967296",  "-4294967295",  "-4294967296",           "+4294967295",  "000000000012",
+      "99999999999", "-99999999999", "18446744073709551616x", "\t\n\v\f\r 5", "5\v6"};
+  const std::string alphabet = "+-0123456789x. ,e";
+  std::mt19937 random(5);
+  for (int i = 0; i < 100000; ++i) {
+    texts.emplace_back();
+    for (auto left = random() % 12; left > 0; --left)
+      texts.back() += alphabet[random() % alphabet.size()];
+  }
+  for (const std::string& text : texts) {
+    Expect_integer_like_formatted_input<std::int32_t>(text);
+    Expect_integer_like_formatted_input<std::uint32_t>(text);
+    if (HasFailure()) return;
+  }
+}
+
 TEST(StringToDouble, WantsOneNumberAndNothingElse) {
   double number = 0;
   EXPECT_TRUE(stringtodouble(" 12.5 \n", number));
@@ -152,6 +187,14 @@ TEST(ConvertFromString, Integers) {
                                     {"5.7", true, true, 6},
                                     {"1e3", true, true, 1000},
                                     {"1E3", true, false, 1000},
+                                    {"", false, true},
+                                    {"-", false, true},
+                                    {"+8", true, false, 8},
+                                    {"-0", true, false, 0},
+                                    {"8 ", true, false, 8},
+                                    {"8x", false, true},
+                                    {"999999999", true, false, 999999999},
+                                    {"0000000000000000000012", true, false, 12},
                                     {"-8", true, false, -8},
                                     {"abc", false, true},
                                     {"2147483647.4", true, true, 2147483647},
