@@ -8,6 +8,7 @@
 /// other threads while a run goes on; one run at a time per process.
 
 // foundation: errors, text and numbers, paths
+#include "foundation/Character_set.h"
 #include "foundation/Deleting.h"
 #include "foundation/Dir_error.h"
 #include "foundation/Dir_prepare.h"
@@ -18,6 +19,7 @@
 #include "foundation/My_double2string.h"
 #include "foundation/My_int2string.h"
 #include "foundation/My_string_to_d.h"
+#include "foundation/My_string_to_i.h"
 #include "foundation/Renaming.h"
 #include "foundation/Text_fields.h"
 #include "foundation/Total_path.h"
@@ -59,16 +61,28 @@
 #include "communities/Weighted_cliques.h"
 
 // files: link files and results directories
+#include "files/Com_result_tables.h"
 #include "files/Community_files.h"
 #include "files/Graph_and_clique_files.h"
+#include "files/Index_list.h"
 #include "files/Link_file_reader.h"
+#include "files/My_string_chopper.h"
+#include "files/Name_list.h"
+#include "files/Name_pairs.h"
+#include "files/Pair_fields.h"
+#include "files/Read_data.h"
 #include "files/Results_directory.h"
 #include "files/Results_names.h"
+#include "files/Results_reader.h"
 #include "files/Statistics_files.h"
+#include "files/Table_by_index.h"
 #include "files/Unfinished_mark.h"
 
 // engine: whole runs
 #include "engine/Check_switches.h"
+#include "engine/Extract_coms.h"
 #include "engine/Find_coms.h"
+#include "engine/Load_coms.h"
+#include "engine/Run_message.h"
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"

@@ -26,6 +26,25 @@ struct Statistics {
   Distribution membership;
 };
 
+/// The tables of a set of distributions.
+struct Flavour {
+  using Tables = By_k<Distribution_table> Com_result_tables::*;
+  Tables membership;
+  Tables size;
+  Tables overlap;
+  Tables degree;
+};
+
+constexpr Flavour exact_flavour = {
+    &Com_result_tables::membership_dist_exact, &Com_result_tables::size_dist_exact,
+    &Com_result_tables::overlap_dist_exact, &Com_result_tables::degree_dist_exact};
+constexpr Flavour approximate_flavour = {
+    &Com_result_tables::membership_dist_appr, &Com_result_tables::size_dist_appr,
+    &Com_result_tables::overlap_dist_appr, &Com_result_tables::degree_dist_appr};
+constexpr Flavour merged_flavour = {
+    &Com_result_tables::membership_dist_merged, &Com_result_tables::size_dist_merged,
+    &Com_result_tables::overlap_dist_merged, &Com_result_tables::degree_dist_merged};
+
 Statistics Statistics_of(const Row_array<Node_index>& coms, std::uint32_t vertex_count) {
   Statistics s;
   Community_statistics(s.size, s.degree, s.overlap, s.membership, coms, vertex_count);
@@ -58,8 +77,8 @@ K_summary Extraction::At(std::uint32_t k) {
 
   Com_graph com_graph;
   Prepare_community_graph(com_graph, communities.coms);
-  Kiir_com_graph_VL(com_graph, communities.exact_com_count, input_.output_dir, k, input_.com_flag,
-                    input_.run_header);
+  Kiir_com_graph_VL_ret(com_graph, communities.exact_com_count, input_.output_dir, k,
+                        input_.com_flag, input_.run_header, Table(&Com_result_tables::com_graphs));
   Check_for_stop_signal();
   CURRENT_STATE_REPORT = " Calculating statistics...\n";
   const Distribution membership = Write_statistics(k, communities, com_graph);
@@ -81,7 +100,8 @@ const Communities& Extraction::Find_by_intensity(std::uint32_t k) {
   auto& [cliques, k_cliques, com_k_cliques, communities] = *by_intensity_;
   Generate_k_cls_from_cls_ec(cliques, k_cliques, k, input_.intensity_threshold);
   CURRENT_STATE_REPORT = "__________________________\n Writing k-clques to disk.\n";
-  Kiir_k_cliques_VL(input_.output_dir, k_cliques, k, input_.node_names, input_.run_header);
+  Kiir_k_cliques_VL_ret(input_.output_dir, k_cliques, k, input_.node_names, input_.run_header,
+                        Table(&Com_result_tables::k_cliques));
   Intensity_coms_from_k_cliques_ec(k_cliques, communities.coms, com_k_cliques, cliques.Logs(),
                                    input_.intensity_threshold);
   communities.exact_com_count = static_cast<std::uint32_t>(communities.size());
@@ -98,28 +118,35 @@ const Communities& Extraction::Find_by_overlap(std::uint32_t k) {
 }
 
 void Extraction::Write_communities(std::uint32_t k, const Communities& communities) const {
-  Kiir_coms_VL(communities.coms, input_.output_dir, k, input_.node_names,
-               communities.exact_com_count, input_.com_flag, input_.run_header);
+  Kiir_coms_VL_ret(communities.coms, input_.output_dir, k, input_.node_names,
+                   communities.exact_com_count, input_.com_flag, input_.run_header,
+                   Table(&Com_result_tables::communities));
+  auto* const com_links = Table(&Com_result_tables::com_links);
   if (input_.use_intensity) {
-    Kiir_com_links_VL(K_clique_com_links(by_intensity_->k_cliques, by_intensity_->com_k_cliques),
-                      input_.output_dir, k, input_.node_names, communities.exact_com_count,
-                      input_.com_flag, input_.run_header);
+    Kiir_com_links_VL_ret(
+        K_clique_com_links(by_intensity_->k_cliques, by_intensity_->com_k_cliques),
+        input_.output_dir, k, input_.node_names, communities.exact_com_count, input_.com_flag,
+        input_.run_header, com_links);
     return;
   }
-  Kiir_coms_cliques_VL(communities.com_cliques, input_.output_dir, k, communities.exact_com_count,
-                       input_.exact_clique_count, input_.com_flag, input_.run_header);
-  Kiir_com_links_VL(communities.com_links, input_.output_dir, k, input_.node_names,
-                    communities.exact_com_count, input_.com_flag, input_.run_header,
-                    input_.index_links);
+  Kiir_coms_cliques_VL_ret(communities.com_cliques, input_.output_dir, k,
+                           communities.exact_com_count, input_.exact_clique_count, input_.com_flag,
+                           input_.run_header, Table(&Com_result_tables::com_cliques));
+  Kiir_com_links_VL_ret(communities.com_links, input_.output_dir, k, input_.node_names,
+                        communities.exact_com_count, input_.com_flag, input_.run_header, com_links,
+                        input_.index_links);
 }
 
 /// Writes one set of distributions, or, where some communities are approximate, three. Yields the
 /// membership distribution over all communities.
 Distribution Extraction::Write_statistics(std::uint32_t k, const Communities& communities,
                                           const Com_graph& com_graph) const {
-  const auto write = [&](const Statistics& s, const std::string& stat_flag) {
-    Kiir_stats_VL(s.membership, s.size, s.overlap, s.degree, input_.output_dir, k, input_.com_flag,
-                  stat_flag, input_.run_header);
+  const auto write = [&](const Statistics& s, const std::string& stat_flag,
+                         const Flavour& flavour) {
+    Kiir_stats_VL_ret(s.membership, s.size, s.overlap, s.degree, input_.output_dir, k,
+                      input_.com_flag, stat_flag, input_.run_header,
+                      {Table(flavour.membership), Table(flavour.size), Table(flavour.overlap),
+                       Table(flavour.degree)});
   };
   Statistics all;
   Community_statistics(all.size, all.degree, all.overlap, all.membership, communities.coms,
@@ -127,7 +154,7 @@ Distribution Extraction::Write_statistics(std::uint32_t k, const Communities& co
   const std::size_t exact_count = communities.exact_com_count;
   if (communities.size() <= exact_count) {
     CURRENT_STATE_REPORT = " done.\n";
-    write(all, "");
+    write(all, "", exact_flavour);
     return all.membership;
   }
   const Statistics exact =
@@ -135,10 +162,34 @@ Distribution Extraction::Write_statistics(std::uint32_t k, const Communities& co
   const Statistics approximate = Statistics_of(
       Copy_rows(communities.coms, exact_count, communities.size()), input_.vertex_count);
   CURRENT_STATE_REPORT = " done.\n";
-  write(all, "_merged");
-  write(exact, "_exact");
-  write(approximate, "_appr");
+  write(all, "_merged", merged_flavour);
+  write(exact, "_exact", exact_flavour);
+  write(approximate, "_appr", approximate_flavour);
   return all.membership;
+}
+
+void Extract_coms_ec(std::uint32_t k, const Clique_vector& cliques, const Overlap_matrix&,
+                     std::uint32_t exact_clique_count, const std::string& com_flag,
+                     const std::string& run_header, const std::string& output_dir,
+                     const Node_names& node_names, std::uint32_t vertex_count, bool use_intensity,
+                     double intensity_threshold, const Index_links& index_links,
+                     std::uint32_t max_clique_size) {
+  Extraction({cliques, exact_clique_count, com_flag, run_header, output_dir, node_names,
+              vertex_count, index_links, max_clique_size, use_intensity, intensity_threshold})
+      .At(k);
+}
+
+void Extract_coms_ec_ret(std::uint32_t k, const Clique_vector& cliques, const Overlap_matrix&,
+                         std::uint32_t exact_clique_count, const std::string& com_flag,
+                         const std::string& run_header, const std::string& output_dir,
+                         const Node_names& node_names, std::uint32_t vertex_count,
+                         bool use_intensity, double intensity_threshold,
+                         const Index_links& index_links, Com_result_tables& tables,
+                         std::uint32_t max_clique_size) {
+  Extraction({cliques, exact_clique_count, com_flag, run_header, output_dir, node_names,
+              vertex_count, index_links, max_clique_size, use_intensity, intensity_threshold,
+              &tables})
+      .At(k);
 }
 
 }  // namespace gns

@@ -9,6 +9,7 @@
 #include "communities/Percolation.h"
 #include "communities/Weighted_cliques.h"
 #include "engine/Run_summary.h"
+#include "files/Com_result_tables.h"
 #include "graph/Index_links.h"
 #include "graph/Node_names.h"
 #include "search/Clique_vector.h"
@@ -28,7 +29,8 @@ struct Extraction_input {
   const Index_links& index_links;
   std::uint32_t max_clique_size;  ///< for the state report only
   bool use_intensity;
-  double intensity_threshold;  ///< read only if `use_intensity` is set
+  double intensity_threshold;           ///< read only if `use_intensity` is set
+  Com_result_tables* tables = nullptr;  ///< filled beside the files; null if nobody wants them
 };
 
 /// Finds the communities at one k after the other, best with k descending, and writes their files.
@@ -48,6 +50,12 @@ class Extraction {
   Distribution Write_statistics(std::uint32_t k, const Communities& communities,
                                 const Com_graph& com_graph) const;
 
+  /// One of the tables; null if nobody wants them.
+  template <typename Table_type>
+  Table_type* Table(Table_type Com_result_tables::*table) const {
+    return input_.tables == nullptr ? nullptr : &(input_.tables->*table);
+  }
+
   /// What the intensity method works from, and what it has found at one k.
   struct By_intensity {
     explicit By_intensity(const Extraction_input& input)
@@ -63,5 +71,23 @@ class Extraction {
   std::optional<Percolation> percolation_;  ///< of a run without intensity
   std::optional<By_intensity> by_intensity_;
 };
+
+/// One k by itself. `overlap_matrix` is a view of the cliques and isn't asked. A run over many k is
+/// cheaper with one Extraction.
+void Extract_coms_ec(std::uint32_t k, const Clique_vector& cliques,
+                     const Overlap_matrix& overlap_matrix, std::uint32_t exact_clique_count,
+                     const std::string& com_flag, const std::string& run_header,
+                     const std::string& output_dir, const Node_names& node_names,
+                     std::uint32_t vertex_count, bool use_intensity, double intensity_threshold,
+                     const Index_links& index_links, std::uint32_t max_clique_size);
+
+/// The same, filling the tables of this k too.
+void Extract_coms_ec_ret(std::uint32_t k, const Clique_vector& cliques,
+                         const Overlap_matrix& overlap_matrix, std::uint32_t exact_clique_count,
+                         const std::string& com_flag, const std::string& run_header,
+                         const std::string& output_dir, const Node_names& node_names,
+                         std::uint32_t vertex_count, bool use_intensity, double intensity_threshold,
+                         const Index_links& index_links, Com_result_tables& tables,
+                         std::uint32_t max_clique_size);
 
 }  // namespace gns

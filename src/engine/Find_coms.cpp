@@ -1,25 +1,23 @@
 #include "engine/Find_coms.h"
 
-#include <exception>
-
 #include "engine/Check_switches.h"
+#include "engine/Run_message.h"
 #include "engine/Run_stages.h"
 #include "files/Results_directory.h"
 
 namespace gns {
 
-const std::string run_finished = "Process ended succesfully.";
-
 namespace {
 
-void Run(const Run_parameters& parameters, bool& approximation_needed, Run_summary& summary) {
+void Run(const Run_parameters& parameters, bool& approximation_needed, Run_summary& summary,
+         Com_result_tables* tables) {
   Refuse_bad_parameters(parameters);
   Check_out_dir(parameters.output_dir);
   Run_start start = Start_of_run(parameters);
   Open_results(start);
   Link_map links;
   Read_links(start, links);
-  Run_from_links(start, links, approximation_needed, summary);
+  Run_from_links(start, links, approximation_needed, summary, tables);
 }
 
 }  // namespace
@@ -29,23 +27,44 @@ std::string Find_coms(const std::string& input_file, const std::string& output_d
                       double upper_threshold, bool directed, bool use_intensity,
                       double intensity_threshold, bool use_time_limit, double time_limit,
                       bool use_single_k, std::uint32_t single_k, bool& approximation_needed) {
-  const Run_parameters parameters = {input_file,      output_dir,          use_lower_threshold,
-                                     lower_threshold, use_upper_threshold, upper_threshold,
-                                     directed,        use_intensity,       intensity_threshold,
-                                     use_time_limit,  time_limit,          use_single_k,
-                                     single_k};
   Run_summary summary;
-  return Find_coms(parameters, approximation_needed, summary);
+  return Find_coms({input_file, output_dir, use_lower_threshold, lower_threshold,
+                    use_upper_threshold, upper_threshold, directed, use_intensity,
+                    intensity_threshold, use_time_limit, time_limit, use_single_k, single_k},
+                   approximation_needed, summary);
+}
+
+std::string Find_coms(
+    const std::string& input_file, const std::string& output_dir, bool use_lower_threshold,
+    double lower_threshold, bool use_upper_threshold, double upper_threshold, bool directed,
+    bool use_intensity, double intensity_threshold, bool use_time_limit, double time_limit,
+    bool use_single_k, std::uint32_t single_k, bool& approximation_needed, Name_pairs& graph_links,
+    Names_by_index& cliques, By_k<Names_by_index>& k_cliques, By_k<Names_by_index>& communities,
+    By_k<Links_by_index>& com_links, By_k<Indices_by_index>& com_cliques,
+    By_k<Overlap_table>& com_graphs, By_k<Distribution_table>& size_dist_exact,
+    By_k<Distribution_table>& degree_dist_exact, By_k<Distribution_table>& overlap_dist_exact,
+    By_k<Distribution_table>& membership_dist_exact, By_k<Distribution_table>& size_dist_appr,
+    By_k<Distribution_table>& degree_dist_appr, By_k<Distribution_table>& overlap_dist_appr,
+    By_k<Distribution_table>& membership_dist_appr, By_k<Distribution_table>& size_dist_merged,
+    By_k<Distribution_table>& degree_dist_merged, By_k<Distribution_table>& overlap_dist_merged,
+    By_k<Distribution_table>& membership_dist_merged) {
+  const auto run = [&](Com_result_tables& tables) {
+    Run_summary summary;
+    return Find_coms({input_file, output_dir, use_lower_threshold, lower_threshold,
+                      use_upper_threshold, upper_threshold, directed, use_intensity,
+                      intensity_threshold, use_time_limit, time_limit, use_single_k, single_k},
+                     approximation_needed, summary, &tables);
+  };
+  return With_tables_as_record(
+      run, graph_links, cliques, k_cliques, communities, com_links, com_cliques, com_graphs,
+      size_dist_exact, degree_dist_exact, overlap_dist_exact, membership_dist_exact, size_dist_appr,
+      degree_dist_appr, overlap_dist_appr, membership_dist_appr, size_dist_merged,
+      degree_dist_merged, overlap_dist_merged, membership_dist_merged);
 }
 
 std::string Find_coms(const Run_parameters& parameters, bool& approximation_needed,
-                      Run_summary& summary) {
-  try {
-    Run(parameters, approximation_needed, summary);
-    return run_finished;
-  } catch (const std::exception& failure) {
-    return failure.what();
-  }
+                      Run_summary& summary, Com_result_tables* tables) {
+  return Message_of([&] { Run(parameters, approximation_needed, summary, tables); });
 }
 
 }  // namespace gns

@@ -71,9 +71,10 @@ void Open_results(Run_start& start) {
 }
 
 void Run_from_links(const Run_start& start, Link_map& links, bool& approximation_needed,
-                    Run_summary& summary) {
+                    Run_summary& summary, Com_result_tables* tables) {
   const Run_parameters& parameters = start.parameters;
-  Kiir_graph(links, parameters.output_dir, parameters.directed, start.run_header, start.weighted);
+  Kiir_graph_ret(links, parameters.output_dir, parameters.directed, start.run_header,
+                 start.weighted, tables == nullptr ? nullptr : &tables->graph_links);
   CURRENT_STATE_REPORT = "_______________\n Links read OK.\n";
   Check_for_stop_signal();
 
@@ -107,18 +108,20 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
   Find_cliques_ec(parameters.use_time_limit ? &time_limit : nullptr, parameters.directed, cliques,
                   overlap_matrix, dir_vtx_map, vtx_map, exact_clique_count, approximation_needed);
   Summarize(cliques, exact_clique_count, summary);
-  Check_for_stop_signal();
-
+  // With tables the poll comes behind the report.
+  if (tables == nullptr) Check_for_stop_signal();
   CURRENT_STATE_REPORT = "___________________________\n Writing cliques to disk...\n";
-  Kiir_cliques_VL(parameters.output_dir, cliques, node_names, exact_clique_count, start.com_flag,
-                  start.run_header);
+  if (tables != nullptr) Check_for_stop_signal();
+  Kiir_cliques_VL_ret(parameters.output_dir, cliques, node_names, exact_clique_count,
+                      start.com_flag, start.run_header,
+                      tables == nullptr ? nullptr : &tables->cliques);
   CURRENT_STATE_REPORT = " done.\n";
   Check_for_stop_signal();
 
   Extract_all(parameters,
               {cliques, exact_clique_count, start.com_flag, start.run_header, parameters.output_dir,
                node_names, vertex_count, index_links, Max_clique_size_in_cl_vec(cliques),
-               parameters.use_intensity, parameters.intensity_threshold},
+               parameters.use_intensity, parameters.intensity_threshold, tables},
               summary);
   if (File_faults().empty()) Remove_unfinished_mark(parameters.output_dir);
 }

@@ -4,6 +4,7 @@
 
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
+#include "files/Com_result_tables.h"
 #include "graph/Link_map.h"
 #include "search/Attempt.h"
 
@@ -29,9 +30,9 @@ void Read_links(const Run_start& start, Link_map& links);
 /// first write of a run.
 void Open_results(Run_start& start);
 
-/// Everything behind the reading of the links; `links` is emptied on the way. Throws what its
-/// stages throw.
+/// Everything behind the reading of the links; `links` is emptied on the way. `tables`, if there
+/// are any, are filled beside the files. Throws what its stages throw.
 void Run_from_links(const Run_start& start, Link_map& links, bool& approximation_needed,
-                    Run_summary& summary);
+                    Run_summary& summary, Com_result_tables* tables = nullptr);
 
 }  // namespace gns

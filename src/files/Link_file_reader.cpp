@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "control/Clique_find_ext_cont.h"
+#include "files/Cut_lines.h"
 #include "foundation/Errors.h"
 #include "foundation/Line_reader.h"
 #include "foundation/My_string_to_d.h"
@@ -12,10 +13,6 @@ namespace gns {
 
 namespace {
 
-bool Is_skipped(std::string_view cut_line) {
-  return cut_line.size() <= 1 || cut_line.front() == '#';
-}
-
 /// The loop of both readers. `accept(rest, weight)` reads what follows the two names; it yields
 /// false if the line is bad. `keeps(weight)` tells whether a good line enters the map.
 template <typename Accept, typename Keeps>
@@ -24,10 +21,8 @@ void Read_links(const std::string& file_name, Link_map& links, bool weighted, Ac
   Line_reader reader(file_name);
   links.clear();
   Link_map_builder builder(weighted);
-  for (std::string_view line; reader.Next(line);) {
+  for (std::string_view cut_line; Next_cut_line(reader, cut_line);) {
     external_control::Check_inside_long_stage();
-    const std::string_view cut_line = Trimmed(line, " \t");
-    if (Is_skipped(cut_line)) continue;
     std::string_view rest = cut_line;
     const std::string_view first = Extract_word(rest);
     const std::string_view second = Extract_word(rest);

@@ -6,10 +6,24 @@
 
 namespace gns {
 
-void Kiir_stats_VL(const Distribution& membership_dist, const Distribution& size_dist,
-                   const Distribution& overlap_dist, const Distribution& degree_dist,
-                   const std::string& output_dir, std::uint32_t k, const std::string& com_flag,
-                   const std::string& stat_flag, const std::string& run_header) {
+namespace {
+
+void Store(By_k<Distribution_table>* tables, std::uint32_t k, const Distribution& dist) {
+  if (tables != nullptr) (*tables)[k] = dist;
+}
+
+}  // namespace
+
+void Kiir_stats_VL_ret(const Distribution& membership_dist, const Distribution& size_dist,
+                       const Distribution& overlap_dist, const Distribution& degree_dist,
+                       const std::string& output_dir, std::uint32_t k, const std::string& com_flag,
+                       const std::string& stat_flag, const std::string& run_header,
+                       const Statistics_tables& tables) {
+  Store(tables.membership, k, membership_dist);
+  Store(tables.size, k, size_dist);
+  Store(tables.overlap, k, overlap_dist);
+  Store(tables.degree, k, degree_dist);
+
   const std::string dir_of_k = results_names::Dir_of_k(output_dir, k);
   Dir_prepare(dir_of_k, "keep");
   const std::string rest_of_title = stat_flag + results_names::Lead(com_flag, ' ') +

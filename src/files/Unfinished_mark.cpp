@@ -20,9 +20,8 @@ constexpr std::string_view mark_text =
     "The results directory of this name isn't whole: its run is still going on, or was stopped, or "
     "failed.";
 
-/// True if nothing stands at the path, or nothing but a mark that a run left, perhaps cut short.
-bool Is_free_for_mark(const std::string& path) {
-  if (!Is_there_such_path(path)) return true;
+/// True if the path is a mark that a run left, perhaps cut short.
+bool Is_mark(const std::string& path) {
   if (!Is_there_such_file(path)) return false;
   Line_reader reader(path);
   std::string_view line;
@@ -39,12 +38,16 @@ std::string Unfinished_mark_of(const std::string& output_dir) {
 
 void Set_unfinished_mark(const std::string& output_dir) {
   const std::string mark = Unfinished_mark_of(output_dir);
-  if (!Is_free_for_mark(mark))
+  if (Is_there_such_path(mark) && !Is_mark(mark))
     throw Xerror_msg("ERROR: '" + mark +
                      "' is in the way: the run would mark its results as unfinished there.\n");
   Make_dir(std::filesystem::path(mark).parent_path().string());
   Text_writer file(mark);
   file << mark_text << '\n';
+}
+
+bool Is_marked_unfinished(const std::string& output_dir) {
+  return Is_mark(Unfinished_mark_of(output_dir));
 }
 
 void Remove_unfinished_mark(const std::string& output_dir) {

@@ -14,6 +14,9 @@ std::string Unfinished_mark_of(const std::string& output_dir);
 /// mark stands in its place, which is left alone, or if a directory can't be made.
 void Set_unfinished_mark(const std::string& output_dir);
 
+/// True if the mark stands beside the directory.
+bool Is_marked_unfinished(const std::string& output_dir);
+
 void Remove_unfinished_mark(const std::string& output_dir);
 
 }  // namespace gns

@@ -29,13 +29,8 @@ class Character_set {
   [[nodiscard]] constexpr std::size_t size() const { return size_; }
   constexpr bool operator==(const Character_set& other) const { return bits_ == other.bits_; }
 
-  /// Yields work(is_member), where is_member(c) tells whether c is in the set. A set of one
-  /// character, the usual one, is tested by comparison.
-  template <typename Work>
-  auto With_test(Work work) const {
-    if (size_ != 1) return work([set = *this](char c) { return set.contains(c); });
-    return work([only = newest_](char c) { return c == only; });
-  }
+  /// The member of a set of one character.
+  [[nodiscard]] constexpr char Only() const { return newest_; }
 
   /// The first member of the set in the text; null if there is none.
   [[nodiscard]] const char* Find_in(std::string_view text) const {

@@ -37,8 +37,8 @@ Line_reader::Line_reader(std::string path, Source source, Character_set line_end
   struct stat status = {};
   file_ = Open_for_reading(path_, source, status);
   if (file_ < 0) throw Xep_file_not_found(path_);
-  const auto file_size = static_cast<std::size_t>(std::max<off_t>(status.st_size, 0));
-  capacity_ = std::clamp(file_size + 1, smallest_block, largest_first_block);
+  file_size_ = static_cast<std::size_t>(std::max<off_t>(status.st_size, 0));
+  capacity_ = std::clamp(file_size_ + 1, smallest_block, largest_first_block);
   buffer_ = std::make_unique_for_overwrite<char[]>(capacity_);
 }
 

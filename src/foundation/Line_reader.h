@@ -27,6 +27,9 @@ class Line_reader {
   /// the next call. False at the end of the file; throws Xerror_msg if reading fails.
   bool Next(std::string_view& line);
 
+  /// The size of the file when it was opened, in bytes.
+  [[nodiscard]] std::size_t File_size() const { return file_size_; }
+
   /// True if the line that was taken last had its end.
   [[nodiscard]] bool Terminated() const { return terminated_; }
 
@@ -37,6 +40,7 @@ class Line_reader {
   std::string path_;
   Character_set line_ends_;
   int file_;
+  std::size_t file_size_ = 0;
   std::unique_ptr<char[]> buffer_;
   std::size_t capacity_ = 0;
   std::size_t start_ = 0;  ///< unread bytes: start_ up to end_

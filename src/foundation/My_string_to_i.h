@@ -32,4 +32,26 @@ bool Convert_plain(std::string_view text, Integer& number) {
   return true;
 }
 
+/// Takes integers in their plain form off the front of `text` while one comes behind the other with
+/// delimiters between, and calls use(number) for each. What is left is empty or begins with a word
+/// of another form.
+template <typename Use>
+void Chop_plain(std::string_view& text, char delimiter, Use use) {
+  constexpr std::ptrdiff_t most_digits = std::numeric_limits<std::int32_t>::digits10;
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  for (;;) {
+    while (at != end && *at == delimiter) ++at;
+    text = {at, end};
+    const bool negative = at != end && *at == '-';
+    if (negative) ++at;
+    const char* const digits = at;
+    std::uint32_t size = 0;
+    for (; at != end && *at >= '0' && *at <= '9'; ++at)
+      size = 10 * size + static_cast<std::uint32_t>(*at - '0');
+    if (at == digits || at - digits > most_digits || (at != end && *at != delimiter)) return;
+    use(static_cast<std::int32_t>(negative ? 0U - size : size));
+  }
+}
+
 }  // namespace gns

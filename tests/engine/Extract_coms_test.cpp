@@ -28,24 +28,20 @@ class Extracted : public ::testing::Test {
     const Node_names no_names;
     const Index_links no_links({}, {}, 10);
     const std::string out = temp_.Path(std::to_string(k));
-    Extraction_input input = {.cliques = cliques_,
-                              .exact_clique_count = 3,
-                              .com_flag = flag_,
-                              .run_header = header,
-                              .output_dir = out,
-                              .node_names = no_names,
-                              .vertex_count = 10,
-                              .index_links = no_links,
-                              .max_clique_size = 3,
-                              .use_intensity = false,
-                              .intensity_threshold = 0};
-    Extraction(input).At(k);
+    const Overlap_matrix overlap_matrix(cliques_);
+    Extract_coms_ec(k, cliques_, overlap_matrix, 3, flag_, header, out + "/plain", no_names, 10,
+                    false, 0, no_links, 3);
+    Extract_coms_ec_ret(k, cliques_, overlap_matrix, 3, flag_, header, out, no_names, 10, false, 0,
+                        no_links, tables_, 3);
+    EXPECT_EQ(Contents_of(out + "/plain/k=" + std::to_string(k)),
+              Contents_of(out + "/k=" + std::to_string(k)));
     return Contents_of(out + "/k=" + std::to_string(k));
   }
 
   Temp_dir temp_;
   Clique_vector cliques_;
   std::string flag_;
+  Com_result_tables tables_;
 };
 
 TEST_F(Extracted, ThreeSetsOfDistributionsWhereCommunitiesAreApproximate) {
@@ -53,6 +49,8 @@ TEST_F(Extracted, ThreeSetsOfDistributionsWhereCommunitiesAreApproximate) {
   EXPECT_EQ(files.size(), 16U);
   EXPECT_TRUE(files.at("communities_cliques").ends_with("\n\n0: 0 1 \n-1: 2 -3 \n-2: -4 \n"));
   EXPECT_TRUE(files.at("graph_of_communities").ends_with("\n\n0 -1 1\n0 -2 1\n"));
+  EXPECT_EQ(tables_.com_cliques.at(3), (Indices_by_index{{0, {0, 1}}, {-1, {2, -3}}, {-2, {-4}}}));
+  EXPECT_EQ(tables_.com_graphs.at(3), (Overlap_table{{{0, -1}, 1}, {{0, -2}, 1}}));
   struct Case {
     std::string stat_flag, membership, size, overlap, degree;
   };

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Directory_contents.h"
+#include "Sample_runs.h"
 #include "Temp_dir.h"
 #include "control/Clique_find_ext_cont.h"
 #include "engine/Find_coms.h"
@@ -42,7 +43,7 @@ TEST(WholeRun, LeavesTheExpectedDirectory) {
                                          {"thresholds", true, true, false},
                                          {"intensity", false, false, true}}) {
     const Temp_dir temp;
-    const std::string input = std::string(VORLANE_EXPECTED_DIR) + "/" + c.name + "/links.txt";
+    const std::string input = Sample_links(c.name);
     const std::string out = temp.Path("new/out");
     bool approximation_needed = true;
     EXPECT_EQ(Find_coms(input, out, c.use_thresholds, 0.5, c.use_thresholds, 2e6, false,
@@ -55,30 +56,10 @@ TEST(WholeRun, LeavesTheExpectedDirectory) {
   }
 }
 
-/// Three cliques are found; then five nodes that are all linked run over their time, and again
-/// after node E, which waits among them, has finished. At k=3 their community holds an exact clique
-/// as well, and at k=5 they have none.
 TEST(WholeRun, CoversHardNodesByApproximateCliques) {
   const Temp_dir temp;
-  Run_parameters parameters;
-  parameters.input_file = std::string(VORLANE_EXPECTED_DIR) + "/time_limit/links.txt";
-  parameters.output_dir = temp.Path("out");
-  parameters.use_time_limit = true;
-  parameters.time_limit = 0.25;
-  Run_start start = Start_of_run(parameters);
-  start.clock = [time = 0.0]() mutable {
-    const std::string report = Read_state_report();
-    const bool hard = report.find("\n 6 of 12 ") != std::string::npos ||
-                      report.find("\n 5 of 12 ") != std::string::npos;
-    return time += hard ? 0.5 : 0.0;
-  };
-  Open_results(start);
-  Link_map links;
-  Read_links(start, links);
-  bool approximation_needed = false;
-  Run_summary summary;
-  Run_from_links(start, links, approximation_needed, summary);
-  EXPECT_TRUE(approximation_needed);
+  const Run_parameters parameters = {Sample_links("time_limit"), temp.Path("out")};
+  const Run_summary summary = Run_short_of_time(parameters, nullptr);
   EXPECT_EQ(summary.exact_cliques, 3U);
   EXPECT_EQ(summary.approximate_cliques, 5U);
   EXPECT_EQ(Contents_of(parameters.output_dir),

@@ -1,0 +1,48 @@
+#include "engine/Load_coms.h"
+
+#include "engine/Run_message.h"
+#include "files/Results_reader.h"
+#include "files/Unfinished_mark.h"
+
+namespace gns {
+
+namespace {
+
+void Load(const std::string& results_dir, std::uint32_t load_mode, Com_result_tables& tables,
+          std::string& errors) {
+  if (Is_marked_unfinished(results_dir))
+    errors += "The results directory '" + results_dir +
+              "' isn't whole: its run is still going on, or was stopped, or failed.\n";
+  const char* specifier = load_mode == 1 ? "directed" : load_mode == 2 ? "intensity" : "";
+  Read_coms(results_dir, specifier, tables, errors);
+}
+
+}  // namespace
+
+std::string Load_coms(const std::string& results_dir, std::uint32_t load_mode,
+                      Com_result_tables& tables, std::string& errors) {
+  return Message_of([&] { Load(results_dir, load_mode, tables, errors); });
+}
+
+std::string Load_coms(
+    const std::string& results_dir, std::uint32_t load_mode, Name_pairs& graph_links,
+    Names_by_index& cliques, By_k<Names_by_index>& k_cliques, By_k<Names_by_index>& communities,
+    By_k<Links_by_index>& com_links, By_k<Indices_by_index>& com_cliques,
+    By_k<Overlap_table>& com_graphs, By_k<Distribution_table>& size_dist_exact,
+    By_k<Distribution_table>& degree_dist_exact, By_k<Distribution_table>& overlap_dist_exact,
+    By_k<Distribution_table>& membership_dist_exact, By_k<Distribution_table>& size_dist_appr,
+    By_k<Distribution_table>& degree_dist_appr, By_k<Distribution_table>& overlap_dist_appr,
+    By_k<Distribution_table>& membership_dist_appr, By_k<Distribution_table>& size_dist_merged,
+    By_k<Distribution_table>& degree_dist_merged, By_k<Distribution_table>& overlap_dist_merged,
+    By_k<Distribution_table>& membership_dist_merged, std::string& errors) {
+  const auto load = [&](Com_result_tables& tables) {
+    return Load_coms(results_dir, load_mode, tables, errors);
+  };
+  return With_tables_as_record(
+      load, graph_links, cliques, k_cliques, communities, com_links, com_cliques, com_graphs,
+      size_dist_exact, degree_dist_exact, overlap_dist_exact, membership_dist_exact, size_dist_appr,
+      degree_dist_appr, overlap_dist_appr, membership_dist_appr, size_dist_merged,
+      degree_dist_merged, overlap_dist_merged, membership_dist_merged);
+}
+
+}  // namespace gns

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string_view>
+
+#include "foundation/Line_reader.h"
+#include "foundation/Text_fields.h"
+
+namespace gns {
+
+/// Takes the next line that holds something: lines are cut by blanks and tabs at both ends, and
+/// skipped if they are empty then, begin with "#" or hold one character. False at the end.
+inline bool Next_cut_line(Line_reader& reader, std::string_view& cut_line) {
+  for (std::string_view line; reader.Next(line);) {
+    cut_line = Trimmed(line, " \t");
+    if (cut_line.size() > 1 && cut_line.front() != '#') return true;
+  }
+  return false;
+}
+
+}  // namespace gns

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <span>
+
+#include "foundation/Growing_array.h"
+
+namespace gns {
+
+/// A sequence of signed indices, with the operations of a Name_list.
+class Index_list {
+ public:
+  using Row = std::span<const std::int32_t>;
+
+  Index_list() = default;
+  Index_list(std::initializer_list<std::int32_t> indices) {
+    indices_.append(indices.begin(), indices.size());
+  }
+
+  void push_back(std::int32_t index) { indices_.push_back(index); }
+  void Append(const Index_list& indices) {
+    indices_.append(indices.indices_.data(), indices.indices_.size());
+  }
+
+  [[nodiscard]] std::size_t size() const { return indices_.size(); }
+  [[nodiscard]] bool empty() const { return indices_.size() == 0; }
+  [[nodiscard]] Row::iterator begin() const { return Row_at(0, size()).begin(); }
+  [[nodiscard]] Row::iterator end() const { return Row_at(0, size()).end(); }
+  [[nodiscard]] std::size_t Place() const { return indices_.size(); }
+  [[nodiscard]] Row Row_at(std::size_t place, std::size_t count) const {
+    return {indices_.data() + place, count};
+  }
+  void Cut(std::size_t place, std::size_t /*count*/) { indices_.Cut(place); }
+  /// Makes room for what a text of so many bytes can hold; what is left unused is never touched.
+  void Reserve_for_text(std::size_t bytes) { indices_.Room_for(bytes / 2); }
+  void Shrink_to_fit() { indices_.Shrink_to_fit(); }
+
+ private:
+  Growing_array<std::int32_t> indices_;
+};
+
+}  // namespace gns

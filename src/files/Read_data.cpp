@@ -1,0 +1,147 @@
+#include "files/Read_data.h"
+
+#include <string_view>
+#include <utility>
+
+#include "files/Cut_lines.h"
+#include "files/My_string_chopper.h"
+#include "files/Pair_fields.h"
+#include "foundation/Errors.h"
+#include "foundation/Line_reader.h"
+#include "foundation/My_string_to_i.h"
+#include "foundation/Words.h"
+
+namespace gns {
+
+namespace {
+
+/// Sets entries of a map; fast where keys come in ascending or descending order.
+template <typename Map>
+class Entries {
+ public:
+  explicit Entries(Map& map) : map_(map), last_(map.end()) {}
+
+  void Set(const typename Map::key_type& key, typename Map::mapped_type value) {
+    last_ = map_.insert_or_assign(last_, key, std::move(value));
+  }
+
+ private:
+  Map& map_;
+  typename Map::iterator last_;
+};
+
+/// The loop of the line forms: `take(line)` reads a record off its cut line.
+template <typename Take>
+void Read_lines(const std::string& file_name, Take take) {
+  Line_reader reader(file_name, Line_reader::Source::regular_file);
+  for (std::string_view line; Next_cut_line(reader, line);) take(line);
+}
+
+/// The delimiters of the forms that have them, by what they end.
+struct Delimiters {
+  const Character_set& line;
+  const Character_set& head;
+  const Character_set& key;
+  const Character_set& value;
+};
+
+template <typename Values>
+void Take_record(std::string_view record, const Delimiters& delimiters,
+                 Table_by_index<Values>& table) {
+  my_string_chopper_class::Set_delims(delimiters.head);
+  std::string_view head = Chop_word(record, delimiters.head);
+  my_string_chopper_class::Set_delims(delimiters.key);
+  std::int32_t key = 0;
+  head >> key;
+  my_string_chopper_class::Set_delims(delimiters.value);
+  Values& values = table.Add(key);
+  const std::size_t held = values.size();
+  try {
+    record >> values;
+    if (values.size() == held) throw No_values();
+  } catch (...) {
+    table.Drop();
+    throw;
+  }
+}
+
+template <typename Table>
+void Read_records(Table& table, const std::string& file_name, const Delimiters& delimiters) {
+  Line_reader reader(file_name, Line_reader::Source::regular_file, delimiters.line);
+  const Filling filling(&table);
+  table.Reserve_for_text(reader.File_size());
+  for (std::string_view record; reader.Next(record);) {
+    if (record.empty() || record.front() == '#') continue;
+    if (!reader.Terminated()) record.remove_suffix(1);
+    if (!record.empty()) Take_record(record, delimiters, table);
+  }
+  my_string_chopper_class::Set_delims_default();
+}
+
+}  // namespace
+
+void Read_data(Name_pairs& pairs, const std::string& file_name) {
+  const Name_pairs held = std::exchange(pairs, {});
+  const auto take = [&](std::string_view line) {
+    Name_pairs::value_type pair;
+    if (!Extract_pair(line, pair)) throw Failed_pair();
+    pairs.push_back(pair.first, pair.second);
+  };
+  try {
+    Read_lines(file_name, take);
+  } catch (...) {
+    pairs.Append(held);
+    throw;
+  }
+  pairs.Append(held);
+}
+
+void Read_data(Overlap_table& table, const std::string& file_name) {
+  Entries entries(table);
+  Read_lines(file_name, [&](std::string_view line) {
+    std::string_view rest = line;
+    Overlap_table::key_type pair;
+    std::uint32_t shared_nodes = 0;
+    if (!Extract_pair(rest, pair)) throw Failed_pair();
+    if (!Extract_integer(rest, shared_nodes)) throw Xep_wrong_line(std::string(line), file_name);
+    entries.Set(pair, shared_nodes);
+  });
+}
+
+void Read_data(Distribution_table& table, const std::string& file_name) {
+  Entries entries(table);
+  Read_lines(file_name, [&](std::string_view line) {
+    std::string_view rest = line;
+    std::uint32_t value = 0;
+    std::uint32_t count = 0;
+    if (!Extract_integer(rest, value) || !Extract_integer(rest, count))
+      throw Xep_wrong_line(std::string(line), file_name);
+    entries.Set(value, count);
+  });
+}
+
+void Read_data(Names_by_index& table, const std::string& file_name,
+               const Character_set& line_delims, const Character_set& head_delims,
+               const Character_set& key_delims, const Character_set& value_delims) {
+  Read_records(table, file_name, {line_delims, head_delims, key_delims, value_delims});
+}
+
+void Read_data(Indices_by_index& table, const std::string& file_name,
+               const Character_set& line_delims, const Character_set& head_delims,
+               const Character_set& key_delims, const Character_set& value_delims) {
+  Read_records(table, file_name, {line_delims, head_delims, key_delims, value_delims});
+}
+
+void Read_data(Names_by_index& table, const std::string& file_name, char line_delim,
+               char head_delim, char key_delim, char value_delim) {
+  Read_data(table, file_name, Character_set{line_delim}, Character_set{head_delim},
+            Character_set{key_delim}, Character_set{value_delim});
+}
+
+void Read_data(Indices_by_index& table, const std::string& file_name, char line_delim,
+               char head_delim, char key_delim, char value_delim) {
+  Read_data(table, file_name, Character_set{line_delim}, Character_set{head_delim},
+            Character_set{key_delim}, Character_set{value_delim});
+}
+
+}  // namespace gns

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "files/Com_result_tables.h"
+
+namespace gns {
+
+/// Fills the tables from a results directory. `specifier` names the kind of run that wrote it:
+/// "directed", "intensity" or nothing; for anything else `errors` is replaced by a message and no
+/// table is touched. The clique sizes are those of its subdirectories "k=NUMBER".
+///
+/// A file that is missing or damaged stops only the reading of that file: a report is appended to
+/// `errors`, and what was read before the fault is kept. Throws Xerror_msg if the directory can't
+/// be listed.
+void Read_coms(const std::string& results_dir, const std::string& specifier,
+               Com_result_tables& tables, std::string& errors);
+
+/// Reads a distribution at k. The file `base_name` is that of a k without approximate communities
+/// and goes into the exact table; only if there is no such file, the three with "_exact", "_appr"
+/// and "_merged" behind their names are read. Faults are reported in `errors`.
+void Read_VL_dists(const std::string& base_name, std::uint32_t k,
+                   By_k<Distribution_table>& exact_table, By_k<Distribution_table>& appr_table,
+                   By_k<Distribution_table>& merged_table, std::string& errors);
+
+/// Reads one file of a distribution into the entry of k, which is replaced.
+void Read_VL_distribution(const std::string& file_name, std::uint32_t k,
+                          By_k<Distribution_table>& table, std::string& errors);
+
+/// Reads the links of communities: blocks of a line "INDEX:" and lines of two names. A block
+/// without links has no entry unless it is the last one. Throws Xep_file_not_found, or Xerror_msg
+/// at a line that can't be read; the blocks before that of the line are kept.
+void Read_com_links(Links_by_index& table, const std::string& file_name);
+
+}  // namespace gns

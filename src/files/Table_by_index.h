@@ -1,0 +1,149 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <iterator>
+#include <optional>
+#include <stdexcept>
+#include <utility>
+#include <vector>
+
+namespace gns {
+
+/// A map from the signed index of a clique or community to a row of values, ascending. The rows
+/// stand one behind the other in one `Values`, in the order in which they came.
+///
+/// It is filled first and read then: each Add() opens a row, and Finish() ends the filling.
+template <typename Values>
+class Table_by_index {
+ public:
+  using key_type = std::int32_t;
+  using mapped_type = typename Values::Row;
+  using value_type = std::pair<key_type, mapped_type>;
+
+  Table_by_index() = default;
+  Table_by_index(std::initializer_list<std::pair<key_type, Values>> rows) {
+    for (const auto& [key, values] : rows) Add(key).Append(values);
+    Finish();
+  }
+
+  /// Opens the row of a key: what is appended to the values before the next Add() or Finish()
+  /// belongs to it. It replaces an earlier row of that key. Always yields the same object.
+  Values& Add(key_type key) {
+    Close();
+    entries_.push_back({key, 0, values_.Place()});
+    count_at_open_ = values_.size();
+    return values_;
+  }
+  /// Makes room for the rows of a text of so many bytes.
+  void Reserve_for_text(std::size_t bytes) { values_.Reserve_for_text(bytes); }
+  /// Takes the row that is open away again, with what it got.
+  void Drop() {
+    values_.Cut(entries_.back().place, *count_at_open_);
+    entries_.pop_back();
+    count_at_open_.reset();
+  }
+  void Finish() {
+    Close();
+    values_.Shrink_to_fit();
+    if (std::ranges::adjacent_find(entries_, std::ranges::greater_equal(), &Entry::key) ==
+        entries_.end())
+      return;
+    std::ranges::stable_sort(entries_, {}, &Entry::key);
+    // Of rows with the same key the last one counts.
+    const auto same_key = [](const Entry& a, const Entry& b) { return a.key == b.key; };
+    const auto replaced = std::unique(entries_.rbegin(), entries_.rend(), same_key);
+    entries_.erase(entries_.begin(), replaced.base());
+  }
+
+  class Iterator {
+   public:
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = Table_by_index::value_type;
+    using difference_type = std::ptrdiff_t;
+    using reference = value_type;
+    struct pointer {
+      value_type entry;
+      const value_type* operator->() const { return &entry; }
+    };
+
+    Iterator() = default;
+    Iterator(const Table_by_index* table, std::size_t at) : table_(table), at_(at) {}
+
+    value_type operator*() const {
+      const Entry& entry = table_->entries_[at_];
+      return {entry.key, table_->values_.Row_at(entry.place, entry.count)};
+    }
+    pointer operator->() const { return {**this}; }
+    Iterator& operator++() {
+      ++at_;
+      return *this;
+    }
+    Iterator operator++(int) { return {table_, at_++}; }
+    bool operator==(const Iterator& other) const { return at_ == other.at_; }
+
+   private:
+    const Table_by_index* table_ = nullptr;
+    std::size_t at_ = 0;
+  };
+  using const_iterator = Iterator;
+
+  [[nodiscard]] std::size_t size() const { return entries_.size(); }
+  [[nodiscard]] bool empty() const { return entries_.empty(); }
+  [[nodiscard]] Iterator begin() const { return {this, 0}; }
+  [[nodiscard]] Iterator end() const { return {this, entries_.size()}; }
+  [[nodiscard]] Iterator find(key_type key) const {
+    const auto found = std::ranges::lower_bound(entries_, key, {}, &Entry::key);
+    if (found == entries_.end() || found->key != key) return end();
+    return {this, static_cast<std::size_t>(found - entries_.begin())};
+  }
+  [[nodiscard]] bool contains(key_type key) const { return find(key) != end(); }
+  /// Throws std::out_of_range if there is no such row.
+  [[nodiscard]] mapped_type at(key_type key) const {
+    const Iterator found = find(key);
+    if (found == end()) throw std::out_of_range("no row of this index");
+    return (*found).second;
+  }
+  bool operator==(const Table_by_index& other) const {
+    return std::ranges::equal(*this, other, [](const value_type& a, const value_type& b) {
+      return a.first == b.first && std::ranges::equal(a.second, b.second);
+    });
+  }
+
+ private:
+  struct Entry {
+    key_type key;
+    std::uint32_t count;
+    std::size_t place;
+  };
+
+  void Close() {
+    if (count_at_open_)
+      entries_.back().count = static_cast<std::uint32_t>(values_.size() - *count_at_open_);
+    count_at_open_.reset();
+  }
+
+  std::vector<Entry> entries_;
+  Values values_;
+  std::optional<std::size_t> count_at_open_;
+};
+
+/// Ends the filling of a table, if there is one, however its scope is left.
+template <typename Table>
+class Filling {
+ public:
+  explicit Filling(Table* table) : table_(table) {}
+  ~Filling() {
+    if (table_ != nullptr) table_->Finish();
+  }
+  Filling(const Filling&) = delete;
+  Filling& operator=(const Filling&) = delete;
+
+ private:
+  Table* table_;
+};
+
+}  // namespace gns
