@@ -47,7 +47,7 @@ void Set_unfinished_mark(const std::string& output_dir) {
 }
 
 bool Is_marked_unfinished(const std::string& output_dir) {
-  return Is_mark(Unfinished_mark_of(output_dir));
+  return !output_dir.empty() && Is_mark(Unfinished_mark_of(output_dir));
 }
 
 void Remove_unfinished_mark(const std::string& output_dir) {

@@ -209,9 +209,10 @@ TEST(ThreadsResultTables, ASecondCallIsRefused) {
             run_finished);
   EXPECT_EQ(refused, 2);
   EXPECT_FALSE(std::filesystem::exists(p.output_dir));
-  EXPECT_EQ(Load_coms(temp.Path("none"), 0, tables, errors),
-            "ERROR: List_dir() called on " + temp.Path("none") +
-                " and\nA component of the path file_name does not exist.");
+  for (const std::string& missing : {temp.Path("none"), std::string()})
+    EXPECT_EQ(Load_coms(missing, 0, tables, errors),
+              "ERROR: List_dir() called on " + missing +
+                  " and\nA component of the path file_name does not exist.");
 }
 
 }  // namespace
