@@ -1,0 +1,133 @@
+package zumo.community;
+
+import java.io.IOException;
+import java.nio.file.DirectoryStream;
+import java.nio.file.Files;
+import java.nio.file.Path;
+
+/**
+ * A run to be started: link file, directory for the results, and what differs from a plain run.
+ *
+ * <pre>OutParams results = new Run("links.txt", "results").lowerThreshold(0.5).findAndLoad();</pre>
+ */
+public final class Run {
+  private static final String STOPPED = "Process stopped by user.\n";
+
+  private final String linkFile;
+  private final String resultsDir;
+  private boolean directed;
+  private Double intensityThreshold;
+  private Double lowerThreshold;
+  private Double upperThreshold;
+  private Integer singleK;
+  private Double timeLimit;
+
+  /** A plain run; the directory must not exist yet, or be empty. */
+  public Run(String linkFile, String resultsDir) {
+    this.linkFile = linkFile;
+    this.resultsDir = resultsDir;
+  }
+
+  /** Takes links, cliques and communities as directed. */
+  public Run directed() {
+    directed = true;
+    return this;
+  }
+
+  /** Takes the intensity method, with this lower threshold of the link weight intensity. */
+  public Run intensityThreshold(double threshold) {
+    intensityThreshold = threshold;
+    return this;
+  }
+
+  /** Drops links of this weight or less. */
+  public Run lowerThreshold(double weight) {
+    lowerThreshold = weight;
+    return this;
+  }
+
+  /** Drops links of this weight or more. */
+  public Run upperThreshold(double weight) {
+    upperThreshold = weight;
+    return this;
+  }
+
+  /** Looks for communities at this k only. */
+  public Run singleK(int k) {
+    singleK = k;
+    return this;
+  }
+
+  /** Limits the processor time that the search may spend on a node at a time. */
+  public Run timeLimit(double seconds) {
+    timeLimit = seconds;
+    return this;
+  }
+
+  /**
+   * Runs and leaves the results in the directory.
+   *
+   * @throws Exception as {@link ExternalCalls#Find_coms}
+   */
+  public void find() throws Exception {
+    call(ExternalCalls::Find_coms);
+  }
+
+  /**
+   * Runs, leaves the results in the directory and returns them too.
+   *
+   * @throws Exception as {@link ExternalCalls#findAndLoadComs}
+   */
+  public OutParams findAndLoad() throws Exception {
+    return call(ExternalCalls::findAndLoadComs);
+  }
+
+  /**
+   * Reads the results of an earlier run, of whichever kind it was.
+   *
+   * @throws Exception as {@link ExternalCalls#loadComs}
+   */
+  public static OutParams load(String resultsDir) throws Exception {
+    Path dir = Path.of(resultsDir);
+    return ExternalCalls.loadComs(
+        resultsDir, Files.exists(dir.resolve("directed_graph")), isFromIntensityRun(dir));
+  }
+
+  private static boolean isFromIntensityRun(Path dir) throws IOException {
+    if (!Files.isDirectory(dir)) return false;
+    try (DirectoryStream<Path> extractions = Files.newDirectoryStream(dir, "k=*")) {
+      for (Path extraction : extractions)
+        if (Files.exists(extraction.resolve("intensity_communities"))) return true;
+    }
+    return false;
+  }
+
+  /** Whether a run ended with this exception because of {@link ExternalCalls#Stop_process}. */
+  public static boolean isStop(Throwable failure) {
+    return STOPPED.equals(failure.getMessage());
+  }
+
+  private interface Entry {
+    OutParams call(
+        String linkFile, String resultsDir, boolean directed,
+        boolean useIntensity, double intensityThreshold,
+        boolean useLowerThreshold, double lowerThreshold,
+        boolean useUpperThreshold, double upperThreshold,
+        boolean useSingleK, int singleK,
+        boolean useTimeLimit, double timeLimitSeconds) throws Exception;
+  }
+
+  private OutParams call(Entry entry) throws Exception {
+    return entry.call(
+        linkFile, resultsDir, directed,
+        intensityThreshold != null, orZero(intensityThreshold),
+        lowerThreshold != null, orZero(lowerThreshold),
+        upperThreshold != null, orZero(upperThreshold),
+        singleK != null, singleK != null ? singleK : 0,
+        timeLimit != null, orZero(timeLimit));
+  }
+
+  private static double orZero(Double value) {
+    return value != null ? value : 0;
+  }
+}

@@ -1,0 +1,62 @@
+package zumo.community;
+
+import java.util.concurrent.CompletableFuture;
+
+/** A command-line program on top of this package: finds communities or reads those found before. */
+public final class Sample {
+  private static final int FINISHED = 0;
+  private static final int FAILED = 1;
+  private static final int WRONG_USAGE = 2;
+  private static final int STOPPED = 130;
+
+  private Sample() {}
+
+  public static void main(String[] args) {
+    SampleOptions options = null;
+    try {
+      options = SampleOptions.parse(args);
+    } catch (IllegalArgumentException wrong) {
+      System.err.println(wrong.getMessage() + "\n\n" + SampleOptions.USAGE);
+      System.exit(WRONG_USAGE);
+    }
+    if (options.help()) {
+      System.out.println(SampleOptions.USAGE);
+      return;
+    }
+    CompletableFuture<Integer> exitCode = new CompletableFuture<>();
+    exitCode.complete(carryOut(options, exitCode));
+    System.exit(exitCode.join());
+  }
+
+  private static int carryOut(SampleOptions options, CompletableFuture<Integer> exitCode) {
+    try {
+      NativeLibrary.load();
+      if (options.run() != null) stopOnSignal(exitCode);
+      System.out.print(SampleSummary.of(results(options)));
+      return FINISHED;
+    } catch (Exception | UnsatisfiedLinkError | OutOfMemoryError failure) {
+      String text = failure.getMessage() != null ? failure.getMessage() : failure.toString();
+      System.err.println(text.stripTrailing());
+      return Run.isStop(failure) ? STOPPED : FAILED;
+    }
+  }
+
+  private static OutParams results(SampleOptions options) throws Exception {
+    SampleProgress progress = new SampleProgress();
+    progress.start();
+    try {
+      return options.run() != null ? options.run().findAndLoad() : Run.load(options.resultsDir());
+    } finally {
+      progress.finish();
+    }
+  }
+
+  /** Lets a signal that ends the process (Ctrl-C, say) stop the run first and wait for its end. */
+  private static void stopOnSignal(CompletableFuture<Integer> exitCode) {
+    Runtime.getRuntime().addShutdownHook(new Thread(() -> {
+      if (exitCode.isDone()) return;
+      ExternalCalls.Stop_process();
+      Runtime.getRuntime().halt(exitCode.join());
+    }));
+  }
+}

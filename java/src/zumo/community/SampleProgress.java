@@ -1,0 +1,37 @@
+package zumo.community;
+
+/** A thread that shows on standard error what a run is doing, whenever that has changed. */
+final class SampleProgress extends Thread {
+  private static final long PAUSE_MS = 500;
+
+  private String shown = "";
+
+  SampleProgress() {
+    super("progress");
+    setDaemon(true);
+  }
+
+  @Override
+  public void run() {
+    try {
+      while (true) {
+        Thread.sleep(PAUSE_MS);
+        show(ExternalCalls.Read_state_report());
+      }
+    } catch (InterruptedException theRunIsOver) {
+      show(ExternalCalls.Read_state_report());
+    }
+  }
+
+  private void show(String report) {
+    if (report.equals(shown)) return;
+    shown = report;
+    System.err.println(report.stripTrailing());
+  }
+
+  /** Shows the last report and ends the thread. */
+  void finish() throws InterruptedException {
+    interrupt();
+    join();
+  }
+}
