@@ -1,0 +1,41 @@
+package zumo.community;
+
+import static org.junit.Assert.assertEquals;
+import static org.junit.Assert.assertNotNull;
+import static org.junit.Assert.assertNull;
+import static org.junit.Assert.assertThrows;
+import static org.junit.Assert.assertTrue;
+
+import java.util.Map;
+import org.junit.Test;
+
+public class SampleOptionsTest {
+  private static SampleOptions parse(String commandLine) {
+    return SampleOptions.parse(commandLine.isEmpty() ? new String[0] : commandLine.split(" "));
+  }
+
+  @Test
+  public void switchesMayStandAnywhere() {
+    assertNotNull(parse("-D links.txt -w -1.5 results -W 1e3 -t 0.1 -k 4 -I 2").run());
+    assertNull(parse("links.txt results").resultsDir());
+    assertEquals("results", parse("--load results").resultsDir());
+    assertNull(parse("--load results").run());
+    assertTrue(parse("links.txt -h").help());
+  }
+
+  @Test
+  public void wrongUsageIsToldByName() {
+    Map.of(
+        "", "A link file and a directory for the results must be given",
+        "links.txt", "A link file and a directory for the results must be given",
+        "links.txt results more", "A link file and a directory for the results must be given",
+        "links.txt results -x", "Unknown switch -x",
+        "links.txt results -k", "-k needs a value",
+        "links.txt results -k 3.5", "-k needs a number, not 3.5",
+        "-w links.txt results", "-w needs a number, not links.txt",
+        "--load results links.txt", "--load goes with nothing else",
+        "--load results -D", "--load goes with nothing else"
+    ).forEach((commandLine, message) -> assertEquals(message,
+        assertThrows(IllegalArgumentException.class, () -> parse(commandLine)).getMessage()));
+  }
+}
