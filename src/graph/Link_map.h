@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "graph/Name_numbers.h"
 #include "graph/Name_table.h"
 #include "graph/Node_set.h"
 
@@ -56,13 +57,8 @@ class Link_map_builder {
   Link_map Build();
 
  private:
-  std::uint32_t Number_of(std::string_view name);
-  void Grow_slots();
-  std::vector<std::uint32_t> Sort_names();
-
   bool weighted_;
-  Name_table names_;                  ///< in order of first appearance
-  std::vector<std::uint64_t> slots_;  ///< open addressing: upper half of the hash, number + 1
+  Name_numbers names_;
   std::vector<Index_pair> pairs_;
   std::vector<double> weights_;
 };
