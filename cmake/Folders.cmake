@@ -3,15 +3,25 @@
 
 set(VORLANE_FOLDERS "" CACHE INTERNAL "folders declared so far, from the ground up")
 
-function(vorlane_objects out)
+# The objects of a folder and of all that it may use.
+function(vorlane_objects out name)
   set(objects)
-  foreach(folder IN LISTS VORLANE_FOLDERS)
+  foreach(folder IN LISTS VORLANE_USED_BY_${name} ITEMS ${name})
     list(APPEND objects $<TARGET_OBJECTS:folder_${folder}>)
   endforeach()
   set(${out} ${objects} PARENT_SCOPE)
 endfunction()
 
+# vorlane_folder(NAME [BESIDE FOLDER...]): it may use the folders declared before, but for those
+# that it stands beside.
 function(vorlane_folder name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" BESIDE)
+  set(used ${VORLANE_FOLDERS})
+  if(arg_BESIDE)
+    list(REMOVE_ITEM used ${arg_BESIDE})
+  endif()
+  set(VORLANE_USED_BY_${name} ${used} CACHE INTERNAL "")
+
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${name}/*.cpp)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   add_library(folder_${name} OBJECT ${sources})
@@ -19,15 +29,16 @@ function(vorlane_folder name)
   target_compile_definitions(folder_${name} PRIVATE VORLANE_VERSION="${PROJECT_VERSION}")
 
   set(VORLANE_FOLDERS ${VORLANE_FOLDERS} ${name} CACHE INTERNAL "")
-  vorlane_objects(objects)
+  vorlane_objects(objects ${name})
   file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/layers/${name}.cpp CONTENT "int main() {}\n")
   add_executable(layer_${name} ${PROJECT_BINARY_DIR}/layers/${name}.cpp ${objects})
   set_target_properties(layer_${name} PROPERTIES
                         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/layers)
 endfunction()
 
-function(vorlane_static_library name)
-  vorlane_objects(objects)
+# vorlane_static_library(NAME TOP): the folder TOP and those that it uses.
+function(vorlane_static_library name top)
+  vorlane_objects(objects ${top})
   add_library(${name} STATIC ${objects})
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
 endfunction()
@@ -35,4 +46,14 @@ endfunction()
 function(vorlane_program name)
   add_executable(${name} ${PROJECT_SOURCE_DIR}/src/cli/main.cpp $<TARGET_OBJECTS:folder_cli>)
   target_link_libraries(${name} PRIVATE vorlane_engine Threads::Threads)
+endfunction()
+
+# A shared library for Java to load: it exports what src/bridge/exports.map names, nothing else.
+function(vorlane_java_library name output_name)
+  set(exports ${PROJECT_SOURCE_DIR}/src/bridge/exports.map)
+  add_library(${name} MODULE $<TARGET_OBJECTS:folder_bridge>)
+  target_link_libraries(${name} PRIVATE vorlane_engine Threads::Threads)
+  target_link_options(${name} PRIVATE LINKER:--version-script=${exports} LINKER:--no-undefined)
+  set_target_properties(${name} PROPERTIES OUTPUT_NAME ${output_name} LINK_DEPENDS ${exports}
+                        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
 endfunction()

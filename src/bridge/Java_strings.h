@@ -1,0 +1,43 @@
+#pragma once
+
+#include <jni.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "bridge/Local_ref.h"
+#include "bridge/Modified_utf8.h"
+
+namespace gns {
+
+/// The bytes of a Java string in the JVM's default character set; nothing if they can't be had.
+/// Then a Java error is pending, or the JVM has refused room. A string with a zero byte inside is
+/// refused, for it can't be the path that the caller means.
+std::optional<std::string> String_to_C(JNIEnv* env, jstring java_string);
+
+/// Makes Java strings of bytes in the JVM's default character set; looks up once what it needs.
+class Byte_strings {
+ public:
+  /// Throws Java_error_pending if the JVM has no room or no such class.
+  explicit Byte_strings(JNIEnv* env);
+
+  /// A new local reference, or null if the JVM has no memory for it; the error is then pending.
+  [[nodiscard]] jstring Make(std::string_view text) const;
+
+ private:
+  JNIEnv* env_;
+  Local_ref<jclass> type_;
+  jmethodID init_;
+};
+
+/// One string by way of Byte_strings; null if it can't be had.
+jstring C_to_String(JNIEnv* env, std::string_view text);
+
+/// A Java string of a text in UTF-8, for all but broken bytes: those become U+FFFD. `encoding`
+/// lends its memory. A new local reference, or null with an error pending.
+inline jstring Utf_to_String(JNIEnv* env, Modified_utf8& encoding, std::string_view text) {
+  return env->NewStringUTF(encoding.Of(text));
+}
+
+}  // namespace gns

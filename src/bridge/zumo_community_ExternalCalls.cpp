@@ -1,0 +1,214 @@
+#include "bridge/zumo_community_ExternalCalls.h"
+
+#include <atomic>
+#include <cstdint>
+#include <exception>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "bridge/Java_class.h"
+#include "bridge/Java_errors.h"
+#include "bridge/Java_strings.h"
+#include "bridge/Translate_result.h"
+#include "control/Clique_find_ext_cont.h"
+#include "control/Sole_call.h"
+#include "engine/Find_coms.h"
+#include "engine/Load_coms.h"
+#include "foundation/Errors.h"
+
+namespace gns {
+
+namespace {
+
+using external_control::JAVA_CPP_TRANSLATE_STATE_REPORT;
+
+/// The arguments of a run as Java gives them, in their order there.
+struct Run_arguments {
+  jstring input_file;
+  jstring output_dir;
+  jboolean directed;
+  jboolean use_intensity;
+  jdouble intensity_threshold;
+  jboolean use_lower_threshold;
+  jdouble lower_threshold;
+  jboolean use_upper_threshold;
+  jdouble upper_threshold;
+  jboolean use_single_k;
+  jint single_k;
+  jboolean use_time_limit;
+  jdouble time_limit;
+};
+
+/// Calls the body of a native method. No C++ exception crosses into the JVM: it becomes a
+/// java/lang/Exception, unless a Java error is pending already, and the method yields nothing.
+template <typename Body>
+auto Native_method(JNIEnv* env, Body body) noexcept -> decltype(body()) {
+  try {
+    return body();
+  } catch (const Java_error_pending&) {
+  } catch (const std::exception& failure) {
+    Throw_exception(env, failure.what());
+  } catch (...) {
+    Throw_exception(env, "ERROR: a failure of unknown kind.\n");
+  }
+  return decltype(body())();
+}
+
+std::atomic<bool> going_on = false;
+
+/// The same for the methods of which only one at a time may go on in a process.
+template <typename Body>
+jobject Sole_native_method(JNIEnv* env, Body body) noexcept {
+  return Native_method(env, [&] {
+    const external_control::Sole_call sole(going_on);
+    JAVA_CPP_TRANSLATE_STATE_REPORT = std::string();
+    return body();
+  });
+}
+
+void Print_line(std::ostream& stream, const char* line) { stream << line << std::endl; }
+
+void Print_success(bool approximation_needed) {
+  Print_line(std::cout, " process ended succesfully");
+  Print_line(std::cout,
+             approximation_needed ? " approximation was needed" : " no approximation was needed");
+}
+
+std::string Needed_string(JNIEnv* env, jstring java_string) {
+  std::optional<std::string> text = String_to_C(env, java_string);
+  if (!text) throw Java_error_pending();
+  return std::move(*text);
+}
+
+Run_parameters Parameters_of(JNIEnv* env, const Run_arguments& a) {
+  Run_parameters p;
+  p.input_file = Needed_string(env, a.input_file);
+  p.output_dir = Needed_string(env, a.output_dir);
+  p.use_lower_threshold = a.use_lower_threshold != JNI_FALSE;
+  p.lower_threshold = a.lower_threshold;
+  p.use_upper_threshold = a.use_upper_threshold != JNI_FALSE;
+  p.upper_threshold = a.upper_threshold;
+  p.directed = a.directed != JNI_FALSE;
+  p.use_intensity = a.use_intensity != JNI_FALSE;
+  p.intensity_threshold = a.intensity_threshold;
+  p.use_time_limit = a.use_time_limit != JNI_FALSE;
+  p.time_limit = a.time_limit;
+  p.use_single_k = a.use_single_k != JNI_FALSE;
+  p.single_k = static_cast<std::uint32_t>(a.single_k);
+  return p;
+}
+
+jobject Run(JNIEnv* env, const Run_arguments& arguments) {
+  Print_line(std::cout, " starting c++");
+  const Run_parameters parameters = Parameters_of(env, arguments);
+  Print_line(std::cout, " in/out args converted");
+  const Java_class out_params(env, "zumo/community/OutParams");
+  Local_ref<jobject> result = out_params.New(out_params.Method("<init>", "()V"));
+
+  Print_line(std::cout, " calling Find_coms");
+  bool approximation_needed = false;
+  Run_summary summary;
+  const std::string message = Find_coms(parameters, approximation_needed, summary);
+  if (message == run_finished)
+    Print_success(approximation_needed);
+  else
+    Throw_exception(env, message.c_str());
+  return result.Release();
+}
+
+jobject Run_and_translate(JNIEnv* env, const Run_arguments& arguments) {
+  const Run_parameters parameters = Parameters_of(env, arguments);
+  bool approximation_needed = false;
+  Run_summary summary;
+  Com_result_tables tables;
+  const std::string message = Find_coms(parameters, approximation_needed, summary, &tables);
+  if (message != run_finished) throw Xerror_msg(message);
+  Print_success(approximation_needed);
+  return translateResultToJava(env, parameters.directed, std::move(tables));
+}
+
+jobject Load_and_translate(JNIEnv* env, jstring java_results_dir, bool directed,
+                           bool use_intensity) {
+  const std::string results_dir = Needed_string(env, java_results_dir);
+  Com_result_tables tables;
+  std::string errors;
+  const std::uint32_t load_mode = use_intensity ? 2 : directed ? 1 : 0;
+  JAVA_CPP_TRANSLATE_STATE_REPORT = " Loading results: from disk";
+  Print_line(std::cerr, "calling Load_coms: ");
+  const std::string message = Load_coms(results_dir, load_mode, tables, errors);
+  if (message != run_finished) throw Xerror_msg(message);
+  Print_line(std::cout, " process ended succesfully");
+  JAVA_CPP_TRANSLATE_STATE_REPORT = " Loading results: read from disk";
+  if (!errors.empty()) throw Xerror_msg(errors);
+  Print_line(std::cerr, "Load_coms finished.");
+  return translateResultToJava(env, directed, std::move(tables));
+}
+
+std::string State_report() {
+  std::string report = JAVA_CPP_TRANSLATE_STATE_REPORT.Text();
+  return report.empty() ? Read_state_report() : report;
+}
+
+/// What a native method yields that reads a text.
+jstring Text_to_Java(JNIEnv* env, std::string (*read)()) {
+  return Native_method(env, [&] {
+    Modified_utf8 encoding;
+    return Utf_to_String(env, encoding, read());
+  });
+}
+
+}  // namespace
+
+}  // namespace gns
+
+jobject Java_zumo_community_ExternalCalls_Find_1coms(
+    JNIEnv* env, jobject /*receiver*/, jstring input_file, jstring output_dir, jboolean directed,
+    jboolean use_intensity, jdouble intensity_threshold, jboolean use_lower_threshold,
+    jdouble lower_threshold, jboolean use_upper_threshold, jdouble upper_threshold,
+    jboolean use_single_k, jint single_k, jboolean use_time_limit, jdouble time_limit) {
+  return gns::Sole_native_method(env, [&] {
+    return gns::Run(env, {input_file, output_dir, directed, use_intensity, intensity_threshold,
+                          use_lower_threshold, lower_threshold, use_upper_threshold,
+                          upper_threshold, use_single_k, single_k, use_time_limit, time_limit});
+  });
+}
+
+jobject Java_zumo_community_ExternalCalls_findAndLoadComs(
+    JNIEnv* env, jobject /*receiver*/, jstring input_file, jstring output_dir, jboolean directed,
+    jboolean use_intensity, jdouble intensity_threshold, jboolean use_lower_threshold,
+    jdouble lower_threshold, jboolean use_upper_threshold, jdouble upper_threshold,
+    jboolean use_single_k, jint single_k, jboolean use_time_limit, jdouble time_limit) {
+  return gns::Sole_native_method(env, [&] {
+    return gns::Run_and_translate(
+        env, {input_file, output_dir, directed, use_intensity, intensity_threshold,
+              use_lower_threshold, lower_threshold, use_upper_threshold, upper_threshold,
+              use_single_k, single_k, use_time_limit, time_limit});
+  });
+}
+
+jobject Java_zumo_community_ExternalCalls_loadComs(JNIEnv* env, jobject /*receiver*/,
+                                                   jstring results_dir, jboolean directed,
+                                                   jboolean use_intensity) {
+  return gns::Sole_native_method(env, [&] {
+    return gns::Load_and_translate(env, results_dir, directed != JNI_FALSE,
+                                   use_intensity != JNI_FALSE);
+  });
+}
+
+void Java_zumo_community_ExternalCalls_Stop_1process(JNIEnv* /*env*/, jobject /*receiver*/) {
+  gns::Stop_process();
+}
+
+void Java_zumo_community_ExternalCalls_Reset_1stop_1process(JNIEnv* /*env*/, jobject /*receiver*/) {
+  gns::Reset_stop_process();
+}
+
+jstring Java_zumo_community_ExternalCalls_Read_1state_1report(JNIEnv* env, jobject /*receiver*/) {
+  return gns::Text_to_Java(env, gns::State_report);
+}
+
+jstring Java_zumo_community_ExternalCalls_Read_1error_1message(JNIEnv* env, jobject /*receiver*/) {
+  return gns::Text_to_Java(env, gns::Read_error_message);
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <jni.h>
+
+/// The native methods of the Java class zumo/community/ExternalCalls, all that the library exports.
+///
+/// A failure is a java/lang/Exception with the message of the run. Find_coms, findAndLoadComs and
+/// loadComs are refused while one of them is going on; the others return at once and are made for
+/// other threads.
+extern "C" {
+
+/// Runs and yields an empty zumo/community/OutParams; the results are on disk only.
+JNIEXPORT jobject JNICALL Java_zumo_community_ExternalCalls_Find_1coms(
+    JNIEnv* env, jobject receiver, jstring input_file, jstring output_dir, jboolean directed,
+    jboolean use_intensity, jdouble intensity_threshold, jboolean use_lower_threshold,
+    jdouble lower_threshold, jboolean use_upper_threshold, jdouble upper_threshold,
+    jboolean use_single_k, jint single_k, jboolean use_time_limit, jdouble time_limit);
+
+/// Runs and yields a zumo/community/OutParams with the results.
+JNIEXPORT jobject JNICALL Java_zumo_community_ExternalCalls_findAndLoadComs(
+    JNIEnv* env, jobject receiver, jstring input_file, jstring output_dir, jboolean directed,
+    jboolean use_intensity, jdouble intensity_threshold, jboolean use_lower_threshold,
+    jdouble lower_threshold, jboolean use_upper_threshold, jdouble upper_threshold,
+    jboolean use_single_k, jint single_k, jboolean use_time_limit, jdouble time_limit);
+
+/// Yields a zumo/community/OutParams with the results of an earlier run of the kind told.
+JNIEXPORT jobject JNICALL Java_zumo_community_ExternalCalls_loadComs(JNIEnv* env, jobject receiver,
+                                                                     jstring results_dir,
+                                                                     jboolean directed,
+                                                                     jboolean use_intensity);
+
+/// Asks the run that is going on to end.
+JNIEXPORT void JNICALL Java_zumo_community_ExternalCalls_Stop_1process(JNIEnv* env,
+                                                                       jobject receiver);
+
+/// Takes a stop request back; nothing else does.
+JNIEXPORT void JNICALL Java_zumo_community_ExternalCalls_Reset_1stop_1process(JNIEnv* env,
+                                                                              jobject receiver);
+
+/// The latest state report: of the translation, or, while that has none, of the run.
+JNIEXPORT jstring JNICALL Java_zumo_community_ExternalCalls_Read_1state_1report(JNIEnv* env,
+                                                                                jobject receiver);
+
+/// Always empty.
+JNIEXPORT jstring JNICALL Java_zumo_community_ExternalCalls_Read_1error_1message(JNIEnv* env,
+                                                                                 jobject receiver);
+}
