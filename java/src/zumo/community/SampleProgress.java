@@ -19,7 +19,7 @@ final class SampleProgress extends Thread {
         show(ExternalCalls.Read_state_report());
       }
     } catch (InterruptedException theRunIsOver) {
-      show(ExternalCalls.Read_state_report());
+      return;
     }
   }
 
@@ -29,7 +29,6 @@ final class SampleProgress extends Thread {
     System.err.println(report.stripTrailing());
   }
 
-  /** Shows the last report and ends the thread. */
   void finish() throws InterruptedException {
     interrupt();
     join();
