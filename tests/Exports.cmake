@@ -1,0 +1,12 @@
+# cmake -DNM=... -DLIBRARY=... -P Exports.cmake: fails unless the library exports the Java entries
+# and nothing else.
+execute_process(COMMAND ${NM} -D --defined-only --format=just-symbols ${LIBRARY}
+                OUTPUT_VARIABLE exports COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "[^\n]+" exports "${exports}")
+list(TRANSFORM exports REPLACE "^Java_zumo_community_ExternalCalls_" "")
+list(SORT exports)
+set(entries Find_1coms Read_1error_1message Read_1state_1report Reset_1stop_1process
+            Stop_1process findAndLoadComs loadComs)
+if(NOT exports STREQUAL entries)
+  message(FATAL_ERROR "exported: ${exports}")
+endif()
