@@ -25,7 +25,7 @@ final class Calls {
         yield new OutParams();
       }
       case "findAndLoad" -> new Run(words[1], words[2]).findAndLoad();
-      case "fair" -> new Run(words[1], words[2]).timeLimit(1e-6).findAndLoad();
+      case "limited" -> new Run(words[1], words[2]).timeLimit(1e-6).findAndLoad();
       case "weighted" ->
           new Run(words[1], words[2]).lowerThreshold(4.5).intensityThreshold(5.25).findAndLoad();
       case "load" -> ExternalCalls.loadComs(words[1], false, false);

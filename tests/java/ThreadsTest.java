@@ -44,7 +44,7 @@ public class ThreadsTest {
   }
 
   private static void awaitReport(String report) {
-    while (!ExternalCalls.Read_state_report().equals(report)) Thread.onSpinWait();
+    while (!ExternalCalls.Read_state_report().equals(report)) Thread.yield();
   }
 
   /** The run waits for its links at a pipe. */
@@ -79,6 +79,7 @@ public class ThreadsTest {
         while (!over.get()) {
           reports.add(ExternalCalls.Read_state_report());
           assertEquals("", ExternalCalls.Read_error_message());
+          Thread.yield();
         }
       });
       watchers[i].start();

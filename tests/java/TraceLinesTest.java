@@ -36,7 +36,7 @@ public class TraceLinesTest {
   @Test
   public void ofApproximation() throws Exception {
     Child child = Child.run(List.of(), Map.of(),
-        "fair|" + Examples.file("fair.txt") + "|" + dir.getRoot() + "/fair");
+        "limited|" + Examples.hard(dir.getRoot().toPath()) + "|" + dir.getRoot() + "/limited");
     assertEquals(" process ended succesfully\n approximation was needed\n",
         child.out().substring(0, child.out().indexOf('=')));
     assertEquals("", child.err());
