@@ -48,12 +48,15 @@ function(vorlane_program name)
   target_link_libraries(${name} PRIVATE vorlane_engine Threads::Threads)
 endfunction()
 
-# A shared library for Java to load: it exports what src/bridge/exports.map names, nothing else.
+# A shared library for Java to load: src/bridge/module/ has what only it needs, and exports.map
+# there names its exports.
 function(vorlane_java_library name output_name)
-  set(exports ${PROJECT_SOURCE_DIR}/src/bridge/exports.map)
-  add_library(${name} MODULE $<TARGET_OBJECTS:folder_bridge>)
+  set(module ${PROJECT_SOURCE_DIR}/src/bridge/module)
+  add_library(${name} MODULE ${module}/Lasting_variables.cpp $<TARGET_OBJECTS:folder_bridge>)
   target_link_libraries(${name} PRIVATE vorlane_engine Threads::Threads)
-  target_link_options(${name} PRIVATE LINKER:--version-script=${exports} LINKER:--no-undefined)
-  set_target_properties(${name} PROPERTIES OUTPUT_NAME ${output_name} LINK_DEPENDS ${exports}
+  target_link_options(${name} PRIVATE LINKER:--version-script=${module}/exports.map
+                      LINKER:--no-undefined)
+  set_target_properties(${name} PROPERTIES OUTPUT_NAME ${output_name}
+                        LINK_DEPENDS ${module}/exports.map
                         LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
 endfunction()

@@ -1,5 +1,5 @@
 # cmake -DNM=... -DLIBRARY=... -P Exports.cmake: fails unless the library exports the Java entries
-# and nothing else.
+# and nothing else, and leaves no destructors for the end of the process.
 execute_process(COMMAND ${NM} -D --defined-only --format=just-symbols ${LIBRARY}
                 OUTPUT_VARIABLE exports COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "[^\n]+" exports "${exports}")
@@ -9,4 +9,10 @@ set(entries Find_1coms Read_1error_1message Read_1state_1report Reset_1stop_1pro
             Stop_1process findAndLoadComs loadComs)
 if(NOT exports STREQUAL entries)
   message(FATAL_ERROR "exported: ${exports}")
+endif()
+
+execute_process(COMMAND ${NM} -D --undefined-only --format=just-symbols ${LIBRARY}
+                OUTPUT_VARIABLE imports COMMAND_ERROR_IS_FATAL ANY)
+if(imports MATCHES "__cxa_atexit")
+  message(FATAL_ERROR "variables are destroyed while threads may use them")
 endif()
