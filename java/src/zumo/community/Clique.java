@@ -7,10 +7,15 @@ import java.util.List;
 /** A maximal clique, or what stands in for the cliques that a time limit has cut off. */
 public final class Clique {
   private final boolean approximate;
-  private final ArrayList<String> vertices = new ArrayList<>();
+  private final List<String> vertices;
 
   public Clique(boolean approximate) {
+    this(approximate, new ArrayList<>());
+  }
+
+  Clique(boolean approximate, List<String> vertices) {
     this.approximate = approximate;
+    this.vertices = vertices;
   }
 
   public void addVertex(String name) {
@@ -27,10 +32,16 @@ public final class Clique {
     return Collections.unmodifiableList(vertices);
   }
 
-  /** Nothing more is to come: gives up spare room and names that others hold too. */
-  void finish(NodeNames names) {
-    vertices.replaceAll(names);
-    vertices.trimToSize();
+  /** Equal are cliques of one kind with the same nodes in the same order. */
+  @Override
+  public boolean equals(Object other) {
+    return other instanceof Clique clique && approximate == clique.approximate
+        && vertices.equals(clique.vertices);
+  }
+
+  @Override
+  public int hashCode() {
+    return vertices.hashCode();
   }
 
   @Override

@@ -9,8 +9,7 @@ public final class Community {
   private final boolean approximate;
   private final ArrayList<String> vertices = new ArrayList<>();
   private final ArrayList<String> edgeEnds = new ArrayList<>();
-  private final IntTable<Integer> cliquePositions =
-      new IntTable<>(1, (values, begin) -> values[begin]);
+  private final IntTable<Integer> cliquePositions = IntTable.ofInts();
   private int k;
   private boolean directed;
   private NodeNames names = new NodeNames();

@@ -27,6 +27,11 @@ final class IntTable<T> extends AbstractList<T> implements RandomAccess {
     this.view = view;
   }
 
+  /** A table of single ints. */
+  static IntTable<Integer> ofInts() {
+    return new IntTable<>(1, (values, begin) -> values[begin]);
+  }
+
   /** Adds one value; a row is there when all of it has been added. */
   void append(int value) {
     if (used == values.length) values = Arrays.copyOf(values, Math.max(8, used + used / 2));

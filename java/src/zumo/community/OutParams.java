@@ -1,6 +1,5 @@
 package zumo.community;
 
-import java.util.ArrayList;
 import java.util.Collections;
 import java.util.List;
 import java.util.NavigableSet;
@@ -24,7 +23,7 @@ public final class OutParams {
       List.of(SIZE_DIST, DEGREE_DIST, OVERLAP_DIST, MEMBERSHIP_DIST);
   private static final Extraction NOTHING = new Extraction();
 
-  private final ArrayList<Clique> cliques = new ArrayList<>();
+  private final CliqueList cliques = new CliqueList();
   private final TreeMap<Integer, Extraction> extractions = new TreeMap<>();
   private InParams inParams = new InParams();
   private NodeNames names = new NodeNames();
@@ -44,8 +43,7 @@ public final class OutParams {
   public void addClique(Clique clique, int index) {
     if (Math.abs(index) != cliques.size())
       throw new IllegalArgumentException("clique " + index + " comes as number " + cliques.size());
-    clique.finish(names);
-    cliques.add(clique);
+    cliques.append(clique, names);
   }
 
   public void addVertexToCommunity(Community community, String name) {
@@ -97,7 +95,7 @@ public final class OutParams {
 
   /** All cliques; the position in the list is the clique's number. */
   public List<Clique> getCliques() {
-    return Collections.unmodifiableList(cliques);
+    return cliques;
   }
 
   /** The clique of a number as it stands in the files, with or without its minus sign. */

@@ -34,7 +34,11 @@ public final class Sample {
       if (options.run() != null) stopOnSignal(exitCode);
       System.out.print(SampleSummary.of(results(options)));
       return FINISHED;
-    } catch (Exception | UnsatisfiedLinkError | OutOfMemoryError failure) {
+    } catch (OutOfMemoryError failure) {
+      System.err.println("Not enough memory: " + failure.getMessage()
+          + " (the option -Xmx of java sets how much it may use)");
+      return FAILED;
+    } catch (Exception | UnsatisfiedLinkError failure) {
       String text = failure.getMessage() != null ? failure.getMessage() : failure.toString();
       System.err.println(text.stripTrailing());
       return Run.isStop(failure) ? STOPPED : FAILED;
