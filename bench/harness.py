@@ -62,6 +62,12 @@ def build_tools():
             ROOT / "bench" / "rivals" / "maximal_cliques.c", *igraph)
 
 
+def build_on_library(name):
+    """Builds a program of this folder that uses the library."""
+    succeed("g++", "-std=c++20", "-O3", f"-I{ROOT / 'src'}", "-o", TOOLS / name,
+            ROOT / "bench" / f"{name}.cpp", ROOT / "build" / "libvorlane_engine.a", "-pthread")
+
+
 def measure(command, accepted=(0,)):
     """Runs a command to its end; any exit code that is not accepted ends the benchmark."""
     with tempfile.NamedTemporaryFile(mode="r") as report:

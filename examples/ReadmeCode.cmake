@@ -1,0 +1,18 @@
+# readme_code(LANGUAGE FILE): writes the code block of that language in the README to a file in the
+# build folder of the examples.
+function(readme_code language file)
+  set(readme ${PROJECT_SOURCE_DIR}/README.md)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${readme})
+  file(READ ${readme} text)
+  set(opening "```${language}\n")
+  string(FIND "${text}" "${opening}" start)
+  if(start EQUAL -1)
+    message(FATAL_ERROR "The README has no code in ${language}.")
+  endif()
+  string(LENGTH "${opening}" length)
+  math(EXPR start "${start} + ${length}")
+  string(SUBSTRING "${text}" ${start} -1 code)
+  string(FIND "${code}" "```" end)
+  string(SUBSTRING "${code}" 0 ${end} code)
+  file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${file} CONTENT "${code}" @ONLY)
+endfunction()
