@@ -105,7 +105,7 @@ TEST(ReadData, EqualsThePlainReadersOnRandomText) {
   const std::vector<std::string> pieces = {
       "\n", "\n\n", ":",  "::", " ",  " ",  ";",  ";;",  "#",  "a",        "1",         "2",
       "-",  "+",    "b ", "\t", " 7", "3 ", "\r", "\0"s, "0x", "\n4 5 6 ", "\n8: 9 1 ", "\n-2:\n"};
-  const std::string characters = "\n:; a";
+  const std::string characters = "\n:; 1";
   for (std::uint32_t seed = 0; seed < 3000; ++seed) {
     std::mt19937 random(seed);
     std::string text;
@@ -176,6 +176,19 @@ TEST(StringChopper, TakesWordsOffTheFront) {
   text = long_names;
   text >> names;
   EXPECT_EQ(names, (Name_list{"c", std::string(200, 'd'), "c", std::string(5000, 'd'), "e"}));
+}
+
+TEST(StringChopper, AnyCharacterCanDelimitNumbers) {
+  for (const std::string text : {" 25  7 ", "3325337", "-25--7", ".25.7", "e25e7e"}) {
+    my_string_chopper_class::Set_delims({text[0]});
+    Index_list numbers;
+    std::string_view rest = text;
+    rest >> numbers;
+    EXPECT_EQ(std::vector<std::int32_t>(numbers.begin(), numbers.end()),
+              (std::vector<std::int32_t>{25, 7}))
+        << text;
+  }
+  my_string_chopper_class::Set_delims_default();
 }
 
 TEST(PairFields, FormattedInputOfBothFields) {
