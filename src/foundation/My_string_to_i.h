@@ -34,10 +34,11 @@ bool Convert_plain(std::string_view text, Integer& number) {
 
 /// Takes integers in their plain form off the front of `text` while one comes behind the other with
 /// delimiters between, and calls use(number) for each. What is left is empty or begins with a word
-/// of another form.
+/// of another form. Takes nothing if the delimiter is a digit.
 template <typename Use>
 void Chop_plain(std::string_view& text, char delimiter, Use use) {
   constexpr std::ptrdiff_t most_digits = std::numeric_limits<std::int32_t>::digits10;
+  if (delimiter >= '0' && delimiter <= '9') return;
   const char* at = text.data();
   const char* const end = at + text.size();
   for (;;) {

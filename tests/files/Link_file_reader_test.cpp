@@ -2,15 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <limits>
-#include <map>
 #include <random>
 #include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "Literal_readers.h"
+#include "Table_words.h"
 #include "Temp_dir.h"
 #include "foundation/Errors.h"
 
@@ -19,65 +18,17 @@ namespace {
 
 using namespace std::string_literals;
 
-struct Thresholds {
-  bool use_lower = false;
-  double lower = 0;
-  bool use_upper = false;
-  double upper = 0;
-};
+using literal::Thresholds;
+using literal::Wrong;
 
-/// What a reader made of a file, in words: "a b=1.5|b a=2|", and behind it, if it threw, the text
-/// of its exception.
-std::string In_words(const std::map<std::pair<std::string, std::string>, double>& links) {
-  std::ostringstream words;
-  for (const auto& [key, weight] : links)
-    words << key.first << ' ' << key.second << '=' << weight << '|';
-  return words.str();
-}
-
-std::string Wrong_line(const std::string& line) {
-  return "ERROR: Wrong line found in ' the file I was reading' :\n" + line;
-}
-
+/// What a reader made of a file, in words.
 std::string Read(const std::string& path, bool weighted, const Thresholds& t = {}) {
-  Link_map links;
-  std::string failure;
-  try {
+  return Words_after(Link_map(), [&](Link_map& links) {
     if (weighted)
       Read_weighted_links(path, links, t.use_lower, t.lower, t.use_upper, t.upper);
     else
       Read_unw_links(path, links);
-  } catch (const Xep_wrong_line& error) {
-    failure = Wrong_line(error.wrong_line);
-    EXPECT_STREQ(error.what(), failure.c_str());  // ends at a NUL byte
-  }
-  std::map<std::pair<std::string, std::string>, double> plain;
-  for (std::size_t i = 0; i < links.size(); ++i)
-    plain[{std::string(links.First(i)), std::string(links.Second(i))}] = links.Weight(i);
-  return In_words(plain) + failure;
-}
-
-/// The readers told line by line with the formatted input of the standard library.
-std::string Read_literally(const std::string& text, bool weighted, const Thresholds& t) {
-  std::map<std::pair<std::string, std::string>, double> links;
-  std::istringstream file(text);
-  for (std::string line; std::getline(file, line);) {
-    const std::size_t first = line.find_first_not_of(" \t");
-    if (first == std::string::npos) continue;
-    line = line.substr(first, line.find_last_not_of(" \t") - first + 1);
-    if (line.size() == 1 || line[0] == '#') continue;
-    std::istringstream fields(line);
-    std::string a;
-    std::string b;
-    double weight = 0;
-    fields >> a >> b;
-    if (weighted) fields >> weight;
-    if (!fields) return In_words(links) + Wrong_line(line);
-    if (a == b || (t.use_lower && !(weight > t.lower)) || (t.use_upper && !(weight < t.upper)))
-      continue;
-    links[{a, b}] += weight;
-  }
-  return In_words(links);
+  });
 }
 
 TEST(LinkFileReader, EqualsFormattedInputOnRandomText) {
@@ -97,8 +48,8 @@ TEST(LinkFileReader, EqualsFormattedInputOnRandomText) {
     const std::string text = file.str();
     const Thresholds thresholds = {seed % 2 == 0, 1.0, seed % 3 == 0, 3.0};
     const std::string path = temp.Write(std::to_string(seed), text);
-    ASSERT_EQ(Read(path, true, thresholds), Read_literally(text, true, thresholds)) << text;
-    ASSERT_EQ(Read(path, false), Read_literally(text, false, {})) << text;
+    ASSERT_EQ(Read(path, true, thresholds), literal::Links(text, true, thresholds)) << text;
+    ASSERT_EQ(Read(path, false), literal::Links(text, false)) << text;
   }
 }
 
@@ -112,8 +63,8 @@ TEST(LinkFileReader, LongFilesAndLongNames) {
             std::to_string(random() % 3000) + " " + std::to_string(line) + "\n";
   text += std::string(1U << 20U, 'x') + " " + std::string(3U << 20U, 'y') + " 5";
   const std::string path = temp.Write("links", text);
-  EXPECT_TRUE(Read(path, true) == Read_literally(text, true, {}));
-  EXPECT_TRUE(Read(path, false) == Read_literally(text, false, {}));
+  EXPECT_TRUE(Read(path, true) == literal::Links(text, true));
+  EXPECT_TRUE(Read(path, false) == literal::Links(text, false));
 }
 
 TEST(LinkFileReader, KnownFiles) {
@@ -127,20 +78,20 @@ TEST(LinkFileReader, KnownFiles) {
            {"", "", ""},
            {"\n \t \n\n# only\n  # comments\n#", "", ""},
            {"x\n\r\n#\n-\n", "", ""},
-           {"xy\n", Wrong_line("xy"), Wrong_line("xy")},
-           {"a b 1\n \txy \t\nb c 1\n", "a b=0|" + Wrong_line("xy"), "a b=1|" + Wrong_line("xy")},
+           {"xy\n", Wrong("xy"), Wrong("xy")},
+           {"a b 1\n \txy \t\nb c 1\n", "a b=0|" + Wrong("xy"), "a b=1|" + Wrong("xy")},
            {"a b 1\r\nb a 2\r\n", "a b=0|b a=0|", "a b=1|b a=2|"},
            {"a b 1\nb a 2", "a b=0|b a=0|", "a b=1|b a=2|"},
            {"\ta\tb\v1\f5\n", "a b=0|", "a b=1|"},
            {"a # 2\n", "a #=0|", "a #=2|"},
-           {"a # b\n", "a #=0|", Wrong_line("a # b")},
-           {"a b # 2\n", "a b=0|", Wrong_line("a b # 2")},
+           {"a # b\n", "a #=0|", Wrong("a # b")},
+           {"a b # 2\n", "a b=0|", Wrong("a b # 2")},
            {"a b 2 # c\n", "a b=0|", "a b=2|"},
            {"1 01 1\n01 1.0 1\n", "01 1.0=0|1 01=0|", "01 1.0=1|1 01=1|"},
            {"a b 1\na b 2\nb a 4\n", "a b=0|b a=0|", "a b=3|b a=4|"},
            {"a a 5\nb c 0\nc b -2\n", "b c=0|c b=0|", "b c=0|c b=-2|"},
-           {"b c 1\na a\n", "b c=0|", "b c=1|" + Wrong_line("a a")},
-           {"a b x\n", "a b=0|", Wrong_line("a b x")},
+           {"b c 1\na a\n", "b c=0|", "b c=1|" + Wrong("a a")},
+           {"a b x\n", "a b=0|", Wrong("a b x")},
            {"a\0 b 1\na b 2\n"s, "a b=0|a\0 b=0|"s, "a b=2|a\0 b=1|"s},
            {"\0\n"s, "", ""},
            {"\xff\xfe \xc3 1\n", "\xff\xfe \xc3=0|", "\xff\xfe \xc3=1|"},
@@ -151,10 +102,21 @@ TEST(LinkFileReader, KnownFiles) {
   }
 }
 
+TEST(LinkFileReader, TellsTheWrongLine) {
+  const Temp_dir temp;
+  Link_map links;
+  try {
+    Read_unw_links(temp.Write("links", "a b\n\txy \n"), links);
+    ADD_FAILURE();
+  } catch (const Xep_wrong_line& error) {
+    EXPECT_STREQ(error.what(), "ERROR: Wrong line found in ' the file I was reading' :\nxy");
+  }
+}
+
 TEST(LinkFileReader, OddNumbers) {
   const Temp_dir temp;
   for (const std::string number : {"nan", "inf", "-inf", "1e400", "-", "1e", "e5", ".", ",5"})
-    EXPECT_EQ(Read(temp.Write("links", "a b " + number), true), Wrong_line("a b " + number));
+    EXPECT_EQ(Read(temp.Write("links", "a b " + number), true), Wrong("a b " + number));
   for (const auto& [number, value] :
        std::vector<std::pair<std::string, std::string>>{{"0x1p3", "0"},
                                                         {"3abc", "3"},
@@ -185,7 +147,7 @@ TEST(LinkFileReader, ThresholdsTestEachLine) {
   for (const auto& [thresholds, expected] : cases)
     EXPECT_EQ(Read(path, true, thresholds), expected);
   EXPECT_EQ(Read(temp.Write("links", "a b 9\nc c 9\nd e\n"), true, {true, 10, false, 0}),
-            Wrong_line("d e"));
+            Wrong("d e"));
 }
 
 TEST(LinkFileReader, WhatIsNoFileLeavesTheLinksAlone) {
