@@ -1,6 +1,7 @@
 #include "files/Community_files.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "control/Clique_find_ext_cont.h"
 #include "files/Result_lines.h"
@@ -104,6 +105,7 @@ void Kiir_coms_cliques_VL_ret(const Row_array<Clique_index>& com_cliques,
                               By_k<Indices_by_index>* tables) {
   const std::string dir_of_k = Prepared_dir(output_dir, k);
   Text_writer file(results_names::In_dir_of_k(dir_of_k, com_flag, "communities_cliques"));
+  constexpr std::uint32_t all_exact = std::numeric_limits<std::uint32_t>::max();
   const std::string flag = Lead(com_flag, ' ');
   Write_head(file, "# The contained " + flag + "cliques in the " + flag + "communities ", k,
              run_header);
@@ -113,10 +115,12 @@ void Kiir_coms_cliques_VL_ret(const Row_array<Clique_index>& com_cliques,
     Write_index(file, com, exact_com_count);
     file << ": ";
     Index_list* const indices = Open_row(entry.Get(), com, exact_com_count);
+    // What an exact community holds is exact.
+    const std::uint32_t exact_count = com < exact_com_count ? all_exact : exact_clique_count;
     for (const Clique_index clique : com_cliques[com]) {
-      Write_index(file, clique, exact_clique_count);
+      Write_index(file, clique, exact_count);
       file << ' ';
-      if (indices != nullptr) indices->push_back(Signed_index(clique, exact_clique_count));
+      if (indices != nullptr) indices->push_back(Signed_index(clique, exact_count));
     }
     file << '\n';
   }

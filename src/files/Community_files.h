@@ -30,7 +30,8 @@ inline void Kiir_coms_VL(const Row_array<Node_index>& coms, const std::string& o
   Kiir_coms_VL_ret(coms, output_dir, k, node_names, exact_com_count, com_flag, run_header, nullptr);
 }
 
-/// A line per community: its index and the indices of its cliques in claim order.
+/// A line per community: its index and the indices of its cliques in claim order. On the lines of
+/// approximate communities clique indices at and behind `exact_clique_count` carry a minus sign.
 void Kiir_coms_cliques_VL_ret(const Row_array<Clique_index>& com_cliques,
                               const std::string& output_dir, std::uint32_t k,
                               std::uint32_t exact_com_count, std::uint32_t exact_clique_count,

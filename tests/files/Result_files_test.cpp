@@ -88,6 +88,9 @@ TEST(CommunityFiles, FlagsAndCounts) {
     EXPECT_TRUE(files.at("k=3/graph_of_" + flag + "_communities")
                     .starts_with("# The graph of " + flag + " at k=3\n#" + header + "\n0 1 1\n"));
   }
+  EXPECT_TRUE(Community_files("", 2, 1)
+                  .at("k=3/communities_cliques")
+                  .ends_with("\n0: 0 3 \n1: 1 \n-2: -2 -7 \n"));
   const Files files = Community_files("", 0, 0);
   EXPECT_TRUE(files.at("k=3/communities").ends_with("-0: a b c d \n-1: d e f \n-2: f g h \n"));
   EXPECT_TRUE(files.at("k=3/communities_cliques").ends_with("-0: -0 -3 \n-1: -1 \n-2: -2 -7 \n"));
