@@ -73,9 +73,10 @@ std::string_view& operator>>(std::string_view& text, Name_list& values) {
 
 std::string_view& operator>>(std::string_view& text, Index_list& values) {
   const Character_set& delimiters = my_string_chopper_class::delimeters;
+  std::string_view rest = text;
   if (delimiters.size() == 1)
-    Chop_plain(text, delimiters.Only(), [&](std::int32_t value) { values.push_back(value); });
-  For_each_word(text, delimiters, [&](std::string_view word) {
+    Chop_plain(rest, delimiters.Only(), [&](std::int32_t value) { values.push_back(value); });
+  For_each_word(rest, delimiters, [&](std::string_view word) {
     values.push_back(Convert_word(word, refused_in_list, suspicious_in_list));
   });
   return End_of_list(text, values);

@@ -33,7 +33,8 @@ class my_string_chopper_class {
 std::string_view& operator>>(std::string_view& text, std::string& value);
 std::string_view& operator>>(std::string_view& text, std::int32_t& value);
 
-/// Takes all words and appends them to the values. Throws Xerror_msg if `values` is empty then.
+/// Takes all words and appends them to the values. Throws Xerror_msg if `values` is empty then. The
+/// text stays whole if this throws.
 std::string_view& operator>>(std::string_view& text, Name_list& values);
 std::string_view& operator>>(std::string_view& text, Index_list& values);
 

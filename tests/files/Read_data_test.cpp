@@ -169,6 +169,10 @@ TEST(StringChopper, TakesWordsOffTheFront) {
   EXPECT_EQ(text, "");
   Name_list names;
   EXPECT_THROW(text >> names, Xerror_msg);
+  Chopper::Set_delims({' '});
+  text = " 1 2 x 3";
+  EXPECT_THROW(text >> numbers, Xerror_msg);
+  EXPECT_EQ(text, " 1 2 x 3");
   const std::string long_names = "c " + std::string(5000, 'd') + "  e";
   text = std::string_view(long_names).substr(0, 202);
   text >> names;
