@@ -91,8 +91,11 @@ class Program_run {
     std::cerr << "vorlane: " << faults.size() << " file(s) could not be written:\n";
     for (const File_fault& fault : faults)
       std::cerr << "  " << fault.path << ": " << fault.reason << "\n";
-    std::cerr << "The results are not whole; " << Unfinished_mark_of(start_.parameters.output_dir)
-              << " tells so.\n";
+    std::cerr << "The results are not whole";
+    const std::string& output_dir = start_.parameters.output_dir;
+    if (Is_marked_unfinished(output_dir))
+      std::cerr << "; " << Unfinished_mark_of(output_dir) << " tells so";
+    std::cerr << ".\n";
   }
 
   void Print_findings() const {

@@ -65,8 +65,9 @@ void Open_results(Run_start& start) {
   const Run_parameters& p = start.parameters;
   Extend_alap_szoveg(start.run_header, p.use_intensity, p.intensity_threshold, p.directed,
                      p.use_time_limit, p.time_limit, p.use_single_k, p.single_k);
-  Forget_file_faults();
   Set_unfinished_mark(p.output_dir);
+  // The results are none the worse where no mark can be made, as in a directory of somebody else.
+  Forget_file_faults();
   Kiir_params(p.output_dir, start.run_header);
 }
 

@@ -52,7 +52,8 @@ bool Is_marked_unfinished(const std::string& output_dir) {
 
 void Remove_unfinished_mark(const std::string& output_dir) {
   const std::string mark = Unfinished_mark_of(output_dir);
-  if (::unlink(mark.c_str()) != 0) Note_file_fault(mark, "remove", errno);
+  if (Is_there_such_path(mark) && ::unlink(mark.c_str()) != 0)
+    Note_file_fault(mark, "remove", errno);
 }
 
 }  // namespace gns

@@ -236,6 +236,15 @@ TEST_F(SmallRun, TheMarkReplacesNothingButAMark) {
   }
 }
 
+/// The name of the mark would be too long. It is the same with a directory above that nobody may
+/// write to.
+TEST_F(SmallRun, GoesOnWhereNoMarkCanStand) {
+  parameters_.output_dir = temp_.Path(std::string(250, 'o'));
+  EXPECT_EQ(Run(), run_finished);
+  EXPECT_EQ(Written().size(), 3U + 2 * 8U);
+  EXPECT_TRUE(File_faults().empty());
+}
+
 TEST_F(SmallRun, StopBeforeTheFirstPoll) {
   Stop_process();
   EXPECT_EQ(Run(), "Process stopped by user.\n");
