@@ -31,6 +31,7 @@ bool Is_mark(const std::string& path) {
 }  // namespace
 
 std::string Unfinished_mark_of(const std::string& output_dir) {
+  if (output_dir.empty()) throw Xerror_msg("ERROR: the output directory has no name.\n");
   std::filesystem::path path = std::filesystem::absolute(output_dir).lexically_normal();
   if (!path.has_filename()) path = path.parent_path();
   return path.string() + ".unfinished";

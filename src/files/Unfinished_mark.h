@@ -7,7 +7,8 @@ namespace gns {
 /// A file beside a results directory that stands there while the directory isn't whole: made before
 /// the first write of a run, removed as the last act of a run that finished.
 
-/// Its path: the name of the directory with ".unfinished" behind it.
+/// Its path: the name of the directory with ".unfinished" behind it. Throws Xerror_msg if the name
+/// is empty.
 std::string Unfinished_mark_of(const std::string& output_dir);
 
 /// Makes the mark, and the directory's missing parents. Throws Xerror_msg if something else than a

@@ -200,6 +200,9 @@ TEST_F(SmallRun, AFailureLeavesWhatWasWrittenAndTheMark) {
 }
 
 TEST_F(SmallRun, OutputOnOrBelowAFile) {
+  parameters_.output_dir = "";
+  EXPECT_EQ(Run(), "ERROR: the output directory has no name.\n");
+  parameters_.output_dir = temp_.Path("out");
   temp_.Write("out", "moved aside");
   EXPECT_EQ(Run(), run_finished);
   EXPECT_EQ(temp_.Read("out1"), "moved aside");
