@@ -131,7 +131,7 @@ def add_network_options(parser):
                         help="link files (.gz too) or directories of them; without: the directory "
                         "in VORLANE_NETWORKS")
     parser.add_argument("--more-than", type=int, default=10_000, metavar="LINKS",
-                        help="leave out networks with fewer links (default: %(default)s)")
+                        help="leave out networks of so many links or fewer (default: %(default)s)")
     parser.add_argument("--skip", nargs="*", default=["facebook_combined"], metavar="NAME",
                         help="networks to leave out (default: %(default)s)")
 

@@ -22,7 +22,10 @@ public final class Clique {
     vertices.add(name);
   }
 
-  /** Whether its nodes need not all be linked with each other. */
+  /**
+   * Whether its nodes need not all be linked with each other. The clique at position 0 always
+   * counts as exact, since only the sign of a position tells.
+   */
   public boolean isApproximate() {
     return approximate;
   }

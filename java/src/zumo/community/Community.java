@@ -64,7 +64,10 @@ public final class Community {
     return k;
   }
 
-  /** Whether an approximate clique is in it. */
+  /**
+   * Whether an approximate clique is in it. The community at position 0 always counts as exact,
+   * since only the sign of a position tells.
+   */
   public boolean isApproximate() {
     return approximate;
   }
