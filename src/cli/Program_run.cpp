@@ -122,6 +122,9 @@ Exit_code Run_program(int argc, const char* const* argv) {
   } catch (const Xerror_msg& failure) {
     std::cout << failure.what();
     return Exit_code::wrong_usage;
+  } catch (const std::exception& failure) {
+    std::cerr << "vorlane: " << failure.what() << "\n";
+    return Exit_code::run_failed;
   }
 }
 

@@ -83,6 +83,7 @@ TEST_F(Program, EndsWithItsExitCodeAndMessage) {
            {{"-i", "none"}, 1, "ERROR : File not found: 'none' \n"},
            {{"-i", "dir"}, 1, "ERROR : File not found: 'dir' \n"},
            {{"-i", "net", "-o", "full"}, 1, "already exists and it is non-empty.\n"},
+           {{"-i", "net", "-o", ""}, 1, "ERROR: the output directory has no name.\n"},
            {{"-i", "net", "-I", "1", "-k", "2"}, 1, "-clique size must be at least 3"},
            {{"-i", "net", "-o", "net"}, 1, "it is the input file"},
            {{"-i", "net", "-o", "dir/../net/out"}, 1, "it is the input file"}}) {
@@ -156,6 +157,7 @@ TEST_F(Program, ListsFilesThatCouldNotBeWritten) {
   EXPECT_EQ(Run({"-i", "big", "-o", "out", "-k", "5"}, [] { Limit(RLIMIT_FSIZE, 400); }), 1);
   EXPECT_EQ(out_, "Process ended succesfully.\n");
   EXPECT_NE(err_.find("\n  out/graph: write: File too large\n"), std::string::npos) << err_;
+  EXPECT_TRUE(err_.ends_with("; " + temp_.Path("out.unfinished") + " tells so.\n")) << err_;
   EXPECT_EQ(Entries(), (Words{"big", "net", "out", "out.unfinished"}));
 }
 
