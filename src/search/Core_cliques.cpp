@@ -30,7 +30,7 @@ void Appr_core_cliques_ec(const Left_map& left_map, const Clique_vector& cliques
   for (std::uint32_t i = 0; i < left_map.size(); ++i) {
     external_control::Check_for_stop_signal();
     const Node_span set = left_map.neighs[i];
-    if (set.empty() || exact.Covers(set)) continue;
+    if (exact.Covers(set)) continue;
     const auto takes_its_place = [&](std::uint32_t other) {
       return other != i && (other < i || left_map.neighs[other].size() > set.size());
     };

@@ -20,10 +20,11 @@ class Inclusion_index {
   /// `sets` must outlive the object unchanged.
   explicit Inclusion_index(const Sets& sets);
 
-  /// True if a set that `counts(index)` accepts holds every member of `members`, which ascend and
-  /// are not empty. An equal set holds them.
+  /// True if a set that `counts(index)` accepts holds every member of `members`, which ascend. An
+  /// equal set holds them, and any set holds none.
   template <typename Counts>
   [[nodiscard]] bool Covers(Node_span members, Counts counts) const {
+    if (members.empty()) return Any_set(counts);
     const List list = Shortest_list(members);
     const std::uint64_t bits = Fold(members);
     for (std::size_t at = list.first; at < list.last; ++at)
@@ -42,6 +43,12 @@ class Inclusion_index {
     std::size_t last;
   };
 
+  template <typename Counts>
+  [[nodiscard]] bool Any_set(Counts counts) const {
+    for (std::uint32_t set = 0; set < sets_.size(); ++set)
+      if (counts(set)) return true;
+    return false;
+  }
   static std::uint64_t Fold(Node_span members);
   [[nodiscard]] List List_of(Node_index node) const;
   [[nodiscard]] List Shortest_list(Node_span members) const;

@@ -28,11 +28,10 @@ void Expect_matrix_of(const std::vector<Set>& cliques, Overlap_matrix& matrix) {
         << i;
 }
 
-/// A left map of the nodes of `graph` that have links.
+/// A left map of all nodes of `graph`, those without links too.
 Left_map Left_of(const Graph& graph) {
   Left_map left;
   for (const auto& [node, neighs] : graph) {
-    if (neighs.empty()) continue;
     left.nodes.push_back(node);
     left.neighs.push_back(std::vector<Node_index>(neighs.begin(), neighs.end()));
   }
@@ -51,6 +50,9 @@ struct Merged {
     Clique_vector core_rows;
     core_rows.push_back(std::vector<Node_index>{7});  // to be cleared
     Appr_core_cliques_ec(left, rows, core_rows);
+    Clique_vector dir_core_rows = core_rows;
+    Appr_core_cliques_dir_ec(left, rows, dir_core_rows);
+    EXPECT_EQ(As_sets(dir_core_rows), As_sets(core_rows));
     core = As_sets(core_rows);
     Extend_clique_vec(rows, exact_clique_count, core_rows);
     Extend_ovlp_matr_ec(matrix, rows, exact_clique_count);
@@ -93,11 +95,16 @@ TEST(CoreCliques, KnownLeftMaps) {
             {{6, 7, 8, 10}, {1}},
             {{2, 3, 4}, {3, 4, 5}, {6, 7, 9}}},
            {"nothing in common", {{1, 2}}, {{3, 4, 5}}, {{2}, {1}}, {{3, 4, 5}}},
+           {"no links", {{1}, {2}}, {}, {{}}, {}},
+           {"no links, but a clique", {{1}}, {{3, 4, 5}}, {}, {{3, 4, 5}}},
            {"nothing left", {}, {{1, 2, 3}}, {}, {{1, 2, 3}}},
        }) {
     SCOPED_TRACE(c.name);
     Graph graph;
-    for (const Set& set : c.linked) literal::Link_all(graph, set);
+    for (const Set& set : c.linked) {
+      for (const Node_index node : set) graph[node];
+      literal::Link_all(graph, set);
+    }
     const Merged merged(Left_of(graph), c.exact);
     EXPECT_EQ(merged.core, c.core);
     EXPECT_EQ(merged.exact_clique_count, c.exact_left.size());
