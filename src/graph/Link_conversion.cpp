@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "foundation/Errors.h"
 #include "graph/Pair_sort.h"
 
 namespace gns {
@@ -64,6 +65,10 @@ void Convert_s_links(Index_links& index_links, Node_names& node_names, const Lin
 }
 
 void Vtx_map_from_link_map(Vertex_map& vtx_map, const Index_links& index_links) {
+  For_each_key(index_links, [&](Node_index first, Node_index second) {
+    if (second <= first && index_links.contains(second, first))
+      throw Xerror_msg("ERROR: Vtx::Add_neigh() : attempt to add already exisiting neigh. ");
+  });
   // Each row comes out ascending: its smaller members are entered from their own, earlier rows.
   vtx_map = Vertex_map(Adjacency(index_links.Node_count(), [&](auto enter) {
     For_each_key(index_links, [&](Node_index first, Node_index second) {

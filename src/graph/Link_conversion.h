@@ -15,7 +15,8 @@ namespace gns {
 void Convert_s_links(Index_links& index_links, Node_names& node_names, const Link_map& links,
                      bool directed);
 
-/// Builds the undirected graph from keys with the smaller index first.
+/// Builds the undirected graph from keys with the smaller index first. Throws Xerror_msg if a link
+/// stands there in both directions, or leads from a node to itself.
 void Vtx_map_from_link_map(Vertex_map& vtx_map, const Index_links& index_links);
 
 /// Builds the directed graph from (from, to) keys.

@@ -174,6 +174,21 @@ TEST(LinkConversion, KnownLinks) {
   }
 }
 
+/// Keys of a directed run, in which one link comes twice, are refused.
+TEST(LinkConversion, UndirectedMapWithALinkInBothDirections) {
+  for (const std::vector<Index_pair>& keys :
+       std::vector<std::vector<Index_pair>>{{{1, 2}, {1, 3}, {3, 1}}, {{1, 2}, {2, 2}}}) {
+    Vertex_map vtx_map;
+    try {
+      Vtx_map_from_link_map(vtx_map, Index_links(keys, {}, 3));
+      ADD_FAILURE();
+    } catch (const Xerror_msg& error) {
+      EXPECT_STREQ(error.what(),
+                   "ERROR: Vtx::Add_neigh() : attempt to add already exisiting neigh. ");
+    }
+  }
+}
+
 TEST(LinkMap, OrderAndSums) {
   // Bytes compare unsigned, a prefix comes first, and a NUL is a byte like any other.
   EXPECT_EQ(Listed(Built({{"b", "\xc3", 1},
