@@ -10,11 +10,12 @@ namespace gns {
 
 void Coms_from_appr_ovlp_matr(Row_array<Node_index>& coms, Row_array<Index_pair>& com_links,
                               Row_array<Clique_index>& com_cliques, const Clique_vector& cliques,
-                              const Overlap_matrix& /*overlap_matrix*/, std::uint32_t k,
+                              const Overlap_matrix& overlap_matrix, std::uint32_t k,
                               std::uint32_t exact_clique_count, std::uint32_t& exact_com_count) {
   constexpr bool nested = true;  // right for cliques of any kind
   Percolation percolation(cliques, exact_clique_count, nested);
-  const Communities& found = percolation.At(k);
+  const Communities none;
+  const Communities& found = overlap_matrix.size() == 0 ? none : percolation.At(k);
   coms = found.coms;
   com_links = found.com_links;
   com_cliques = found.com_cliques;

@@ -11,7 +11,7 @@ namespace gns {
 
 /// The k-clique communities at one k, from cliques and their overlap matrix; see Percolation, which
 /// serves runs over many k. The first three arguments and the last are written. The matrix is a
-/// view of the cliques, so nothing is read from it.
+/// view of the cliques, so its rows are not read; one without rows yields no communities.
 void Coms_from_appr_ovlp_matr(Row_array<Node_index>& coms, Row_array<Index_pair>& com_links,
                               Row_array<Clique_index>& com_cliques, const Clique_vector& cliques,
                               const Overlap_matrix& overlap_matrix, std::uint32_t k,

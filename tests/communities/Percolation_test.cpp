@@ -179,6 +179,17 @@ TEST(ComsFuncs, CommunitiesAtOneK) {
   }
 }
 
+TEST(ComsFuncs, NoRowsNoCommunities) {
+  const Clique_vector cliques = literal::Rows_of({{1, 2, 3}});
+  Communities found;
+  found.coms = cliques;  // to be cleared
+  found.exact_com_count = 1;
+  Coms_from_appr_ovlp_matr(found.coms, found.com_links, found.com_cliques, cliques,
+                           Overlap_matrix(), 3, 1, found.exact_com_count);
+  EXPECT_TRUE(found.coms.empty() && found.com_links.empty() && found.com_cliques.empty());
+  EXPECT_EQ(found.exact_com_count, 0U);
+}
+
 TEST(ComsFuncs, ReportAndSizes) {
   struct Case {
     std::uint32_t k;
