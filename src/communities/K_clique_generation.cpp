@@ -41,12 +41,12 @@ void Search(const Weighted_cliques& cliques, K_cliques& k_cliques, double intens
 
   const std::vector<std::uint32_t> done_behind = Cliques_done_behind(cliques, k);
   K_clique_search search(cliques, k, intensity_threshold);
-  for (Node_index root = 1; root <= cliques.Node_count(); ++root) {
+  for (Node_index root = 1; remaining > 0; ++root) {
+    progress->Set_remaining(remaining);
     search.Search_from(root, k_cliques);
     if (k_cliques.size() > std::numeric_limits<K_clique_index>::max())
       throw Xerror_msg("ERROR: there are more k-cliques than can be numbered.\n");
     remaining -= done_behind[root];
-    progress->Set_remaining(remaining);
   }
 }
 

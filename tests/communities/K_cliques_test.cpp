@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <bit>
 #include <cmath>
 #include <random>
@@ -162,6 +163,22 @@ TEST_F(ThreadsKCliques, ReportAndStop) {
   EXPECT_THROW(Generate_k_cls_from_cls_ec(cliques, k_cliques, 20, 2.0), std::logic_error);
   watcher.join();
   EXPECT_EQ(Read_state_report(), " Process stopped by user.\n");
+}
+
+/// The clique at hand counts as remaining, so the work is never told to be done while it goes on;
+/// here nearly all nodes stand behind the only clique.
+TEST_F(ThreadsKCliques, ProgressNeverReachesTheWhole) {
+  const Weighted_sample sample(Cliques({{1, 3}}, 2.0), 3000000);
+  const Weighted_cliques cliques(sample.cliques, sample.index_links);
+  std::atomic<bool> ended = false;
+  std::thread generation([&] {
+    K_cliques k_cliques(3);
+    Generate_k_cls_from_cls_ec(cliques, k_cliques, 3, 1.0);
+    EXPECT_EQ(k_cliques.size(), 1U);
+    ended = true;
+  });
+  while (!ended) EXPECT_EQ(Read_state_report().find("100.00% done"), std::string::npos);
+  generation.join();
 }
 
 }  // namespace
