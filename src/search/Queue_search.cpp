@@ -127,7 +127,7 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
     }
     Note_progress(cliques.size(), queue.Size(), queue.Skipped());
   }
-  Attempt::Check_for_stop();
+  if (limit != nullptr) Attempt::Check_for_stop();
   Note_progress(cliques.size(), 0, 0);
   std::vector<Node_index> left = queue.Left();
   if (!left.empty()) hard_cliques.Record(cliques);
@@ -138,9 +138,8 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
 Left_map Search_all(Node_search& search, const Adjacency& neighs, const Node_order& order,
                     const Search_kind& kind, const Time_limit* limit, Clique_vector& cliques,
                     Overlap_matrix& overlap_matrix) {
-  std::vector<Node_index> left = Search_queue(search, order, kind, limit, cliques);
-  overlap_matrix = Overlap_matrix(cliques);
-  return Spanned_by(std::move(left), neighs);
+  overlap_matrix = Overlap_matrix(cliques);  // stays right as the cliques come, up to a stop
+  return Spanned_by(Search_queue(search, order, kind, limit, cliques), neighs);
 }
 
 }  // namespace gns

@@ -34,7 +34,7 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
                                      Clique_vector& cliques);
 
 /// The whole of a search: yields what was given up as a subgraph of `neighs`, and makes the matrix
-/// a view of `cliques`.
+/// a view of `cliques`, of those recorded so far if a stop ends it.
 Left_map Search_all(Node_search& search, const Adjacency& neighs, const Node_order& order,
                     const Search_kind& kind, const Time_limit* limit, Clique_vector& cliques,
                     Overlap_matrix& overlap_matrix);

@@ -144,6 +144,30 @@ TEST(SearchReports, EndOfTheSearch) {
   EXPECT_EQ(Read_state_report(), "____________________________\n Altogether 0 cliques found.\n");
 }
 
+TEST(UndirectedSearch, AStopLeavesCliquesAndMatrixInAgreement) {
+  const Clique_vector others = literal::Rows_of({{1, 2, 3}, {2, 3, 4}});
+  Clique_vector cliques = others;
+  Overlap_matrix matrix(others);
+  Graph triangle;
+  literal::Link_all(triangle, {1, 2, 3});
+  Stop_process();
+  EXPECT_THROW(Clique_find_ec(cliques, matrix, literal::Vertex_map_of(triangle)), std::logic_error);
+  EXPECT_EQ(matrix.size(), cliques.size());
+  Reset_stop_process();
+}
+
+/// The exact search polls for the nodes alone, the one with a limit once more behind them.
+TEST(UndirectedSearch, PollsWithoutNodes) {
+  Clique_vector cliques;
+  Overlap_matrix matrix;
+  Left_map left;
+  Stop_process();
+  EXPECT_NO_THROW(Clique_find_ec(cliques, matrix, {}));
+  EXPECT_TRUE(Read_state_report().ends_with(" Altogether 0 cliques found.\n"));
+  EXPECT_THROW(Clique_find_part_time_ec(cliques, matrix, {}, left, {1.0}), std::logic_error);
+  Reset_stop_process();
+}
+
 /// A graph whose cliques nobody can list: 30 groups of three, linked to all but their own group.
 Graph Endless() {
   Graph graph = literal::Without_links(90);
