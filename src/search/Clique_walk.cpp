@@ -32,6 +32,7 @@ class Clique_walk::Descent {
       Attempt::Check_for_stop();
       if (Level() >= 2 && attempt_.Runs_over()) return;
       Step();
+      if (attempt_.Timed_out()) return;
     }
   }
 
@@ -92,7 +93,9 @@ class Clique_walk::Descent {
     const std::size_t start = memory_.excluded_.size();
     attempt_.Add_work((start - memory_.excluded_starts_[level] + count) * Words());
     if (count <= 1) {
-      Try_leaf(level, next, count == 1 ? First_bit(below, Words()) : next);
+      const bool asks_for_time = count == 1 && level >= 1;  // three nodes and a candidate
+      if (!asks_for_time || !attempt_.Runs_over())
+        Try_leaf(level, next, count == 1 ? First_bit(below, Words()) : next);
       return false;
     }
 
