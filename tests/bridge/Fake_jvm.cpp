@@ -9,99 +9,84 @@ namespace gns {
 /// The part of the JNI that the bridge uses; the rest is null.
 struct Fake_jvm::Functions : JNINativeInterface_ {
   Functions() : JNINativeInterface_() {
-    EnsureLocalCapacity = [](JNIEnv* env, jint /*room*/) -> jint {
-      Of(env).refused_room = Of(env).Fails("EnsureLocalCapacity", "");
-      return Of(env).refused_room ? JNI_ERR : JNI_OK;
+    EnsureLocalCapacity = [](JNIEnv* env, jint) { return Of(env).Fails() ? JNI_ERR : JNI_OK; };
+    FindClass = [](JNIEnv* env, const char* name) { return New<jclass>(env, {name, {}}); };
+    GetMethodID = [](JNIEnv* env, jclass, const char* name, const char* descriptor) {
+      if (Of(env).Fails()) return jmethodID{};
+      return reinterpret_cast<jmethodID>(
+          &Of(env).methods_.emplace_back(std::string(name) + descriptor));
     };
-    FindClass = [](JNIEnv* env, const char* name) -> jclass {
-      if (Of(env).Fails(name, "java/lang/NoClassDefFoundError")) return nullptr;
-      return Of(env).Refer<jclass>({"Class", name, {}});
-    };
-    GetMethodID = [](JNIEnv* env, jclass type, const char* name, const char* descriptor) {
-      Fake_jvm& jvm = Of(env);
-      if (jvm.Fails(name, "java/lang/NoSuchMethodError")) return jmethodID{nullptr};
-      jvm.methods_.push_back(std::make_unique<Method>(Method{jvm.At(type).text, name, descriptor}));
-      return reinterpret_cast<jmethodID>(jvm.methods_.back().get());
-    };
-    NewObjectV = [](JNIEnv* env, jclass type, jmethodID init, va_list arguments) -> jobject {
-      Fake_jvm& jvm = Of(env);
-      if (jvm.Fails("NewObject", "a constructor's error")) return nullptr;
-      return jvm.Construct(jvm.At(type), *reinterpret_cast<Method*>(init), arguments);
+    NewObjectV = [](JNIEnv* env, jclass type, jmethodID init, va_list arguments) {
+      if (Of(env).Fails()) return jobject{};
+      return Of(env).Construct(Of(env).At(type).text, Method(init), arguments);
     };
     CallVoidMethodV = [](JNIEnv* env, jobject object, jmethodID id, va_list arguments) {
-      Fake_jvm& jvm = Of(env);
-      const Method& method = *reinterpret_cast<Method*>(id);
-      if (jvm.Fails("CallVoidMethod", "a method's error")) return;
-      jvm.in_java();
-      jvm.calls.push_back(jvm.At(object).text + "." + method.name +
-                          jvm.Arguments(method.descriptor, arguments));
+      if (Of(env).Fails()) return;
+      Of(env).in_java();
+      const std::string& method = Method(id);
+      Of(env).calls.push_back(Of(env).At(object).text + "." + method.substr(0, method.find('(')) +
+                              Of(env).Arguments(method, arguments));
     };
-    CallObjectMethodV = [](JNIEnv* env, jobject object, jmethodID, va_list) -> jobject {
-      Fake_jvm& jvm = Of(env);  // getBytes is the only one
-      if (jvm.Fails("CallObjectMethod", "a method's error")) return nullptr;
-      return jvm.Refer<jobject>({"byte[]", jvm.At(object).text, {}});
+    CallObjectMethodV = [](JNIEnv* env, jobject object, jmethodID, va_list) {
+      return New<jobject>(env, {Of(env).At(object).text, {}});  // getBytes is the only one
     };
-    NewStringUTF = [](JNIEnv* env, const char* text) -> jstring {
-      if (Of(env).Fails("NewStringUTF", "java/lang/OutOfMemoryError")) return nullptr;
-      return Of(env).Refer<jstring>({"String", '"' + std::string(text) + '"', {}});
+    NewStringUTF = [](JNIEnv* env, const char* text) {
+      return New<jstring>(env, {'"' + std::string(text) + '"', {}});
     };
-    NewByteArray = [](JNIEnv* env, jsize size) -> jbyteArray {
-      if (Of(env).Fails("NewByteArray", "java/lang/OutOfMemoryError")) return nullptr;
-      return static_cast<jbyteArray>(
-          Of(env).Refer<jarray>({"byte[]", std::string(static_cast<std::size_t>(size), '\0'), {}}));
+    NewByteArray = [](JNIEnv* env, jsize size) {
+      return New<jbyteArray>(env, {std::string(static_cast<std::size_t>(size), '\0'), {}});
     };
     GetArrayLength = [](JNIEnv* env, jarray array) {
-      Of(env).Enter("GetArrayLength");
+      Of(env).Enter();
       return static_cast<jsize>(Of(env).At(array).text.size());
     };
     GetByteArrayRegion = [](JNIEnv* env, jbyteArray array, jsize at, jsize size, jbyte* bytes) {
-      Of(env).Enter("GetByteArrayRegion");
+      Of(env).Enter();
       std::copy_n(Of(env).At(array).text.begin() + at, size, bytes);
     };
-    SetByteArrayRegion = [](JNIEnv* env, jbyteArray array, jsize at, jsize size,
-                            const jbyte* bytes) {
-      Of(env).Enter("SetByteArrayRegion");
-      std::copy_n(bytes, size, Of(env).At(array).text.begin() + at);
+    SetByteArrayRegion = [](JNIEnv* env, jbyteArray to, jsize at, jsize size, const jbyte* bytes) {
+      Of(env).Enter();
+      std::copy_n(bytes, size, Of(env).At(to).text.begin() + at);
     };
-    NewObjectArray = [](JNIEnv* env, jsize size, jclass, jobject) -> jobjectArray {
-      if (Of(env).Fails("NewObjectArray", "java/lang/OutOfMemoryError")) return nullptr;
-      Object array{"Object[]", "", {}};
-      array.elements.resize(static_cast<std::size_t>(size));
-      return static_cast<jobjectArray>(Of(env).Refer<jarray>(std::move(array)));
+    NewObjectArray = [](JNIEnv* env, jsize size, jclass, jobject) {
+      return New<jobjectArray>(env, {"", decltype(Object::elements)(std::size_t(size))});
     };
     GetObjectArrayElement = [](JNIEnv* env, jobjectArray array, jsize at) {
-      Of(env).Enter("GetObjectArrayElement");
-      return Of(env).Refer(Of(env).At(array).elements.at(static_cast<std::size_t>(at)));
+      Of(env).Enter();
+      return Of(env).Refer(Of(env).At(array).elements.at(std::size_t(at)));
     };
     SetObjectArrayElement = [](JNIEnv* env, jobjectArray array, jsize at, jobject element) {
-      Fake_jvm& jvm = Of(env);
-      jvm.Enter("SetObjectArrayElement");
-      const std::shared_ptr<Object> object = jvm.references_.at(element);
-      jvm.At(array).elements.at(static_cast<std::size_t>(at)) = object;
+      Of(env).Enter();
+      Of(env).At(array).elements.at(std::size_t(at)) = Of(env).references_.at(element);
     };
     DeleteLocalRef = [](JNIEnv* env, jobject reference) {
       Of(env).At(reference);
       Of(env).references_.erase(reference);
       --Of(env).references_alive;
     };
-    ThrowNew = [](JNIEnv* env, jclass type, const char* message) -> jint {
-      Of(env).Enter("ThrowNew");
+    ThrowNew = [](JNIEnv* env, jclass type, const char* message) {
+      Of(env).Enter();
       Of(env).pending = Of(env).At(type).text + ": " + (message != nullptr ? message : "null");
       return JNI_OK;
     };
-    Throw = [](JNIEnv* env, jthrowable error) -> jint {
-      Of(env).Enter("Throw");
+    Throw = [](JNIEnv* env, jthrowable error) {
+      Of(env).Enter();
       Of(env).pending = Of(env).At(error).text;
       return JNI_OK;
     };
     ExceptionCheck = [](JNIEnv* env) -> jboolean { return !Of(env).pending.empty(); };
-    ExceptionOccurred = [](JNIEnv* env) -> jthrowable {
-      if (Of(env).pending.empty()) return nullptr;
-      return static_cast<jthrowable>(Of(env).Refer<jobject>({"Throwable", Of(env).pending, {}}));
+    ExceptionOccurred = [](JNIEnv* env) {
+      const std::string& pending = Of(env).pending;
+      return static_cast<jthrowable>(pending.empty() ? nullptr : Of(env).Refer({pending, {}}));
     };
-    ExceptionDescribe = [](JNIEnv* env) {
-      Of(env).described.push_back(std::exchange(Of(env).pending, ""));
-    };
+    ExceptionDescribe = [](JNIEnv* env) { Of(env).pending.clear(); };
+  }
+
+  static const std::string& Method(jmethodID id) { return *reinterpret_cast<std::string*>(id); }
+
+  template <typename Reference>
+  static Reference New(JNIEnv* env, Object object) {
+    return static_cast<Reference>(Of(env).Fails() ? nullptr : Of(env).Refer(std::move(object)));
   }
 };
 
@@ -120,51 +105,51 @@ jobject Fake_jvm::Refer(std::shared_ptr<Object> object) {
 }
 
 Fake_jvm::Object& Fake_jvm::At(jobject reference) {
-  static Object nothing{"null", "null", {}};
+  static Object nothing{"null", {}};
   const auto entry = references_.find(reference);
   if (entry != references_.end()) return *entry->second;
   faults.emplace_back("stale or null reference");
   return nothing;
 }
 
-void Fake_jvm::Enter(const std::string& function) {
-  if (!pending.empty()) faults.push_back(function + " with an error pending");
+void Fake_jvm::Enter() {
+  if (!pending.empty()) faults.emplace_back("a call with an error pending");
 }
 
-bool Fake_jvm::Fails(const std::string& function, const std::string& error) {
-  Enter(function);
-  const bool fails = calls_that_can_fail++ == failing_call || function == missing;
-  if (fails) pending = error;
+bool Fake_jvm::Fails() {
+  Enter();
+  const bool fails = calls_that_can_fail_++ == failing_call;
+  if (fails) pending = "a Java error";
   return fails;
 }
 
-std::string Fake_jvm::Arguments(const std::string& descriptor, va_list arguments) {
-  std::string text = "(";
-  for (std::size_t at = 1; descriptor[at] != ')'; ++at) {
-    if (at > 1) text += ", ";
-    if (descriptor[at] == 'I') {
+std::string Fake_jvm::Arguments(const std::string& method, va_list arguments) {
+  std::string text;
+  for (std::size_t at = method.find('(') + 1; method[at] != ')'; ++at) {
+    text += text.empty() ? "" : ", ";
+    if (method[at] == 'I') {
       text += std::to_string(va_arg(arguments, jint));
-    } else if (descriptor[at] == 'Z') {
+    } else if (method[at] == 'Z') {
       text += va_arg(arguments, int) == 0 ? "false" : "true";
     } else {
       text += At(va_arg(arguments, jobject)).text;
-      if (descriptor[at] == 'L') at = descriptor.find(';', at);
-      if (descriptor[at] == '[') ++at;
+      at = method[at] == 'L' ? method.find(';', at) : at + 1;  // or an array of bytes
     }
   }
-  return text + ")";
+  return "(" + text + ")";
 }
 
-jobject Fake_jvm::Construct(const Object& type, const Method& init, va_list arguments) {
-  const std::string name = type.text.substr(type.text.rfind('/') + 1);
-  std::string given = Arguments(init.descriptor, arguments);
+jobject Fake_jvm::Construct(const std::string& class_name, const std::string& init,
+                            va_list arguments) {
+  const std::string name = class_name.substr(class_name.rfind('/') + 1);
+  std::string given = Arguments(init, arguments);
   if (name == "String") {
     given.front() = given.back() = '\'';
-    return Refer<jobject>({name, given, {}});
+    return Refer({given, {}});
   }
   const std::string object = name + std::to_string(++objects_made_[name]);
   calls.push_back(object + " = new" + given);
-  return Refer<jobject>({name, object, {}});
+  return Refer({object, {}});
 }
 
 }  // namespace gns
