@@ -1,94 +1,87 @@
-import static org.junit.Assert.assertEquals;
-import static org.junit.Assert.assertTrue;
+import static org.junit.Assert.*;
 
-import java.nio.file.Path;
-import java.util.List;
-import org.junit.Rule;
+import java.nio.file.*;
+import java.util.*;
 import org.junit.Test;
-import org.junit.rules.TemporaryFolder;
-import zumo.community.Community;
-import zumo.community.Edge;
-import zumo.community.ExternalCalls;
-import zumo.community.OutParams;
-import zumo.community.Run;
+import zumo.community.*;
 
-/** Files and Java objects tell the same, right after the run and read back, for each kind of run. */
-public class AgreementTest {
-  @Rule public final TemporaryFolder dir = new TemporaryFolder();
+/** Files and Java objects tell the same, right after each kind of run and read back. */
+public class AgreementTest extends Fixture {
+  private final String choir = example("choir.txt");
+  private Path out;
 
-  private String out() {
-    return dir.getRoot() + "/out";
+  private Run run(String links) throws Exception {
+    out = Path.of(newDir());
+    return new Run(links, out.toString());
   }
 
-  private Run run(String example) {
-    return new Run(Examples.file(example), out());
-  }
-
-  private List<String> check(Run run, String kind) throws Exception {
-    boolean directed = kind.equals("directed_");
-    List<String> afterRun = Told.of(run.findAndLoad(), directed);
+  private void check(Run run, String kind, String file, String pattern) throws Exception {
+    Map<String, List<String>> afterRun = Told.of(run.findAndLoad(), kind);
+    Told.in(out, afterRun.keySet())
+        .forEach((name, lines) -> assertEquals(name, lines, afterRun.get(name)));
+    assertEquals(Told.of(Run.load(out.toString()), kind), afterRun);
+    List<String> lines = afterRun.get(file);
+    assertTrue(lines.toString(), lines.stream().anyMatch(line -> line.matches(pattern)));
     assertEquals(" done.", ExternalCalls.Read_state_report());
-    List<String> written = Told.of(Path.of(out()), kind);
-    for (int i = 0; i < Math.min(written.size(), afterRun.size()); ++i)
-      assertEquals("line " + i, written.get(i), afterRun.get(i));
-    assertEquals(written.size(), afterRun.size());
-    OutParams loaded = ExternalCalls.loadComs(out(), directed, kind.equals("intensity_"));
-    assertEquals(afterRun, Told.of(loaded, directed));
-    assertEquals(" done.", ExternalCalls.Read_state_report());
-    return afterRun;
   }
 
   @Test
-  public void plain() throws Exception {
-    List<String> lines = check(run("choir.txt"), "");
-    assertTrue(lines.contains("community [Emil, Greta, Hugo, Ines, Jonas]"));
-    assertTrue(lines.contains("overlap 2 4 1"));
+  public void ofEachKindOfRun() throws Exception {
+    check(run(choir), "", "k=4/graph_of_communities", "2 4 1");
+    check(run(choir).lowerThreshold(4).upperThreshold(12), "", "", "k=3");
+    check(run(example("advice.txt")).directed(), "directed_",
+        "k=4/directed_communities", "0: Uwe Rita Sven Tina Tom");
+    check(run(choir).intensityThreshold(6), "intensity_",
+        "k=4/intensity_communities", "1: Emil Greta Hugo Ines Jonas");
+    check(run(hardLinks()).timeLimit(1e-6), "", "cliques", "-\\d+: .*");
+    check(run(choir).singleK(4), "", "", "k=4");
   }
 
   @Test
-  public void thresholds() throws Exception {
-    check(run("choir.txt").lowerThreshold(4).upperThreshold(20), "");
+  public void ofArgumentsInTheirOrder() throws Exception {
+    for (boolean load : new boolean[] {false, true}) {
+      checkParameters(load,
+          run(choir).directed().lowerThreshold(0.25).upperThreshold(1.5).timeLimit(7).singleK(4),
+          """
+          # at a lower link weight threshold of 0.250000,
+          # and at an upper link weight threshold of 1.500000.
+          # Links were treated as directed.
+          # The maximal allowed time per node during clique search was 7.000000 secs.
+          # The communities were extracted solely at k=4.
+          """);
+      checkParameters(load, run(choir).intensityThreshold(0.5).singleK(-2),
+          """
+          # at no lower link weight threshold,
+          # and at no upper link weight threshold.
+          # A lower link weight intensity threshold of 0.500000 was set.
+          # Links were treated as undirected.
+          # No time limit was set for the clique search.
+          # The communities were extracted solely at k=4294967294.
+          """);
+    }
   }
 
-  @Test
-  public void directed() throws Exception {
-    assertTrue(check(run("advice.txt").directed(), "directed_")
-        .contains("community [Uwe, Rita, Sven, Tina, Tom]"));
-  }
-
-  @Test
-  public void intensity() throws Exception {
-    check(run("choir.txt").intensityThreshold(6), "intensity_");
-  }
-
-  @Test
-  public void timeLimit() throws Exception {
-    String links = Examples.hard(dir.getRoot().toPath());
-    List<String> lines = check(new Run(links, out()).timeLimit(1e-6), "");
-    assertTrue(lines.contains("community [a, b, c]"));
-    assertTrue(lines.stream().anyMatch(line -> line.startsWith("community approximate [")));
-  }
-
-  @Test
-  public void singleK() throws Exception {
-    assertEquals(1, check(run("choir.txt").singleK(4), "").stream()
-        .filter(line -> line.startsWith("k=")).count());
+  private void checkParameters(boolean load, Run run, String parameters) throws Exception {
+    if (load) run.findAndLoad();
+    else run.find();
+    String header = Files.readString(out.resolve("input_params.txt"));
+    assertEquals(parameters, header.substring(header.indexOf('\n') + 1));
   }
 
   /** Too large for any clique, as Java's negative numbers are. */
   @Test(timeout = 60000)
-  public void negativeK() throws Exception {
-    OutParams results = run("choir.txt").singleK(-1).findAndLoad();
+  public void ofNegativeK() throws Exception {
+    OutParams results = run(choir).singleK(-1).findAndLoad();
     assertEquals(14, results.getCliques().size());
     assertTrue(results.getCommunities(-1).isEmpty());
   }
 
   /** The edges are what the call says, whatever the directory is read as. */
   @Test
-  public void bothBooleans() throws Exception {
-    run("choir.txt").intensityThreshold(6).find();
+  public void ofBothBooleans() throws Exception {
+    run(choir).intensityThreshold(6).find();
     Community community =
-        ExternalCalls.loadComs(out(), true, true).getCommunities(4).get(1);
+        ExternalCalls.loadComs(out.toString(), true, true).getCommunities(4).get(1);
     assertEquals(List.of("Emil", "Greta", "Hugo", "Ines", "Jonas"), community.getVertices());
     assertTrue(community.getEdges().stream().allMatch(Edge::isDirected));
   }

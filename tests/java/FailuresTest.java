@@ -1,118 +1,134 @@
-import static org.junit.Assert.assertEquals;
-import static org.junit.Assert.assertFalse;
-import static org.junit.Assert.assertThrows;
-import static org.junit.Assert.assertTrue;
+import static org.junit.Assert.*;
 
-import java.nio.file.Files;
-import java.nio.file.Path;
+import java.nio.file.*;
 import java.util.List;
-import java.util.Map;
-import org.junit.After;
-import org.junit.Rule;
 import org.junit.Test;
 import org.junit.function.ThrowingRunnable;
-import org.junit.rules.TemporaryFolder;
-import zumo.community.ExternalCalls;
-import zumo.community.Run;
+import zumo.community.*;
 
 /** Each failure of the engine is one java.lang.Exception with its message. */
-public class FailuresTest {
-  @Rule public final TemporaryFolder dir = new TemporaryFolder();
-
-  @After
-  public void resetStop() {
-    ExternalCalls.Reset_stop_process();
-  }
-
+public class FailuresTest extends Fixture {
   private Run run(String linkFile) {
-    return new Run(linkFile, out().toString());
+    return new Run(linkFile, path("out"));
   }
 
-  private Path out() {
-    return dir.getRoot().toPath().resolve("out");
+  private Run choir() {
+    return run(example("choir.txt"));
+  }
+
+  private static void check(Class<?> type, String message, ThrowingRunnable call) {
+    Throwable failure = assertThrows(Throwable.class, call);
+    assertEquals(message, failure.getMessage());
+    assertEquals(type, failure.getClass());
+    assertEquals(message.equals("Process stopped by user.\n"), Run.isStop(failure));
+    assertEquals("", ExternalCalls.Read_error_message());
   }
 
   private static void check(String message, ThrowingRunnable call) {
-    Throwable failure = assertThrows(Throwable.class, call);
-    assertEquals(message, failure.getMessage());
-    assertEquals(Exception.class, failure.getClass());
+    check(Exception.class, message, call);
   }
 
   @Test
-  public void parameters() {
+  public void ofArguments() throws Exception {
     check("The following error(s) occured:\n"
             + " The sepcified lower threshold is higher (or equal to) the upper threshold.\n"
             + " The search algorithm cannot apply the link weight \n"
             + " intensity condition when looking for directed communities.\n\n",
-        () -> run(Examples.file("choir.txt")).lowerThreshold(2).upperThreshold(1).directed()
-            .intensityThreshold(1).find());
-    assertFalse(Files.exists(out()));
-  }
-
-  @Test
-  public void badLines() throws Exception {
-    Path links = Files.write(dir.getRoot().toPath().resolve("links"), new byte[] {
-        'a', 'b', (byte) 0xE4, '\n', (byte) 0xF0, (byte) 0x9F, (byte) 0x98, (byte) 0x80, '\n'});
-    check("ERROR: Wrong line found in ' the file I was reading' :\nab\uFFFD",
-        () -> run(links.toString()).findAndLoad());
-    Files.write(links, "a b\n\uD83D\uDE00\n".getBytes("UTF-8"));
-    check("ERROR: Wrong line found in ' the file I was reading' :\n\uD83D\uDE00",
-        () -> new Run(links.toString(), out() + "2").findAndLoad());
-  }
-
-  @Test
-  public void outputDirectories() throws Exception {
-    Path inside = Files.createDirectories(out()).resolve("something");
-    Files.writeString(inside, "");
+        () -> choir().lowerThreshold(2).upperThreshold(1).directed().intensityThreshold(1).find());
+    check("ERROR: a path has a zero byte inside.\n", () -> run("a\0b").find());
+    String noPath = "a path is null";
+    check(NullPointerException.class, noPath, () -> run(null).find());
+    check(NullPointerException.class, noPath, () -> new Run("links", null).findAndLoad());
+    check(NullPointerException.class, noPath, () -> ExternalCalls.loadComs(null, true, true));
+    assertFalse(Files.exists(Path.of(path("out"))));
+    write("links", "");
     check("ERROR: the output directory already exists and it is non-empty.\n",
-        () -> run(Examples.file("choir.txt")).find());
-    assertEquals(1, out().toFile().list().length);
+        () -> new Run(example("choir.txt"), path("")).find());
+    assertArrayEquals(new String[] {"links"}, folder.getRoot().list());
   }
 
   @Test
-  public void reloads() throws Exception {
-    assertThrows(Exception.class, () -> ExternalCalls.loadComs(out().toString(), false, false));
+  public void ofBadLines() throws Exception {
+    String wrongLine = "ERROR: Wrong line found in ' the file I was reading' :\n";
+    check(wrongLine + "ab\uFFFD", run(write("links", "ab\u00E4\n"))::findAndLoad);
+    String other = write("links", "a b\n\u00F0\u009F\u0098\u0080\n");
+    check(wrongLine + "\uD83D\uDE00", () -> new Run(other, path("out2")).findAndLoad());
+  }
+
+  @Test
+  public void ofReloads() throws Exception {
+    assertThrows(Exception.class, () -> Run.load(path("out")));
     assertEquals(" Loading results: from disk", ExternalCalls.Read_state_report());
-    run(Examples.file("choir.txt")).find();
+    choir().find();
     assertEquals(" done.\n", ExternalCalls.Read_state_report());
-    Files.delete(out().resolve("k=4").resolve("communities"));
-    Throwable failure = assertThrows(
-        Exception.class, () -> ExternalCalls.loadComs(out().toString(), false, false));
+    Files.delete(Path.of(path("out/k=4/communities")));
+    Throwable failure = assertThrows(Exception.class, () -> Run.load(path("out")));
     assertTrue(failure.getMessage(), failure.getMessage().contains("k=4/communities"));
     assertEquals(" Loading results: read from disk", ExternalCalls.Read_state_report());
-    assertEquals("", ExternalCalls.Read_error_message());
   }
 
   @Test
-  public void stops() {
+  public void ofAStopUntilItsReset() throws Exception {
     ExternalCalls.Stop_process();
-    check("Process stopped by user.\n", () -> run(Examples.file("choir.txt")).findAndLoad());
+    check("Process stopped by user.\n", choir()::findAndLoad);
     assertEquals(" Process stopped by user.\n", ExternalCalls.Read_state_report());
-    assertTrue(Files.exists(out().resolve("graph")));
-  }
-
-  @Test
-  public void paths() {
-    assertThrows(NullPointerException.class, () -> run(null).find());
-    assertThrows(NullPointerException.class, () -> new Run("links", null).findAndLoad());
-    assertThrows(NullPointerException.class, () -> ExternalCalls.loadComs(null, true, true));
-    check("ERROR: a path has a zero byte inside.\n", () -> run("a\0b").find());
-    assertEquals("", ExternalCalls.Read_state_report().trim());
+    assertTrue(Files.exists(Path.of(path("out/graph"))));
+    ExternalCalls.Reset_stop_process();
+    assertEquals(14, new Run(example("choir.txt"), newDir()).findAndLoad().getCliques().size());
   }
 
   /** The error of the JVM reaches the caller, nothing is reported on top, and calls go on. */
   @Test
-  public void heaps() throws Exception {
-    Path links = dir.getRoot().toPath().resolve("links");
+  public void ofHeaps() throws Exception {
     StringBuilder text = new StringBuilder();
     for (int i = 0; i < 200000; ++i) text.append("node").append(i).append(" x\n");
-    Files.writeString(links, text);
-    Child child = Child.run(List.of("-Xmx12m"), Map.of(), "find|" + links + "|" + out(),
-        "load|" + out(), "findAndLoad|" + Examples.file("choir.txt") + "|" + out() + "2");
-    List<String> lines = child.out().lines().filter(line -> !line.startsWith(" ")).toList();
-    assertEquals("= 0 nodes, 0 cliques, k []", lines.get(0));
-    assertEquals("! java.lang.OutOfMemoryError Java heap space", lines.get(1));
-    assertEquals("= 27 nodes, 14 cliques, k [3, 4, 5]", lines.get(2));
-    assertEquals(3, lines.size());
+    Child child = end(calling(List.of("-Xmx12m"),
+        "find|" + write("links", text.toString()) + "|" + path("out"), "load|" + path("out"),
+        "findAndLoad|" + example("choir.txt") + "|" + path("out2")));
+    assertEquals(List.of("= 0 nodes, 0 cliques, k []",
+        "! java.lang.OutOfMemoryError Java heap space", "= 27 nodes, 14 cliques, k [3, 4, 5]"),
+        child.out().lines().filter(line -> !line.startsWith(" ")).toList());
+  }
+
+  /** What appears on the terminal is the trace lines, to the letter, and not a word of the JVM. */
+  @Test
+  public void andWhatIsShown() throws Exception {
+    String choir = example("choir.txt");
+    new Run(choir, path("damaged")).find();
+    write("damaged.unfinished", "");
+    Child child = end(calling(List.of(),
+        "find|" + choir + "|" + path("out"), "load|" + path("out"),
+        "findAndLoad|" + choir + "|" + newDir(),
+        "limited|" + hardLinks() + "|" + newDir(),
+        "find|nowhere|" + newDir(), "findAndLoad|nowhere|" + newDir(),
+        "load|" + path("damaged")));
+    assertEquals("""
+         starting c++
+         in/out args converted
+         calling Find_coms
+         process ended succesfully
+         no approximation was needed
+        = 0 nodes, 0 cliques, k []
+         process ended succesfully
+        = 27 nodes, 14 cliques, k [3, 4, 5]
+         process ended succesfully
+         no approximation was needed
+        = 27 nodes, 14 cliques, k [3, 4, 5]
+         process ended succesfully
+         approximation was needed
+        = 33 nodes, ...
+         starting c++
+         in/out args converted
+         calling Find_coms
+        ! java.lang.Exception ERROR : File not found: 'nowhere'\s
+        ! java.lang.Exception ERROR : File not found: 'nowhere'\s
+         process ended succesfully
+        ! java.lang.Exception The results directory '%s' isn't whole: its run is still going on,\
+         or was stopped, or failed.
+
+        """.formatted(path("damaged")),
+        child.out().replaceFirst("= 33 nodes.*", "= 33 nodes, ..."));
+    assertEquals("calling Load_coms: \nLoad_coms finished.\ncalling Load_coms: \n", child.err());
+    assertEquals(0, child.exitCode());
   }
 }

@@ -1,24 +1,15 @@
-import static org.junit.Assert.assertEquals;
-import static org.junit.Assert.assertTrue;
+import static org.junit.Assert.*;
 
 import java.io.IOException;
-import java.io.PrintWriter;
-import java.nio.file.Files;
-import java.nio.file.Path;
+import java.nio.file.*;
 import java.util.List;
-import java.util.Map;
-import org.junit.Rule;
 import org.junit.Test;
-import org.junit.rules.TemporaryFolder;
-import zumo.community.ExternalCalls;
 import zumo.community.Run;
 
 /** What calls take they give back, and of a big result nothing is held twice. */
-public class MemoryTest {
+public class MemoryTest extends Fixture {
   private static final long MEGABYTE = 1 << 20;
   private static final long PAGE = 4096;
-
-  @Rule public final TemporaryFolder dir = new TemporaryFolder();
 
   private static long heap() {
     System.gc();
@@ -31,36 +22,31 @@ public class MemoryTest {
 
   private void runAndLoad(int times) throws Exception {
     for (int i = 0; i < times; ++i) {
-      Path out = dir.newFolder().toPath().resolve("out");
-      new Run(Examples.file("choir.txt"), out.toString()).findAndLoad();
-      for (int loads = 0; loads < 10; ++loads) ExternalCalls.loadComs(out.toString(), false, false);
+      String out = newDir();
+      new Run(example("choir.txt"), out).findAndLoad();
+      for (int loads = 0; loads < 5; ++loads) Run.load(out);
     }
   }
 
   @Test
   public void isFlatOverManyCalls() throws Exception {
-    runAndLoad(50);
+    runAndLoad(20);
     long heap = heap();
     long resident = resident();
-    runAndLoad(100);
+    runAndLoad(40);
     assertTrue("heap " + (heap() - heap), heap() - heap < MEGABYTE);
-    assertTrue("resident " + (resident() - resident), resident() - resident < 16 * MEGABYTE);
+    assertTrue("resident " + (resident() - resident), resident() - resident < 8 * MEGABYTE);
   }
 
   /** A million members of few names fit where a million strings don't. */
   @Test
   public void holdsAMillionMembers() throws Exception {
-    Path out = dir.newFolder().toPath();
-    new Run(Examples.file("choir.txt"), out.toString()).find();
-    try (PrintWriter communities = new PrintWriter(out.resolve("k=3/communities").toFile())) {
-      for (int i = 0; i < 1000; ++i) {
-        StringBuilder line = new StringBuilder().append(i).append(": ");
-        for (int member = 0; member < 500; ++member) line.append("Ada Bruno ");
-        communities.println(line);
-      }
-    }
-    Child child =
-        Child.run(List.of("-Xmx20m", "-XX:+UseSerialGC"), Map.of(), "load|" + out);
+    new Run(example("choir.txt"), path("out")).find();
+    StringBuilder communities = new StringBuilder();
+    for (int i = 0; i < 1000; ++i)
+      communities.append(i).append(": ").append("Ada Bruno ".repeat(500)).append('\n');
+    write("out/k=3/communities", communities.toString());
+    Child child = end(calling(List.of("-Xmx20m", "-XX:+UseSerialGC"), "load|" + path("out")));
     assertEquals(" process ended succesfully\n= 27 nodes, 14 cliques, k [3, 4, 5]\n", child.out());
   }
 }

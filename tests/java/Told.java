@@ -1,130 +1,88 @@
+import static java.util.stream.Collectors.joining;
+
 import java.io.IOException;
-import java.nio.charset.Charset;
-import java.nio.file.Files;
-import java.nio.file.Path;
-import java.util.ArrayList;
-import java.util.Comparator;
-import java.util.List;
-import java.util.SortedMap;
-import java.util.TreeMap;
-import zumo.community.Clique;
-import zumo.community.Community;
-import zumo.community.CommunityOverlap;
-import zumo.community.Edge;
-import zumo.community.Frequency;
-import zumo.community.OutParams;
+import java.nio.file.*;
+import java.util.*;
+import java.util.stream.Stream;
+import zumo.community.*;
 
-/** Results as lines that can be compared, told from Java objects and from files. */
+/** Results as the lines of each result file, sorted; "" has the directories. */
 final class Told {
-  private static final String[][] DISTRIBUTIONS = {
-      {OutParams.SIZE_DIST, "size_distribution"}, {OutParams.DEGREE_DIST, "degree_distribution"},
-      {OutParams.OVERLAP_DIST, "overlap_distribution"},
-      {OutParams.MEMBERSHIP_DIST, "membership_distribution"}};
-
-  private static final Comparator<String> BY_SIGNED_PAIR =
-      Comparator.<String>comparingInt(line -> Integer.parseInt(line.split(" ")[0]))
-          .thenComparingInt(line -> Integer.parseInt(line.split(" ")[1]));
+  private static final Map<String, String> DISTRIBUTIONS = Map.of(
+      OutParams.SIZE_DIST, "size", OutParams.DEGREE_DIST, "degree",
+      OutParams.OVERLAP_DIST, "overlap", OutParams.MEMBERSHIP_DIST, "membership");
 
   private Told() {}
 
-  static List<String> of(OutParams results, boolean directed) {
-    List<String> lines = new ArrayList<>();
-    for (Edge edge : results.getInParams().getEdges(directed)) lines.add("link " + text(edge));
-    for (Clique clique : results.getCliques())
-      lines.add("clique " + text(clique.isApproximate(), clique.getVertices()));
-    for (int k : results.getKs().descendingSet()) {
-      lines.add("k=" + k);
-      for (Community community : results.getCommunities(k)) {
-        lines.add("community " + text(community.isApproximate(), community.getVertices()));
-        for (Edge edge : community.getEdges()) lines.add("link inside " + text(edge, directed));
-        for (int clique : community.getCliquePositions()) lines.add("clique inside " + clique);
-      }
-      for (CommunityOverlap overlap : results.getCommunityGraph(k))
-        lines.add("overlap " + overlap.community1() + " " + overlap.community2() + " "
-            + overlap.sharedNodes());
-      for (String[] distribution : DISTRIBUTIONS)
-        for (Frequency entry : results.getDistribution(k, distribution[0]))
-          lines.add(distribution[0] + " " + entry.value() + " " + entry.count());
-    }
-    return lines;
-  }
-
   /** `kind` is what stands in front of names in the directories k=: "directed_", say. */
-  static List<String> of(Path dir, String kind) throws IOException {
-    List<String> lines = new ArrayList<>();
-    String front = kind.equals("directed_") ? kind : "";
-    for (String line : read(dir.resolve(front + "graph")))
-      lines.add("link " + String.join(" ", List.of(line.split(" ")).subList(0, 2)));
-    for (Row row : rows(dir.resolve(front + "cliques")).values())
-      lines.add("clique " + text(row.approximate, row.words));
-    for (int k = 100; k > 0; --k) {
-      Path at = dir.resolve("k=" + k);
-      if (!Files.exists(at)) continue;
-      lines.add("k=" + k);
-      addCommunities(at, kind, lines);
-      read(at.resolve("graph_of_" + kind + "communities")).stream().sorted(BY_SIGNED_PAIR)
-          .forEach(line -> lines.add("overlap " + line.replace("-", "")));
-      for (String[] distribution : DISTRIBUTIONS)
-        for (String line : distribution(at, kind + distribution[1]))
-          lines.add(distribution[0] + " " + line);
-    }
-    return lines;
-  }
-
-  private static void addCommunities(Path at, String kind, List<String> lines) throws IOException {
-    SortedMap<Integer, Row> links = rows(at.resolve(kind + "communities_links"));
-    Path cliquesFile = at.resolve(kind + "communities_cliques");
-    SortedMap<Integer, Row> cliques =
-        Files.exists(cliquesFile) ? rows(cliquesFile) : new TreeMap<>();
-    rows(at.resolve(kind + "communities")).forEach((position, row) -> {
-      lines.add("community " + text(row.approximate, row.words));
-      for (String link : links.get(position).below) lines.add("link inside " + link);
-      if (cliques.containsKey(position))
-        for (String clique : cliques.get(position).words)
-          lines.add("clique inside " + clique.replace("-", ""));
-    });
-  }
-
-  private static List<String> distribution(Path at, String name) throws IOException {
-    Path exact = at.resolve(name + "_exact");
-    return read(Files.exists(exact) ? exact : at.resolve(name));
-  }
-
-  /** A numbered line, and the lines below it that have no number. Zero has no sign in Java. */
-  private record Row(boolean approximate, List<String> words, List<String> below) {}
-
-  private static SortedMap<Integer, Row> rows(Path file) throws IOException {
-    SortedMap<Integer, Row> rows = new TreeMap<>();
-    Row row = null;
-    for (String line : read(file)) {
-      int colon = line.indexOf(':');
-      if (colon < 0) {
-        row.below.add(line);
-        continue;
+  static Map<String, List<String>> of(OutParams results, String kind) {
+    boolean directed = kind.equals("directed_");
+    String front = directed ? kind : "";
+    Map<String, List<String>> files = new TreeMap<>();
+    files.put("", sorted(results.getKs().stream().map(k -> "k=" + k)));
+    files.put(front + "graph", texts(results.getInParams().getEdges(directed), directed));
+    List<String> cliques = files.computeIfAbsent(front + "cliques", name -> new ArrayList<>());
+    for (Clique clique : results.getCliques())
+      cliques.add(row(clique.isApproximate(), cliques.size(), clique.getVertices()));
+    for (int k : results.getKs()) {
+      String at = "k=" + k + "/";
+      List<String> communities = new ArrayList<>();
+      List<String> links = new ArrayList<>();
+      List<String> inside = new ArrayList<>();
+      for (Community community : results.getCommunities(k)) {
+        int position = communities.size();
+        communities.add(row(community.isApproximate(), position, community.getVertices()));
+        links.add(row(community.isApproximate(), position, texts(community.getEdges(), directed)));
+        if (!kind.equals("intensity_"))
+          inside.add(row(false, position, community.getCliquePositions()));
       }
-      String words = line.substring(colon + 1).strip();
-      int number = Integer.parseInt(line.substring(0, colon));
-      row = new Row(number < 0, words.isEmpty() ? List.of() : List.of(words.split(" ")),
-          new ArrayList<>());
-      rows.put(Math.abs(number), row);
+      files.put(at + kind + "communities", communities);
+      files.put(at + kind + "communities_links", links);
+      files.put(at + kind + "communities_cliques", inside);
+      files.put(at + "graph_of_" + kind + "communities",
+          sorted(results.getCommunityGraph(k).stream().map(overlap -> overlap.community1() + " "
+              + overlap.community2() + " " + overlap.sharedNodes())));
+      DISTRIBUTIONS.forEach((name, file) -> files.put(at + kind + file + "_distribution", sorted(
+          results.getDistribution(k, name).stream().map(f -> f.value() + " " + f.count()))));
     }
-    return rows;
+    files.replaceAll((name, lines) -> sorted(lines.stream()));
+    return files;
   }
 
-  private static List<String> read(Path file) throws IOException {
-    return Files.readAllLines(file, Charset.defaultCharset()).stream()
-        .filter(line -> !line.isEmpty() && !line.startsWith("#")).toList();
+  /** What a results directory has of these files. */
+  static Map<String, List<String>> in(Path dir, Set<String> names) throws IOException {
+    Map<String, List<String>> files = new TreeMap<>();
+    for (String name : names) files.put(name, lines(dir, name));
+    files.put("", sorted(Stream.of(dir.toFile().list()).filter(name -> name.startsWith("k="))));
+    return files;
   }
 
-  private static String text(boolean approximate, List<String> names) {
-    return (approximate ? "approximate " : "") + names;
+  /** Without the signs of what has none in Java, and with the links of a community in one line. */
+  private static List<String> lines(Path dir, String name) throws IOException {
+    Path exact = dir.resolve(name + "_exact");
+    Path file = Files.exists(exact) ? exact : dir.resolve(name);
+    if (!Files.isRegularFile(file)) return List.of();
+    String text = Files.readAllLines(file).stream().filter(line -> !line.startsWith("#"))
+        .collect(joining("\n"));
+    if (name.endsWith("_links")) text = text.replaceAll("\n(?![-0-9]+:)", " ");
+    if (name.contains("graph_of") || name.endsWith("_cliques")) text = text.replace("-", "");
+    text = text.replaceAll("(?m)^-0:", "0:");
+    if (name.endsWith("graph")) text = text.replaceAll("(\\S+ \\S+).*", "$1");
+    return sorted(text.lines().map(String::strip).filter(line -> !line.isEmpty()));
   }
 
-  private static String text(Edge edge) {
-    return edge.getVertex1() + " " + edge.getVertex2();
+  private static List<String> sorted(Stream<String> lines) {
+    return lines.sorted().toList();
   }
 
-  private static String text(Edge edge, boolean directed) {
-    return text(edge) + (edge.isDirected() == directed ? "" : " of the wrong kind");
+  private static String row(boolean approximate, int position, List<?> words) {
+    String text = (approximate ? -position : position) + ":";
+    for (Object word : words) text += " " + word;
+    return text;
+  }
+
+  private static List<String> texts(List<Edge> edges, boolean directed) {
+    return edges.stream().map(edge -> edge.getVertex1()
+        + (edge.isDirected() == directed ? " " : " wrong ") + edge.getVertex2()).toList();
   }
 }
