@@ -33,7 +33,7 @@ public class AgreementTest extends Fixture {
         "k=4/directed_communities", "0: Uwe Rita Sven Tina Tom");
     check(run(choir).intensityThreshold(6), "intensity_",
         "k=4/intensity_communities", "1: Emil Greta Hugo Ines Jonas");
-    check(run(hardLinks()).timeLimit(1e-6), "", "cliques", "-\\d+: .*");
+    check(run(hardLinks(30)).timeLimit(1e-6), "", "cliques", "-\\d+: .*");
     check(run(choir).singleK(4), "", "", "k=4");
   }
 

@@ -99,7 +99,7 @@ public class FailuresTest extends Fixture {
     Child child = end(calling(List.of(),
         "find|" + choir + "|" + path("out"), "load|" + path("out"),
         "findAndLoad|" + choir + "|" + newDir(),
-        "limited|" + hardLinks() + "|" + newDir(),
+        "limited|" + hardLinks(30) + "|" + newDir(),
         "find|nowhere|" + newDir(), "findAndLoad|nowhere|" + newDir(),
         "load|" + path("damaged")));
     assertEquals("""
