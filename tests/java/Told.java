@@ -19,7 +19,7 @@ final class Told {
     boolean directed = kind.equals("directed_");
     String front = directed ? kind : "";
     Map<String, List<String>> files = new TreeMap<>();
-    files.put("", sorted(results.getKs().stream().map(k -> "k=" + k)));
+    files.put("", results.getKs().stream().map(k -> "k=" + k).toList());
     files.put(front + "graph", texts(results.getInParams().getEdges(directed), directed));
     List<String> cliques = files.computeIfAbsent(front + "cliques", name -> new ArrayList<>());
     for (Clique clique : results.getCliques())
@@ -40,10 +40,11 @@ final class Told {
       files.put(at + kind + "communities_links", links);
       files.put(at + kind + "communities_cliques", inside);
       files.put(at + "graph_of_" + kind + "communities",
-          sorted(results.getCommunityGraph(k).stream().map(overlap -> overlap.community1() + " "
-              + overlap.community2() + " " + overlap.sharedNodes())));
-      DISTRIBUTIONS.forEach((name, file) -> files.put(at + kind + file + "_distribution", sorted(
-          results.getDistribution(k, name).stream().map(f -> f.value() + " " + f.count()))));
+          results.getCommunityGraph(k).stream().map(overlap -> overlap.community1() + " "
+              + overlap.community2() + " " + overlap.sharedNodes()).toList());
+      DISTRIBUTIONS.forEach((name, file) -> files.put(at + kind + file + "_distribution",
+          results.getDistribution(k, name).stream().map(f -> f.value() + " " + f.count())
+              .toList()));
     }
     files.replaceAll((name, lines) -> sorted(lines.stream()));
     return files;
