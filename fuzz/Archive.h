@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,37 +21,25 @@ struct Archive {
 
   char mode = 0;
   std::vector<Entry> entries;
-
-  [[nodiscard]] unsigned Load_mode() const { return static_cast<unsigned char>(mode) % 3; }
 };
 
 Archive Archive_of(std::string_view bytes);
 std::string Bytes_of(const Archive& archive);
 
-/// The archive of a directory and what is in its subdirectories; of these only the one of k, if
-/// there are several.
-Archive Archive_of_dir(const std::string& directory, char mode, unsigned k);
-
 /// A directory of its own in memory-backed space, which takes the form of archives in turn.
 class Stage {
  public:
   Stage();
-  ~Stage();
+  ~Stage() { std::filesystem::remove_all(root_); }
   Stage(const Stage&) = delete;
   Stage& operator=(const Stage&) = delete;
 
-  [[nodiscard]] const std::string& Path() const { return path_; }
-  /// Makes what the archive tells, as far as its paths are good: at most one directory deep, no
-  /// "..", and links that lead nowhere but into the directory or to /dev/zero. Of entries with the
-  /// same path the first one counts.
+  [[nodiscard]] std::string Path() const { return root_.string(); }
+  /// Makes what the archive tells in place of what is there, as far as its paths are good: at most
+  /// one directory deep, no "..", and links that lead nowhere but into the directory or to
+  /// /dev/zero. Of entries with the same path the first one counts.
   void Set_up(const Archive& archive);
-  /// Takes all of it away again.
-  void Clear();
 
  private:
-  void Make(const Archive::Entry& entry, const std::string& path);
-
-  std::string path_;
-  int root_ = -1;
-  std::vector<std::pair<std::string, bool>> made_;  ///< and whether it is a directory
+  std::filesystem::path root_;
 };

@@ -3,17 +3,15 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "Expect_same.h"
 #include "Literal_readers.h"
-#include "Memory_file.h"
+#include "Reader_input.h"
 #include "Table_words.h"
 #include "files/Link_file_reader.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
-  static Memory_file file;
   const std::string text(data + 1, data + size);
-  const std::string& path = file.Filled_with(text);
+  const std::string& path = File_with(text);
   const bool weighted = (data[0] & 1U) != 0;
   const gns::literal::Thresholds t = {(data[0] & 2U) != 0, 1.0, (data[0] & 4U) != 0, 3.0};
   const auto read = [&](gns::Link_map& links) {

@@ -4,9 +4,8 @@
 #include <cstdint>
 #include <iostream>
 
-#include "Expect_same.h"
 #include "Literal_readers.h"
-#include "Memory_file.h"
+#include "Reader_input.h"
 #include "Table_words.h"
 #include "files/Results_reader.h"
 
@@ -27,18 +26,18 @@ gns::Character_set Set_of(const std::string& characters) {
 }
 
 template <typename Table>
-void Try_records(const std::string& path, const std::string& text, const Records& plain,
-                 bool of_numbers) {
+void Try_records(const std::string& text, const Records& plain, bool of_numbers) {
   const auto read = [&](Table& table) {
-    gns::Read_data(table, path, Set_of(plain.line), Set_of(plain.head), Set_of(plain.key),
-                   Set_of(plain.value));
+    gns::Read_data(table, File_with(text), Set_of(plain.line), Set_of(plain.head),
+                   Set_of(plain.key), Set_of(plain.value));
   };
   Expect_same(gns::Words_after(Table(), read), plain.Read(text, of_numbers));
 }
 
 template <typename Table>
-std::string Read_lines(const std::string& path) {
-  return gns::Words_after(Table(), [&](Table& table) { gns::Read_data(table, path); });
+void Try_lines(const std::string& text, std::string (*plain)(const std::string&)) {
+  const auto read = [&](Table& table) { gns::Read_data(table, File_with(text)); };
+  Expect_same(gns::Words_after(Table(), read), plain(text));
 }
 
 }  // namespace
@@ -51,34 +50,32 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   constexpr std::size_t head = 5;
   if (size < head) return 0;
-  static Memory_file file;
   const std::string text(data + head, data + size);
-  const std::string& path = file.Filled_with(text);
   Records plain = {"\n", ":", " ", " "};
   if (data[0] >= 0x80)
     plain = {Delimiters_of(data[1]), Delimiters_of(data[2]), Delimiters_of(data[3]),
              Delimiters_of(data[4])};
   switch (data[0] % 8) {
     case 0:
-      Expect_same(Read_lines<gns::Name_pairs>(path), gns::literal::Pairs(text));
+      Try_lines<gns::Name_pairs>(text, gns::literal::Pairs);
       break;
     case 1:
-      Expect_same(Read_lines<gns::Overlap_table>(path), gns::literal::Overlaps(text));
+      Try_lines<gns::Overlap_table>(text, gns::literal::Overlaps);
       break;
     case 2:
-      Expect_same(Read_lines<gns::Distribution_table>(path), gns::literal::Distribution(text));
+      Try_lines<gns::Distribution_table>(text, gns::literal::Distribution);
       break;
     case 3:
       Expect_same(gns::Words_after(gns::Links_by_index(),
-                                   [&](auto& table) { gns::Read_com_links(table, path); }),
+                                   [&](auto& t) { gns::Read_com_links(t, File_with(text)); }),
                   gns::literal::Com_links(text));
       break;
     case 4:
     case 5:
-      Try_records<gns::Names_by_index>(path, text, plain, false);
+      Try_records<gns::Names_by_index>(text, plain, false);
       break;
     default:
-      Try_records<gns::Indices_by_index>(path, text, plain, true);
+      Try_records<gns::Indices_by_index>(text, plain, true);
   }
   return 0;
 }

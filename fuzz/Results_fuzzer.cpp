@@ -18,6 +18,8 @@ extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, st
 
 namespace {
 
+constexpr unsigned load_modes = 3;
+
 template <typename Table>
 void Look_at(std::ostream& out, const Table& table) {
   gns::Put(out, table);
@@ -27,91 +29,62 @@ void Look_at(std::ostream& out, const gns::By_k<Table>& tables) {
   for (const auto& [k, table] : tables) gns::Put(out, table);
 }
 
-/// Changes an archive in one place.
-class Mutation {
- public:
-  Mutation(Archive& archive, unsigned seed) : archive_(archive), random_(seed) {}
+std::string Usual_path(std::minstd_rand& random) {
+  constexpr std::array dirs = {"", "k=3/", "k=4/", "k=04/", "k=1E1/", "k=2.0/", "k=/", "k=-1/"};
+  constexpr std::array leads = {
+      "", "", "", "directed_", "intensity_", "graph_of_", "graph_of_directed_"};
+  constexpr std::array names = {"graph",
+                                "cliques",
+                                "communities",
+                                "communities_links",
+                                "k-cliques",
+                                "communities_cliques",
+                                "",
+                                "size_distribution",
+                                "size_distribution_exact",
+                                "degree_distribution_appr",
+                                "overlap_distribution_merged",
+                                "membership_distribution"};
+  const auto any_of = [&](const auto& texts) { return texts[random() % texts.size()]; };
+  return std::string(any_of(dirs)) + any_of(leads) + any_of(names);
+}
 
-  void Apply() {
-    if (archive_.entries.empty()) archive_.entries.push_back({'f', Usual_path(), "1 2 3\n"});
-    constexpr std::size_t other_ways = 8;
-    switch (Below(2 * other_ways)) {
-      case 0:
-        archive_.mode = static_cast<char>(Below(3));
-        break;
-      case 1:
-        archive_.entries.erase(archive_.entries.begin() + Where());
-        break;
-      case 2:
-        Any().path = Usual_path();
-        break;
-      case 3:
-        Change_bytes(Any().path);
-        break;
-      case 4:
-        Any().kind = "fdpl"[Below(4)];
-        break;
-      case 5:
-        Any().contents = Any().contents;
-        break;
-      case 6:
-        Double();
-        break;
-      case 7:
-        Any().contents.resize(Below(Any().contents.size() + 1));
-        break;
-      default:
-        Change_bytes(Any().contents);
-    }
+void Change_bytes(std::string& text) {
+  const std::size_t size = text.size();
+  constexpr std::size_t more = 16;
+  text.resize(size + more);
+  auto* const bytes = reinterpret_cast<std::uint8_t*>(text.data());
+  text.resize(LLVMFuzzerMutate(bytes, size, text.size()));
+}
+
+/// Changes an archive in one place: mostly the contents of a file.
+void Change(Archive& archive, std::minstd_rand& random) {
+  if (archive.entries.empty()) archive.entries.push_back({'f', Usual_path(random), "1 2 3\n"});
+  const auto entry =
+      archive.entries.begin() + static_cast<std::ptrdiff_t>(random() % archive.entries.size());
+  constexpr unsigned ways = 12;
+  switch (random() % ways) {
+    case 0:
+      archive.mode = static_cast<char>(random() % load_modes);
+      break;
+    case 1:
+      archive.entries.erase(entry);
+      break;
+    case 2:
+      entry->path = Usual_path(random);
+      break;
+    case 3:
+      Change_bytes(entry->path);
+      break;
+    case 4:
+      entry->kind = "fdpl"[random() % 4];
+      break;
+    case 5:
+      archive.entries.insert(entry, {entry->kind, Usual_path(random), entry->contents});
+      break;
+    default:
+      Change_bytes(entry->contents);
   }
-
- private:
-  std::size_t Below(std::size_t end) { return random_() % end; }
-  std::ptrdiff_t Where() { return static_cast<std::ptrdiff_t>(Below(archive_.entries.size())); }
-  Archive::Entry& Any() { return archive_.entries[Below(archive_.entries.size())]; }
-
-  std::string Usual_path() {
-    constexpr std::array dirs = {"", "k=3/", "k=4/", "k=04/", "k=1E1/", "k=2.0/", "k=/", "k=-1/"};
-    constexpr std::array leads = {"", "directed_", "intensity_"};
-    constexpr std::array names = {"graph",
-                                  "cliques",
-                                  "communities",
-                                  "communities_links",
-                                  "k-cliques",
-                                  "communities_cliques",
-                                  "",
-                                  "size_distribution",
-                                  "size_distribution_exact",
-                                  "degree_distribution_appr",
-                                  "overlap_distribution_merged",
-                                  "membership_distribution"};
-    return dirs[Below(dirs.size())] + (Below(8) == 0 ? "graph_of_" : std::string()) +
-           leads[Below(leads.size())] + names[Below(names.size())];
-  }
-
-  void Double() {
-    Archive::Entry copy = Any();
-    copy.path = Usual_path();
-    archive_.entries.insert(archive_.entries.begin() + Where(), copy);
-  }
-
-  static void Change_bytes(std::string& text) {
-    const std::size_t size = text.size();
-    constexpr std::size_t more = 16;
-    text.resize(size + more);
-    auto* const bytes = reinterpret_cast<std::uint8_t*>(text.data());
-    text.resize(LLVMFuzzerMutate(bytes, size, text.size()));
-  }
-
-  Archive& archive_;
-  std::minstd_rand random_;
-};
-
-std::size_t Put_into(std::uint8_t* data, std::size_t max_size, const Archive& archive) {
-  const std::string bytes = Bytes_of(archive);
-  const std::size_t size = std::min(bytes.size(), max_size);
-  std::copy_n(bytes.begin(), size, data);
-  return size;
 }
 
 Archive Archive_at(const std::uint8_t* data, std::size_t size) {
@@ -128,23 +101,11 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
                                                std::size_t max_size, unsigned seed) {
   Archive archive = Archive_at(data, size);
-  Mutation(archive, seed).Apply();
-  return Put_into(data, max_size, archive);
-}
-
-/// The entries of both, in turn, as far as they come.
-extern "C" std::size_t LLVMFuzzerCustomCrossOver(const std::uint8_t* data, std::size_t size,
-                                                 const std::uint8_t* other, std::size_t other_size,
-                                                 std::uint8_t* out, std::size_t max_size,
-                                                 unsigned seed) {
   std::minstd_rand random(seed);
-  Archive mixed = Archive_at(data, size);
-  for (const Archive::Entry& entry : Archive_at(other, other_size).entries)
-    if (random() % 4 == 0)
-      mixed.entries.insert(mixed.entries.begin() +
-                               static_cast<std::ptrdiff_t>(random() % (mixed.entries.size() + 1)),
-                           entry);
-  return Put_into(out, max_size, mixed);
+  Change(archive, random);
+  const std::string bytes = Bytes_of(archive);
+  std::copy_n(bytes.begin(), std::min(bytes.size(), max_size), data);
+  return std::min(bytes.size(), max_size);
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -153,8 +114,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   stage.Set_up(archive);
   gns::Com_result_tables tables;
   std::string errors;
-  const std::string message = gns::Load_coms(stage.Path(), archive.Load_mode(), tables, errors);
-  stage.Clear();
+  const unsigned mode = static_cast<unsigned char>(archive.mode) % load_modes;
+  const std::string message = gns::Load_coms(stage.Path(), mode, tables, errors);
   if (message != gns::run_finished && !message.starts_with("ERROR: ")) std::abort();
   std::ostringstream seen;
   std::apply([&](const auto&... table) { (Look_at(seen, table), ...); }, gns::All_tables(tables));

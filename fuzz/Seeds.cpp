@@ -1,11 +1,11 @@
 // Makes inputs to begin with: seeds EXAMPLES OUT. Runs the engine on the example networks in all
 // kinds of run and puts what it leaves into OUT/links, OUT/records and OUT/results.
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "Archive.h"
 #include "vorlane.h"
@@ -14,6 +14,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::string Contents_of(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
 void Write(const fs::path& directory, const std::string& name, const std::string& bytes) {
   fs::create_directories(directory);
   std::ofstream(directory / name, std::ios::binary) << bytes;
@@ -21,61 +26,30 @@ void Write(const fs::path& directory, const std::string& name, const std::string
 
 /// The reader of a result file, as the first bytes that the fuzzer of records takes.
 std::string Head_of_record(const std::string& path) {
-  const auto has = [&](const char* part) { return path.find(part) != std::string::npos; };
-  char reader = 4;
-  if (has("graph_of_"))
-    reader = 1;
-  else if (has("distribution"))
-    reader = 2;
-  else if (has("_links"))
-    reader = 3;
-  else if (has("communities_cliques"))
-    reader = 6;
-  else if (has("graph"))
-    reader = 0;
-  return std::string(1, reader) + "\n:  ";
+  constexpr std::pair<const char*, char> readers[] = {{"graph_of_", 1}, {"distribution", 2},
+                                                      {"_links", 3},    {"communities_cliques", 6},
+                                                      {"graph", 0},     {"", 4}};
+  const auto* reader = std::begin(readers);
+  while (path.find(reader->first) == std::string::npos) ++reader;
+  return std::string(1, reader->second) + "\n:  ";
 }
 
-struct Kind_of_run {
-  std::string name;
-  char load_mode;
-  gns::Run_parameters parameters;
-};
-
-std::vector<Kind_of_run> Kinds_of_run() {
-  gns::Run_parameters thresholds, directed, limited, intensity, single_k;
-  thresholds.use_lower_threshold = true;
-  thresholds.lower_threshold = 4;
-  directed.directed = true;
-  limited.use_time_limit = true;
-  limited.time_limit = 1e-6;
-  intensity.use_intensity = true;
-  intensity.intensity_threshold = 6;
-  single_k.use_single_k = true;
-  single_k.single_k = 50;
-  return {{"plain", 0, {}},        {"thresholds", 0, thresholds}, {"directed", 1, directed},
-          {"limited", 0, limited}, {"intensity", 2, intensity},   {"single_k", 0, single_k}};
-}
-
-void Make_seeds(const fs::path& links, const Kind_of_run& kind, const fs::path& out) {
-  const std::string name = links.stem().string() + "_" + kind.name;
-  gns::Run_parameters parameters = kind.parameters;
-  parameters.input_file = links.string();
-  parameters.output_dir = (out / name).string();
-  bool approximation_needed = false;
-  gns::Run_summary summary;
-  gns::Find_coms(parameters, approximation_needed, summary);
-  std::vector<unsigned> sizes = {0};
-  for (const auto& found : summary.extractions) sizes.push_back(found.k);
-  for (const unsigned k : sizes) {
-    const Archive archive = Archive_of_dir(parameters.output_dir, kind.load_mode, k);
-    const std::string at_k = name + "_" + std::to_string(k);
-    Write(out / "results", at_k, Bytes_of(archive));
-    for (const Archive::Entry& entry : archive.entries)
-      Write(out / "records", at_k + "_" + fs::path(entry.path).filename().string(),
-            Head_of_record(entry.path) + entry.contents);
+/// One archive for each k with its directory, and one without.
+void Make_seeds(const fs::path& results, char mode, const fs::path& out) {
+  const std::string name = results.filename().string();
+  for (unsigned k = 0; k < 100; ++k) {
+    const std::string dir_of_k = "k=" + std::to_string(k);
+    if (k != 0 && !fs::exists(results / dir_of_k)) continue;
+    Archive archive = {mode, {}};
+    for (const fs::path& path : fs::recursive_directory_iterator(results)) {
+      if (!fs::is_regular_file(path)) continue;
+      if (path.parent_path() != results && path.parent_path().filename() != dir_of_k) continue;
+      archive.entries.push_back({'f', fs::relative(path, results).string(), Contents_of(path)});
+      Write(out / "records", name + dir_of_k + path.filename().string(),
+            Head_of_record(path.filename().string()) + archive.entries.back().contents);
+    }
+    Write(out / "results", name + dir_of_k, Bytes_of(archive));
   }
-  fs::remove_all(parameters.output_dir);
 }
 
 }  // namespace
@@ -86,14 +60,29 @@ int main(int argc, char** argv) {
     return 2;
   }
   const fs::path out = argv[2];
-  for (const auto& entry : fs::directory_iterator(argv[1])) {
-    if (entry.path().extension() != ".txt") continue;
-    if (entry.path().filename() == "CMakeLists.txt") continue;
-    std::ifstream file(entry.path(), std::ios::binary);
-    const std::string text = {std::istreambuf_iterator<char>(file), {}};
+  const std::pair<char, gns::Run_parameters> kinds_of_run[] = {
+      {0, {}},
+      {0, {.use_lower_threshold = true, .lower_threshold = 4}},
+      {0, {.use_time_limit = true, .time_limit = 1e-6}},
+      {0, {.use_single_k = true, .single_k = 50}},
+      {1, {.directed = true}},
+      {2, {.use_intensity = true, .intensity_threshold = 6}}};
+  for (const fs::path& links : fs::directory_iterator(argv[1])) {
+    if (links.extension() != ".txt" || links.filename() == "CMakeLists.txt") continue;
     for (char reader = 0; reader < 8; ++reader)
-      Write(out / "links", entry.path().stem().string() + std::to_string(reader), reader + text);
-    for (const Kind_of_run& kind : Kinds_of_run()) Make_seeds(entry.path(), kind, out);
+      Write(out / "links", links.stem().string() + std::to_string(reader),
+            reader + Contents_of(links));
+    int kind = 0;
+    for (auto [load_mode, parameters] : kinds_of_run) {
+      const fs::path results = out / (links.stem().string() + std::to_string(kind++));
+      parameters.input_file = links.string();
+      parameters.output_dir = results.string();
+      bool approximation_needed = false;
+      gns::Run_summary summary;
+      gns::Find_coms(parameters, approximation_needed, summary);
+      Make_seeds(results, load_mode, out);
+      fs::remove_all(results);
+    }
   }
   return 0;
 }
