@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "Temp_dir.h"
@@ -16,30 +17,24 @@ namespace {
 using namespace std::string_literals;
 
 using Source = Line_reader::Source;
+using Lines = std::vector<std::string>;
 
 TEST(LineReader, CutsAtTheGivenCharacters) {
-  struct Case {
-    std::string text;
-    Character_set line_ends;
-    std::vector<std::string> lines;
-    bool terminated;
-  };
   const Temp_dir temp;
   const std::string longest(std::size_t{3} << 20U, 'x');
-  for (const Case& c : std::vector<Case>{
-           {"", {'\n'}, {}, false},
-           {"\n", {'\n'}, {""}, true},
-           {"a\n\nb", {'\n'}, {"a", "", "b"}, false},
-           {"a;b\n", {'\n', ';'}, {"a", "b"}, true},
-           {"a\n", {}, {"a\n"}, false},
-           {"a\0b\xff"s, {'\0', '\xff'}, {"a", "b"}, true},
-           {longest + "\n" + longest, {'\n'}, {longest, longest}, false},
-       }) {
-    Line_reader reader(temp.Write("file", c.text), Source::regular_file, c.line_ends);
-    std::vector<std::string> lines;
+  const std::vector<std::tuple<std::string, Character_set, Lines, bool>> cases{
+      {"", {'\n'}, {}, false},
+      {"a\n\nb", {'\n'}, {"a", "", "b"}, false},
+      {"a;b\n", {'\n', ';'}, {"a", "b"}, true},
+      {"a\n", {}, {"a\n"}, false},
+      {"a\0b\xff"s, {'\0', '\xff'}, {"a", "b"}, true},
+      {longest + "\n" + longest, {'\n'}, {longest, longest}, false}};
+  for (const auto& [text, line_ends, expected, terminated] : cases) {
+    Line_reader reader(temp.Write("file", text), Source::regular_file, line_ends);
+    Lines lines;
     for (std::string_view line; reader.Next(line);) lines.emplace_back(line);
-    EXPECT_TRUE(lines == c.lines) << c.text.substr(0, 9);
-    EXPECT_EQ(reader.Terminated(), c.terminated) << c.text.substr(0, 9);
+    EXPECT_TRUE(lines == expected) << text.substr(0, 9);
+    EXPECT_EQ(reader.Terminated(), terminated) << text.substr(0, 9);
   }
 }
 
@@ -47,14 +42,9 @@ TEST(LineReader, RefusesWhatItCantRead) {
   const Temp_dir temp;
   const std::string pipe = temp.Path("pipe");
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  for (const auto& [path, source] : std::vector<std::pair<std::string, Source>>{
-           {temp.Path(), Source::any_file},
-           {temp.Path("missing"), Source::regular_file},
-           {temp.Path(), Source::regular_file},
-           {pipe, Source::regular_file},
-           {"/dev/zero", Source::regular_file},
-       })
-    EXPECT_THROW(Line_reader(path, source), Xep_file_not_found) << path;
+  EXPECT_THROW(Line_reader(temp.Path(), Source::any_file), Xep_file_not_found);
+  for (const std::string& path : {temp.Path("missing"), temp.Path(), pipe, "/dev/zero"s})
+    EXPECT_THROW(Line_reader(path, Source::regular_file), Xep_file_not_found) << path;
   std::string_view line = "left";
   EXPECT_FALSE(Line_reader("/dev/null").Next(line));
 }
