@@ -6,7 +6,6 @@
 
 #include <csignal>
 #include <functional>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -65,13 +64,5 @@ class Child {
   const Temp_dir& temp_;
   pid_t pid_;
 };
-
-/// Every node is linked to all but the two others of its group: 3^groups maximal cliques.
-inline std::string Moon_moser_links(int groups) {
-  std::ostringstream links;
-  for (int i = 0; i < 3 * groups; ++i)
-    for (int j = i / 3 * 3 + 3; j < 3 * groups; ++j) links << "n" << i << " n" << j << "\n";
-  return links.str();
-}
 
 }  // namespace gns

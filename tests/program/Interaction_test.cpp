@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "Child.h"
+#include "Linked_groups.h"
 
 namespace gns {
 namespace {
@@ -33,7 +34,7 @@ bool Catches_interrupt(pid_t pid) {
 
 TEST(Stop, EndsALongSearchWithinASecond) {
   const Temp_dir temp;
-  temp.Write("hard", Moon_moser_links(22));
+  temp.Write("hard", Linked_groups(66, 3));
   for (const int signal : {SIGINT, SIGTERM}) {
     const std::string out = "out" + std::to_string(signal);
     Child child(temp, {"-i", "hard", "-o", out});
@@ -99,7 +100,7 @@ class Terminal {
 /// What a long search shows on a terminal until it is stopped.
 std::string Shown(const char* variable, const char* value, const std::string& awaited) {
   const Temp_dir temp;
-  temp.Write("hard", Moon_moser_links(22));
+  temp.Write("hard", Linked_groups(66, 3));
   Terminal terminal;
   Child child(temp, {"-i", "hard", "-o", "out"}, [&] {
     ::unsetenv("NO_COLOR");
