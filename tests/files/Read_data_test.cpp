@@ -105,6 +105,7 @@ TEST(StringChopper, TakesWordsOffTheFront) {
   EXPECT_TRUE(std::ranges::equal(numbers, std::vector<std::int32_t>{1, 3, 5}));
   EXPECT_EQ(testing::internal::GetCapturedStdout(),
             "WARNING: input'1e1' is suspicious...\nWARNING: input '2.5' is suspicious...\n");
+  Chopper::Set_delims({' '});
   text = "9999999999";
   EXPECT_THROW(text >> numbers, Xerror_msg);
 

@@ -59,7 +59,7 @@ Files Community_files(const std::string& flag, std::uint32_t exact_com_count,
 TEST(CommunityFiles, OfDirectedCommunities) {
   const std::string rest = "directed communities at k=3\n#" + header;
   const std::string remark = "# Negative indices indicate approximate communities.\n";
-  EXPECT_EQ(Community_files("directed", 2, 7),
+  EXPECT_EQ(Community_files("directed", 2, 3),
             (Files{{"k=3/directed_communities",
                     "# The " + rest + remark + "\n0: a b c d \n1: d e f \n-2: f g h \n"},
                    {"k=3/directed_communities_cliques", "# The contained directed cliques in the " +
