@@ -143,6 +143,7 @@ TEST_F(InPlace, PromptsToTheLetter) {
          {[] { Del_dir("f"); }, fine, tree + " g h=f", " \n r\t h x", no_dir + new_name},
          {[] { Del_dir("f"); }, fine, tree + " g=f", "rg\no", no_dir + new_name + taken},
          {[] { Del_dir("f"); }, stopped, all, "D", no_dir},
+         {[] { Del_dir("f"); }, stopped, all, "r \n", no_dir + new_name},
          {[] { Del_file("d"); }, fine, "f g", "d", no_file},
          {[] { Del_file("d"); }, fine, "c c/e c/e/e c/e/e/x c/x f g", "rc", no_file + new_name},
          {[] { Del_file("d"); }, stopped, all, "", no_file},
