@@ -5,172 +5,104 @@
 #include <cstddef>
 #include <iterator>
 #include <map>
+#include <numeric>
 #include <set>
 #include <utility>
 #include <vector>
 
-#include "graph/Node_set.h"
+#include "Literal_search.h"
 
+/// The intensity method step by step on plain sets and maps: every k-subset of every clique, all
+/// pairs of k-cliques. Logarithms are added up in the order that decides on ties.
 namespace gns::literal {
 
-/// The intensity method step by step on plain sets and maps: every k-subset of every clique, a
-/// sweep over all pairs of k-cliques, translation rules between community indices.
-
-using Set = std::set<Node_index>;
 using Link = std::pair<Node_index, Node_index>;
 using Links = std::map<Link, double>;
-using Index_set = std::set<unsigned>;
 
-inline void Get_sub_links_and_min_link_w(const Set& nodes, const Links& links, Links& sub_links,
-                                         double& min_log_w) {
-  min_log_w = std::log(links.at({*nodes.begin(), *std::next(nodes.begin())}));
-  for (auto a = nodes.begin(); a != nodes.end(); ++a) {
-    for (auto b = std::next(a); b != nodes.end(); ++b) {
-      const double log = std::log(links.at({*a, *b}));
-      sub_links[{*a, *b}] = log;
-      if (min_log_w > log) min_log_w = log;
-    }
-  }
+inline double Link_count(std::size_t nodes) {
+  return 0.5 * static_cast<double>(nodes) * (static_cast<double>(nodes) - 1.0);
 }
 
-class Generation {
- public:
-  Generation(const Links& links, unsigned k, double intensity_threshold)
-      : links_(links),
-        k_(k),
-        log_threshold_(
-            std::log(std::pow(intensity_threshold, (double(k) - 1.0) * (0.5 * double(k))))) {}
+inline double Log_of_power(double intensity_threshold, std::size_t nodes) {
+  return std::log(std::pow(intensity_threshold, Link_count(nodes)));
+}
+
+/// The sum, from `sum` on, with the links of `node` to `others`.
+inline double Added_up(double sum, const Set& others, Node_index node, const Links& links) {
+  for (const Node_index other : others) sum += std::log(links.at({other, node}));
+  return sum;
+}
+
+/// The lowest logarithm inside a set; one that is not a number counts only in front.
+inline double Lowest_log(const Set& set, const Links& links) {
+  double lowest = std::log(links.at({*set.begin(), *std::next(set.begin())}));
+  for (auto a = set.begin(); a != set.end(); ++a)
+    for (auto b = std::next(a); b != set.end(); ++b)
+      lowest = std::min(lowest, std::log(links.at({*a, *b})));
+  return lowest;
+}
+
+/// The k-subsets of cliques that pass. As soon as a part of a subset passes with the lowest
+/// logarithm for all links to come, whatever it grows to passes.
+struct Generation {
+  const Links& links;
+  std::size_t k;
+  double threshold = 0.0;
+  std::set<Set> k_cliques = {};
 
   void Add_from(const Set& clique) {
-    if (clique.size() < k_) return;
-    clique_.assign(clique.begin(), clique.end());
-    sub_links_.clear();
-    Get_sub_links_and_min_link_w(clique, links_, sub_links_, min_log_w_);
-    for (std::size_t n = 0; n < clique_.size(); ++n) Iterate({clique_[n]}, n, 0.0);
+    if (clique.size() < k) return;
+    for (const Node_index node : clique)
+      Extend({node}, clique, 0.0, Lowest_log(clique, links), false);
   }
 
-  std::set<Set> k_cliques;
-
- private:
-  void Iterate(const Set& partial, std::size_t pos, double partial_sum) {
-    for (std::size_t n = pos + 1; n < clique_.size(); ++n) {
-      double s = partial_sum;
-      for (const Node_index p : partial) s += sub_links_.at({p, clique_[n]});
-      Set extended = partial;
-      extended.insert(clique_[n]);
-      const auto m = double(extended.size());
-      const double done = (m * 0.5) * (m - 1.0);
-      const double total = double((k_ - 1) * k_) * 0.5;
-      const double bound = (total - done) * min_log_w_ + s;
-      if (bound > log_threshold_) {
-        if (extended.size() == k_)
-          k_cliques.insert(extended);
-        else
-          Iterate_no_w(extended, n);
-      } else if (extended.size() < k_) {
-        Iterate(extended, n, s);
-      } else if (s > log_threshold_) {
-        k_cliques.insert(extended);
-      }
+  void Extend(const Set& part, const Set& clique, double part_sum, double lowest, bool passes) {
+    for (auto next = clique.upper_bound(*part.rbegin()); next != clique.end(); ++next) {
+      const double sum = Added_up(part_sum, part, *next, links);
+      Set longer = part;
+      longer.insert(*next);
+      const double missing = Link_count(k) - Link_count(longer.size());
+      const bool all_pass = passes || missing * lowest + sum > threshold;
+      if (longer.size() < k)
+        Extend(longer, clique, sum, lowest, all_pass);
+      else if (all_pass || sum > threshold)
+        k_cliques.insert(longer);
     }
   }
-
-  void Iterate_no_w(const Set& partial, std::size_t pos) {
-    for (std::size_t n = pos + 1; n < clique_.size(); ++n) {
-      Set extended = partial;
-      extended.insert(clique_[n]);
-      if (extended.size() == k_)
-        k_cliques.insert(extended);
-      else
-        Iterate_no_w(extended, n);
-    }
-  }
-
-  const Links& links_;
-  unsigned k_;
-  double log_threshold_;
-  double min_log_w_ = 0.0;
-  std::vector<Node_index> clique_;
-  Links sub_links_;
 };
 
 inline bool Check_intersection(const Set& shared, const Links& links, double intensity_threshold) {
-  const auto m = double(shared.size());
-  const double link_count = (m - 1.0) * (0.5 * m);
-  const double threshold = std::log(std::pow(intensity_threshold, link_count));
-  Links sub_links;
-  double min_log_w = 0.0;
-  Get_sub_links_and_min_link_w(shared, links, sub_links, min_log_w);
-  double s = 0.0;
-  double c = 1.0;
-  auto n = std::next(shared.begin());
-  while (n != shared.end() && threshold >= (link_count - (c * 0.5) * (c - 1.0)) * min_log_w + s) {
-    for (auto p = shared.begin(); p != n; ++p) s += sub_links.at({*p, *n});
-    ++n;
-    c += 1.0;
+  const double threshold = Log_of_power(intensity_threshold, shared.size());
+  const double lowest = Lowest_log(shared, links);
+  double sum = 0.0;
+  Set part = {*shared.begin()};
+  while (part.size() < shared.size()) {
+    const double missing = Link_count(shared.size()) - Link_count(part.size());
+    if (!(threshold >= missing * lowest + sum)) return true;
+    const Node_index next = *shared.upper_bound(*part.rbegin());
+    sum = Added_up(sum, part, next, links);
+    part.insert(next);
   }
-  return n != shared.end() || s > threshold;
+  return sum > threshold;
 }
 
-/// For each k-clique the community indices that the sweep hands to it.
-inline std::vector<Index_set> Sweep(const std::vector<Set>& k_cliques, unsigned k,
-                                    const Links& links, double intensity_threshold) {
-  std::vector<Index_set> com_inds(k_cliques.size());
-  unsigned next_free = 0;
+/// For each k-clique the first one of its community.
+inline std::vector<std::size_t> Communities_of(const std::vector<Set>& k_cliques,
+                                               const Links& links, double intensity_threshold) {
+  std::vector<std::size_t> first_of(k_cliques.size());
+  std::iota(first_of.begin(), first_of.end(), 0U);
   for (std::size_t a = 0; a < k_cliques.size(); ++a) {
-    if (com_inds[a].empty()) com_inds[a].insert(next_free++);
-    const unsigned c = *com_inds[a].begin();
     const Node_index second = *std::next(k_cliques[a].begin());
     for (std::size_t b = a + 1; b < k_cliques.size() && *k_cliques[b].begin() <= second; ++b) {
-      Set shared;
-      std::ranges::set_intersection(k_cliques[a], k_cliques[b],
-                                    std::inserter(shared, shared.end()));
-      if (shared.size() == k - 1 && Check_intersection(shared, links, intensity_threshold))
-        com_inds[b].insert(c);
+      const Set shared = Common(k_cliques[a], k_cliques[b]);
+      if (first_of[a] == first_of[b] || shared.size() + 1 != k_cliques[a].size() ||
+          !Check_intersection(shared, links, intensity_threshold))
+        continue;
+      const auto [first, other] = std::minmax({first_of[a], first_of[b]});
+      std::ranges::replace(first_of, other, first);
     }
   }
-  return com_inds;
-}
-
-inline std::map<unsigned, unsigned> Translation_rules(const std::vector<Index_set>& com_inds) {
-  std::vector<Index_set> groups;
-  for (Index_set merged : com_inds) {
-    if (merged.size() < 2) continue;
-    std::erase_if(groups, [&](const Index_set& group) {
-      const bool meets = std::ranges::any_of(group, [&](unsigned i) { return merged.contains(i); });
-      if (meets) merged.insert(group.begin(), group.end());
-      return meets;
-    });
-    groups.push_back(merged);
-  }
-  std::map<unsigned, unsigned> rules;
-  for (const Index_set& group : groups)
-    for (const unsigned index : group)
-      if (index != *group.begin()) rules[index] = *group.begin();
-  return rules;
-}
-
-struct Intensity_communities {
-  std::map<unsigned, Set> coms;
-  std::map<unsigned, std::vector<Link>> links;
-};
-
-inline Intensity_communities Communities_of(const std::set<Set>& found, unsigned k,
-                                            const Links& links, double intensity_threshold) {
-  const std::vector<Set> k_cliques(found.begin(), found.end());
-  const std::vector<Index_set> com_inds = Sweep(k_cliques, k, links, intensity_threshold);
-  const std::map<unsigned, unsigned> rules = Translation_rules(com_inds);
-  Intensity_communities result;
-  for (std::size_t i = 0; i < k_cliques.size(); ++i) {
-    unsigned c = *com_inds[i].begin();
-    if (rules.contains(c)) c = rules.at(c);
-    for (auto a = k_cliques[i].begin(); a != k_cliques[i].end(); ++a) {
-      result.coms[c].insert(*a);
-      for (auto b = std::next(a); b != k_cliques[i].end(); ++b)
-        result.links[c].emplace_back(*a, *b);
-    }
-  }
-  return result;
+  return first_of;
 }
 
 }  // namespace gns::literal

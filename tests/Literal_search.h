@@ -11,18 +11,16 @@
 #include "graph/Link_conversion.h"
 #include "graph/Vertex_map.h"
 #include "search/Clique_vector.h"
+#include "search/Left_map.h"
 
-/// The searches as they were first thought of: maps, sets and copies, no cleverness. The order of
-/// their results is the one that the fast ones have to keep.
+/// What the engine does, once more in a plain way: sets, maps and copies, to be compared with.
 namespace gns::literal {
 
 using Set = std::set<Node_index>;
-/// Node -> its neighbours; every link stands at both ends.
+/// Node -> its neighbours; every link stands at both ends. Nodes are 1..n.
 using Graph = std::map<Node_index, Set>;
 /// One map per clique: clique index -> number of shared nodes.
 using Matrix = std::vector<std::map<Clique_index, std::uint32_t>>;
-
-inline Set Members(Node_span row) { return {row.begin(), row.end()}; }
 
 inline Clique_vector Rows_of(const std::vector<Set>& sets) {
   Clique_vector rows;
@@ -30,7 +28,13 @@ inline Clique_vector Rows_of(const std::vector<Set>& sets) {
   return rows;
 }
 
-/// The same graph for the search under test. Nodes are 1..n without gaps.
+template <typename Rows>
+std::vector<Set> Sets_of(const Rows& rows) {
+  std::vector<Set> sets;
+  for (std::size_t i = 0; i < rows.size(); ++i) sets.emplace_back(rows[i].begin(), rows[i].end());
+  return sets;
+}
+
 inline Vertex_map Vertex_map_of(const Graph& graph) {
   std::vector<Index_pair> keys;
   for (const auto& [node, neighs] : graph)
@@ -41,110 +45,96 @@ inline Vertex_map Vertex_map_of(const Graph& graph) {
   return vtx_map;
 }
 
-/// (a intersected with b) minus c.
-inline Set Tighten(const Set& a, const Set& b, const Set& c) {
-  Set result;
-  for (const Node_index node : a)
-    if (b.contains(node) && !c.contains(node)) result.insert(node);
-  return result;
+inline Dir_vertex_map Dir_vertex_map_of(const std::set<Index_pair>& links, Node_index node_count) {
+  Dir_vertex_map map;
+  Dir_vtx_map_from_link_map(map, Index_links({links.begin(), links.end()}, {}, node_count));
+  return map;
 }
 
-/// True if no known set contains all of `set`.
-inline bool Mehet_tovabb(const std::vector<Set>& known, const Set& set) {
-  return std::none_of(known.begin(), known.end(), [&](const Set& clique) {
-    return std::includes(clique.begin(), clique.end(), set.begin(), set.end());
-  });
+inline Set Common(const Set& a, const Set& b) {
+  Set common;
+  std::ranges::set_intersection(a, b, std::inserter(common, common.end()));
+  return common;
 }
 
-inline Set United(Set a, const Set& b) {
-  a.insert(b.begin(), b.end());
-  return a;
+/// True if one of `sets` holds every member of `set`.
+inline bool Lies_inside_one(const Set& set, const std::vector<Set>& sets) {
+  return std::ranges::any_of(sets, [&](const Set& s) { return std::ranges::includes(s, set); });
 }
 
-/// What every search records: cliques, their overlap matrix, and for each node its cliques.
-struct Record {
-  std::vector<Set> cliques;
-  Matrix overlap_matrix;
-  std::map<Node_index, std::vector<Clique_index>> node_cls;
-  std::map<Node_index, std::vector<Set>> inc_neighs;
-
-  void Iktatjuk_az_uj_math_cliquet(const Set& clique) {
-    const auto i = static_cast<Clique_index>(cliques.size());
-    overlap_matrix.push_back({{i, static_cast<std::uint32_t>(clique.size())}});
-    for (const Node_index member : clique) {
-      for (const Clique_index c : node_cls[member]) {
-        ++overlap_matrix[c][i];
-        ++overlap_matrix[i][c];
-      }
-      node_cls[member].push_back(i);
-      inc_neighs[member].push_back(clique);
-      inc_neighs[member].back().erase(member);
-    }
-    cliques.push_back(clique);
+/// Finds the maximal cliques that a clique grows to. `candidates` and `excluded` are linked to all
+/// of it, but cliques with one of `excluded` have been found. Each clique lacks a neighbour of the
+/// pivot, or the pivot would join it.
+inline void Grow(const Graph& graph, Set clique, Set candidates, Set excluded,
+                 std::set<Set>& found) {
+  if (candidates.empty()) {
+    if (excluded.empty() && clique.size() >= 3) found.insert(clique);
+    return;
   }
-};
-
-/// Nodes by number of neighbours, among equals by index.
-inline std::vector<Node_index> Sorted_nodes(const Graph& graph) {
-  std::vector<std::pair<std::size_t, Node_index>> pairs;
-  for (const auto& [node, neighs] : graph) pairs.emplace_back(neighs.size(), node);
-  std::sort(pairs.begin(), pairs.end());
-  std::vector<Node_index> order;
-  for (const auto& pair : pairs) order.push_back(pair.second);
-  return order;
-}
-
-/// The exact undirected search: no pivot, no excluded set, but a look at what is known already.
-class Exact_search {
- public:
-  explicit Exact_search(const Graph& graph) : work_map_(graph) {
-    for (const Node_index node : Sorted_nodes(graph)) {
-      Main_investigation(node);
-      work_map_.erase(node);
-    }
-  }
-  [[nodiscard]] const Record& Found() const { return record_; }
-
- private:
-  void Main_investigation(Node_index node) {
-    const Set neighs = work_map_[node];
-    std::vector<Set> known = record_.inc_neighs[node];
-    for (Set& set : known) set.insert(node);
-    Set remaining = neighs;
-    while (remaining.size() >= 2) {
-      const Node_index first = *remaining.begin();
-      const Set clique = {node, first};
-      Set cands = Tighten(work_map_[first], remaining, clique);
-      remaining.erase(first);
-      if (!Mehet_tovabb(known, United(clique, cands))) continue;
-      while (!cands.empty()) {
-        const Node_index next = *cands.begin();
-        cands.erase(next);
-        Recurrent_investigation(next, clique, cands, known);
-      }
-    }
-    for (const Node_index neigh : neighs) work_map_[neigh].erase(node);
-  }
-
-  void Recurrent_investigation(Node_index next, Set clique, const Set& cands,
-                               std::vector<Set>& known) {
-    Set tight = Tighten(work_map_[next], cands, clique);
+  const Node_index pivot = *std::ranges::max_element(
+      candidates, {}, [&](Node_index node) { return Common(candidates, graph.at(node)).size(); });
+  for (const Node_index next : Set(candidates)) {
+    const Set& neighs = graph.at(next);
+    if (neighs.contains(pivot)) continue;
     clique.insert(next);
-    if (tight.empty() && Mehet_tovabb(known, clique)) {
-      record_.Iktatjuk_az_uj_math_cliquet(clique);
-      known.push_back(clique);
-      return;
-    }
-    if (!Mehet_tovabb(known, United(clique, tight))) return;
-    while (!tight.empty()) {
-      const Node_index smallest = *tight.begin();
-      tight.erase(smallest);
-      Recurrent_investigation(smallest, clique, tight, known);
-    }
+    Grow(graph, clique, Common(candidates, neighs), Common(excluded, neighs), found);
+    clique.erase(next);
+    candidates.erase(next);
+    excluded.insert(next);
   }
+}
 
-  Graph work_map_;
-  Record record_;
+/// The maximal cliques of three nodes or more: each with the node that comes first by number of
+/// neighbours, then by index; those of one node in lexicographic order.
+inline std::vector<Set> Cliques_of(const Graph& graph) {
+  std::vector<Node_index> order;
+  for (const auto& [node, neighs] : graph) order.push_back(node);
+  std::ranges::stable_sort(order, {}, [&](Node_index node) { return graph.at(node).size(); });
+  std::vector<Set> cliques;
+  Set done;
+  for (const Node_index node : order) {
+    Set candidates = graph.at(node);
+    for (const Node_index other : done) candidates.erase(other);
+    std::set<Set> found;
+    Grow(graph, {node}, candidates, Common(graph.at(node), done), found);
+    cliques.insert(cliques.end(), found.begin(), found.end());
+    done.insert(node);
+  }
+  return cliques;
+}
+
+/// The number of nodes that each two cliques share, where they share any.
+inline Matrix Shared_nodes(const std::vector<Set>& cliques) {
+  std::map<Node_index, std::vector<Clique_index>> cliques_of;
+  for (Clique_index i = 0; i < cliques.size(); ++i)
+    for (const Node_index node : cliques[i]) cliques_of[node].push_back(i);
+  Matrix matrix(cliques.size());
+  for (const auto& [node, holders] : cliques_of)
+    for (const Clique_index i : holders)
+      for (const Clique_index j : holders) ++matrix[i][j];
+  return matrix;
+}
+
+/// The cliques with core cliques in place of what a search has left, by comparing all with all.
+struct Covered_cliques {
+  std::vector<Set> core;
+  std::vector<Set> cliques;
+  std::size_t exact_clique_count = 0;
+
+  Covered_cliques(const Left_map& left, const std::vector<Set>& exact) {
+    std::vector<Set> entries;
+    for (const Set& set : Sets_of(left.neighs))
+      if (!Lies_inside_one(set, entries) && !Lies_inside_one(set, exact)) entries.push_back(set);
+    for (const Set& entry : entries)
+      if (std::ranges::none_of(entries, [&](const Set& other) {
+            return other != entry && std::ranges::includes(other, entry);
+          }))
+        core.push_back(entry);
+    for (const Set& clique : exact)
+      if (!Lies_inside_one(clique, core)) cliques.push_back(clique);
+    exact_clique_count = cliques.size();
+    cliques.insert(cliques.end(), core.begin(), core.end());
+  }
 };
 
 }  // namespace gns::literal

@@ -1,149 +1,187 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <atomic>
-#include <bit>
 #include <cmath>
+#include <limits>
 #include <random>
 #include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
 
-#include "Weighted_sample.h"
+#include "Literal_intensity.h"
+#include "Message_of.h"
 #include "communities/K_clique_communities.h"
 #include "communities/K_clique_generation.h"
 #include "control/Clique_find_ext_cont.h"
-#include "foundation/Errors.h"
 
 namespace gns {
 namespace {
 
+using literal::Links;
+using literal::Set;
+
+Index_links Index_links_of(const Links& links) {
+  std::vector<Index_pair> keys;
+  std::vector<double> weights;
+  Node_index nodes = 0;
+  for (const auto& [link, weight] : links) {
+    keys.push_back({link.first, link.second});
+    weights.push_back(weight);
+    nodes = std::max(nodes, link.second);
+  }
+  return {keys, weights, nodes};
+}
+
+std::vector<Set> Maximal_cliques(const Links& links) {
+  literal::Graph graph;
+  for (const auto& [link, weight] : links) {
+    graph[link.first].insert(link.second);
+    graph[link.second].insert(link.first);
+  }
+  return literal::Cliques_of(graph);
+}
+
+/// The k-cliques of a weighted graph and their communities, for one k and threshold after another.
+struct Intensity_run {
+  explicit Intensity_run(const Links& links)
+      : index_links(Index_links_of(links)), maximal(literal::Rows_of(Maximal_cliques(links))) {}
+
+  void At(std::uint32_t k, double threshold) {
+    Generate_k_cls_from_cls_ec(weighted, k_cliques, k, threshold);
+    Intensity_coms_from_k_cliques_ec(k_cliques, coms, com_k_cliques, weighted.Logs(), threshold);
+  }
+
+  Index_links index_links;
+  Clique_vector maximal;
+  Weighted_cliques weighted{maximal, index_links};
+  K_cliques k_cliques{0};
+  Row_array<Node_index> coms;
+  Row_array<K_clique_index> com_k_cliques;
+};
+
+/// Compares k-cliques, communities and their links with the literal ones.
+void Compare(Intensity_run& run, const Links& links, unsigned k, double threshold) {
+  SCOPED_TRACE(testing::Message() << "k=" << k << " I=" << threshold);
+  run.At(k, threshold);
+  literal::Generation generation{links, k, literal::Log_of_power(threshold, k)};
+  for (const Set& clique : literal::Sets_of(run.maximal)) generation.Add_from(clique);
+  const std::vector<Set> k_cliques(generation.k_cliques.begin(), generation.k_cliques.end());
+  ASSERT_EQ(literal::Sets_of(run.k_cliques), k_cliques);
+
+  using Community = std::pair<Set, std::vector<literal::Link>>;  // members and links
+  std::vector<Community> expected;
+  std::vector<std::size_t> com_of(k_cliques.size());
+  const std::vector<std::size_t> first_of = literal::Communities_of(k_cliques, links, threshold);
+  for (std::size_t i = 0; i < k_cliques.size(); ++i) {
+    com_of[i] = first_of[i] == i ? expected.size() : com_of[first_of[i]];
+    expected.resize(std::max(expected.size(), com_of[i] + 1));
+    auto& [members, com_links] = expected[com_of[i]];
+    for (const Node_index a : k_cliques[i]) {
+      members.insert(a);
+      for (const Node_index b : k_cliques[i])
+        if (a < b) com_links.emplace_back(a, b);
+    }
+  }
+  std::vector<Community> found;
+  for (std::size_t com = 0; com < run.coms.size(); ++com) {
+    found.push_back({literal::Sets_of(run.coms)[com], {}});
+    K_clique_com_links(run.k_cliques, run.com_k_cliques).For_each(com, [&](Index_pair link) {
+      found.back().second.emplace_back(link.first, link.second);
+    });
+  }
+  ASSERT_EQ(found, expected);
+}
+
+Links Random_links(std::mt19937& random, Node_index nodes, const std::vector<double>& weights) {
+  Links links;
+  const std::size_t share = 3 + random() % 8;
+  for (Node_index a = 1; a <= nodes; ++a)
+    for (Node_index b = a + 1; b <= nodes; ++b)
+      if (random() % 10 < share) links[{a, b}] = weights[random() % weights.size()];
+  return links;
+}
+
+TEST(Intensity, EqualsTheLiteralMethod) {
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  struct Case {
+    std::vector<double> weights;
+    std::vector<double> thresholds;  ///< some are met exactly by sets of equal weights
+  };
+  for (const Case& c : std::vector<Case>{
+           {{1.0, 2.0, 4.0}, {1.0, 2.0, std::sqrt(8.0), 4.0}},
+           // Added up in another order, these sums fall on the other side of the threshold.
+           {{0.71}, {0.71}},
+           {{2.94}, {2.94}},
+           {{0.1, 0.2, 0.3, 0.7, 1.1}, {0.0, 0.1, 0.25, 0.3, 1e-300, 1e300}},
+           {{-1.0, -1.0, 2.0}, {0.0, 1.5, 2.0}},
+           {{-1.0, 0.0, 1.0, 2.0, infinity}, {0.0, 1.0, 1.5, infinity}}}) {
+    std::mt19937 random(1);
+    for (int round = 0; round < 208; ++round) {
+      const bool large = round >= 200;
+      const auto nodes = static_cast<Node_index>((large ? 8 : 3) + random() % 8);
+      const Links links = Random_links(random, nodes, c.weights);
+      Intensity_run run(links);
+      const unsigned least_k = large ? 6 : 3;
+      for (unsigned k = least_k; k <= least_k + 2; ++k)
+        for (const double threshold : c.thresholds) Compare(run, links, k, threshold);
+      if (HasFatalFailure()) FAIL() << c.weights.front() << " and others, round " << round;
+    }
+  }
+}
+
 /// Cliques of consecutive nodes, each from its first node to its last; all links weigh the same.
-literal::Links Cliques(const std::vector<std::pair<Node_index, Node_index>>& ranges,
-                       double weight) {
-  literal::Links links;
+Links Cliques(const std::vector<std::pair<Node_index, Node_index>>& ranges, double weight) {
+  Links links;
   for (const auto& [first, last] : ranges)
     for (Node_index a = first; a <= last; ++a)
       for (Node_index b = a + 1; b <= last; ++b) links[{a, b}] = weight;
   return links;
 }
 
-/// Counts the k-subsets of one clique whose geometric mean exceeds the threshold.
-std::size_t Count_by_definition(const literal::Links& links, unsigned nodes, unsigned k,
-                                double threshold) {
-  std::size_t count = 0;
-  for (std::uint32_t subset = 0; subset < (std::uint32_t{1} << nodes); ++subset) {
-    if (std::popcount(subset) != static_cast<int>(k)) continue;
-    double product = 1.0;
-    for (const auto& [link, weight] : links)
-      if ((subset >> (link.first - 1) & subset >> (link.second - 1) & 1) != 0) product *= weight;
-    if (std::pow(product, 2.0 / (k * (k - 1.0))) > threshold) ++count;
-  }
-  return count;
-}
-
-TEST(KCliques, AreThoseWhoseGeometricMeanExceedsTheThreshold) {
-  std::mt19937 random(7);
-  for (const double deviation : {1.0, 0.05}) {
-    for (const double mean : {-0.7, 0.0, 0.2, 0.3, 0.5, 0.7, 1.1}) {
-      const double threshold = std::exp(mean * deviation);
-      std::lognormal_distribution<double> weight(0.0, deviation);
-      literal::Links links = Cliques({{1, 14}}, 0.0);
-      for (auto& link : links) link.second = weight(random);
-      const Weighted_sample sample(links, 14);
-      const Weighted_cliques cliques(sample.cliques, sample.index_links);
-      for (const unsigned k : {3U, 5U, 7U, 10U, 13U, 14U}) {
-        K_cliques k_cliques(k);
-        Generate_k_cls_from_cls_ec(cliques, k_cliques, k, threshold);
-        EXPECT_EQ(k_cliques.size(), Count_by_definition(links, 14, k, threshold))
-            << "k=" << k << " I=" << threshold;
-      }
-    }
-  }
-}
-
 /// Of the 2,200 million subsets of 16 nodes those in the strong core pass.
 TEST(KCliques, HopelessBranchesAreCut) {
-  literal::Links links = Cliques({{1, 34}}, 0.9);
+  Links links = Cliques({{1, 34}}, 0.9);
   for (auto& [link, weight] : links)
     if (link.first % 2 == 0 && link.second % 2 == 0) weight = 4.0;
-  const Weighted_sample sample(links, 34);
-  K_cliques k_cliques(16);
-  Generate_k_cls_from_cls_ec(Weighted_cliques(sample.cliques, sample.index_links), k_cliques, 16,
-                             3.9);
-  EXPECT_EQ(k_cliques.size(), 17U);
+  Intensity_run run(links);
+  run.At(16, 3.9);
+  EXPECT_EQ(run.k_cliques.size(), 17U);
 }
-
-struct Pair_of_cliques {
-  Node_index second_begins;
-  std::size_t communities;
-};
 
 /// More shared subsets than are held in memory at a time.
-TEST(KCliqueCommunities, ManyKCliques) {
+TEST(KCliques, ManyOfThem) {
   constexpr std::size_t subsets_of_9 = 48620;
-  for (const auto& [second_begins, communities] :
-       {Pair_of_cliques{19, 2}, Pair_of_cliques{12, 2}, Pair_of_cliques{11, 1}}) {
-    const Node_index last = second_begins + 17;
-    const Weighted_sample sample(Cliques({{1, 18}, {second_begins, last}}, 2.0), last);
-    const Weighted_cliques cliques(sample.cliques, sample.index_links);
-    K_cliques k_cliques(9);
-    Generate_k_cls_from_cls_ec(cliques, k_cliques, 9, 1.0);
-    EXPECT_EQ(k_cliques.size(), 2 * subsets_of_9);
-    Row_array<Node_index> coms;
-    Row_array<K_clique_index> com_k_cliques;
-    Intensity_coms_from_k_cliques_ec(k_cliques, coms, com_k_cliques, cliques.Logs(), 1.0);
-    ASSERT_EQ(coms.size(), communities);
-    EXPECT_EQ(coms[0].size(), communities == 2 ? 18 : last);
-    EXPECT_EQ(com_k_cliques[0].size(), communities == 2 ? subsets_of_9 : 2 * subsets_of_9);
-    EXPECT_EQ(com_k_cliques.Values().size(), 2 * subsets_of_9);
+  for (const Node_index second_begins : {12U, 11U}) {
+    Intensity_run run(Cliques({{1, 18}, {second_begins, 28}}, 2.0));
+    run.At(9, 1.0);
+    const bool apart = second_begins == 12;
+    EXPECT_EQ(run.coms.size(), apart ? 2U : 1U);
+    EXPECT_EQ(run.coms[0].size(), apart ? 18U : 28U);
+    EXPECT_EQ(run.com_k_cliques[0].size(), apart ? subsets_of_9 : 2 * subsets_of_9);
   }
 }
 
-TEST(KCliques, ACliqueThatLacksALink) {
-  const Weighted_sample sample(Cliques({{1, 4}}, 1.0), 4);
-  literal::Links fewer = sample.links;
-  fewer.erase({2, 3});
-  const Weighted_sample other(fewer, 4);
+TEST(KCliques, MissingLink) {
+  Links links = Cliques({{1, 4}}, 1.0);
+  const Clique_vector maximal = literal::Rows_of(Maximal_cliques(links));
+  links.erase({2, 3});
+  const Index_links fewer = Index_links_of(links);
   const std::string text = "ERROR: Get_sub_links_and_thresh_abs: missing link.\n";
-  try {
-    const Weighted_cliques cliques(sample.cliques, other.index_links);
-    ADD_FAILURE() << "nothing thrown";
-  } catch (const Xerror_msg& error) {
-    EXPECT_EQ(error.what(), text);
-  }
-  const Link_logs logs(other.index_links);
+  EXPECT_EQ(Message_of([&] { const Weighted_cliques cliques(maximal, fewer); }), text);
   const std::vector<Node_index> set = {1, 2, 3};
-  EXPECT_THROW(static_cast<void>(Coms_from_k_cls_sub::Check_intersection(set, logs, 0.5)),
-               Xerror_msg);
+  const Link_logs logs(fewer);
+  EXPECT_EQ(Message_of([&] { Coms_from_k_cls_sub::Check_intersection(set, logs, 0.5); }), text);
 }
 
-class ThreadsKCliques : public ::testing::Test {
- protected:
-  ~ThreadsKCliques() override {
-    Reset_stop_process();
-    external_control::CURRENT_STATE_REPORT = std::string();
-  }
-};
-
-TEST_F(ThreadsKCliques, ReportAndStop) {
-  const Weighted_sample sample(Cliques({{1, 4}, {5, 44}, {45, 47}}, 2.0), 47);
-  const Weighted_cliques cliques(sample.cliques, sample.index_links);
-  K_cliques k_cliques(0);
-  Row_array<Node_index> coms;
-  Row_array<K_clique_index> com_k_cliques;
-
+TEST(ThreadsKCliques, ReportAndStop) {
+  Intensity_run run(Cliques({{1, 4}, {5, 44}, {45, 47}}, 2.0));
   for (const std::uint32_t k : {41U, 4294967295U}) {
-    external_control::CURRENT_STATE_REPORT = std::string();
-    Generate_k_cls_from_cls_ec(cliques, k_cliques, k, 0.3);
-    Intensity_coms_from_k_cliques_ec(k_cliques, coms, com_k_cliques, cliques.Logs(), 0.3);
+    run.At(k, 0.3);
     EXPECT_EQ(Read_state_report(),
               "_______________________________\n Altogether 0  k-cliques found.\n");
-    EXPECT_TRUE(coms.empty());
   }
-  Generate_k_cls_from_cls_ec(cliques, k_cliques, 39, 0.3);
-  Intensity_coms_from_k_cliques_ec(k_cliques, coms, com_k_cliques, cliques.Logs(), 0.3);
+  run.At(39, 0.3);
   EXPECT_EQ(Read_state_report(),
             "___________________________________________________\n"
             " Extracting communities from the k-cliques at k=39,\n"
@@ -151,25 +189,27 @@ TEST_F(ThreadsKCliques, ReportAndStop) {
             " 1 of 40 k-cliques to do (97.50% done)\n");
 
   // The middle clique has 137846528820 subsets of 20 nodes.
-  const std::string expected =
-      "__________________________________________________\n"
-      " Generating k-cliques at k=20,\n"
-      " and a link weight intensity threshold I=2.000000:\n"
-      " 2 of 3 cliques to do (33.33% done)\n";
-  std::thread watcher([&] {
-    while (Read_state_report() != expected) std::this_thread::yield();
+  std::thread watcher([] {
+    while (Read_state_report() !=
+           "__________________________________________________\n"
+           " Generating k-cliques at k=20,\n"
+           " and a link weight intensity threshold I=2.000000:\n"
+           " 2 of 3 cliques to do (33.33% done)\n")
+      std::this_thread::yield();
     Stop_process();
   });
-  EXPECT_THROW(Generate_k_cls_from_cls_ec(cliques, k_cliques, 20, 2.0), std::logic_error);
+  EXPECT_THROW(run.At(20, 2.0), std::logic_error);
   watcher.join();
+  Reset_stop_process();
   EXPECT_EQ(Read_state_report(), " Process stopped by user.\n");
 }
 
 /// The clique at hand counts as remaining, so the work is never told to be done while it goes on;
 /// here nearly all nodes stand behind the only clique.
-TEST_F(ThreadsKCliques, ProgressNeverReachesTheWhole) {
-  const Weighted_sample sample(Cliques({{1, 3}}, 2.0), 3000000);
-  const Weighted_cliques cliques(sample.cliques, sample.index_links);
+TEST(ThreadsKCliques, ProgressNeverReachesTheWhole) {
+  const Index_links links({{1, 2}, {1, 3}, {2, 3}}, {2.0, 2.0, 2.0}, 3000000);
+  const Clique_vector maximal = literal::Rows_of({{1, 2, 3}});
+  const Weighted_cliques cliques(maximal, links);
   std::atomic<bool> ended = false;
   std::thread generation([&] {
     K_cliques k_cliques(3);
