@@ -58,8 +58,8 @@ inline Graph Two_sides(Random& random, std::uint32_t side) {
   Graph graph = Uniform(random, 2 * side, 0);
   for (Node_index a = 1; a <= side; ++a)
     for (Node_index b = side + 1; b <= 2 * side; ++b) Link_all(graph, {a, b});
-  for (int inner = 6; inner > 0; --inner) {
-    constexpr Node_index last = 20;
+  for (Node_index inner = 8; inner > 0; --inner) {
+    constexpr Node_index last = 6;
     const Set pair = random.Nodes(last, 2);
     const Node_index offset = (inner % 2 + 1) * side - last;
     Link_all(graph, {*pair.begin() + offset, *pair.rbegin() + offset});
