@@ -76,8 +76,8 @@ struct Fake_jvm::Functions : JNINativeInterface_ {
     };
     ExceptionCheck = [](JNIEnv* env) -> jboolean { return !Of(env).pending.empty(); };
     ExceptionOccurred = [](JNIEnv* env) {
-      const std::string& pending = Of(env).pending;
-      return static_cast<jthrowable>(pending.empty() ? nullptr : Of(env).Refer({pending, {}}));
+      const std::string& error = Of(env).pending;
+      return static_cast<jthrowable>(error.empty() ? nullptr : Of(env).Refer({error, {}}));
     };
     ExceptionDescribe = [](JNIEnv* env) { Of(env).pending.clear(); };
   }

@@ -39,9 +39,9 @@ struct Percolation_at_k {
       coms.emplace_back();
       Extend(i, coms.back());
     }
-    const auto appr =
-        std::ranges::stable_partition(coms, [](const auto& com) { return !com.appr; });
-    exact_com_count = coms.size() - appr.size();
+    const auto appr = std::stable_partition(coms.begin(), coms.end(),
+                                            [](const auto& com) { return !com.appr; });
+    exact_com_count = static_cast<std::size_t>(appr - coms.begin());
   }
 
  private:
