@@ -39,8 +39,8 @@ struct Percolation_at_k {
       coms.emplace_back();
       Extend(i, coms.back());
     }
-    const auto appr = std::stable_partition(coms.begin(), coms.end(),
-                                            [](const auto& com) { return !com.appr; });
+    const auto appr =
+        std::stable_partition(coms.begin(), coms.end(), [](const auto& com) { return !com.appr; });
     exact_com_count = static_cast<std::size_t>(appr - coms.begin());
   }
 
