@@ -47,7 +47,7 @@ Byte_strings::Byte_strings(JNIEnv* env)
       type_(env, env->EnsureLocalCapacity(room) == JNI_OK ? env->FindClass(string_class) : nullptr),
       init_(Needed(env->GetMethodID(Needed(type_.Get()), "<init>", "([B)V"))) {}
 
-jstring Byte_strings::Make(std::string_view text) const {
+jstring Byte_strings::C_to_String(std::string_view text) const {
   const auto size = static_cast<jsize>(text.size());
   const Local_ref<jbyteArray> bytes(env_, env_->NewByteArray(size));
   if (!bytes) {
@@ -58,14 +58,6 @@ jstring Byte_strings::Make(std::string_view text) const {
   }
   env_->SetByteArrayRegion(bytes.Get(), 0, size, reinterpret_cast<const jbyte*>(text.data()));
   return static_cast<jstring>(env_->NewObject(type_.Get(), init_, bytes.Get()));
-}
-
-jstring C_to_String(JNIEnv* env, std::string_view text) {
-  try {
-    return Byte_strings(env).Make(text);
-  } catch (const Java_error_pending&) {
-    return nullptr;
-  }
 }
 
 }  // namespace gns

@@ -23,16 +23,13 @@ class Byte_strings {
   explicit Byte_strings(JNIEnv* env);
 
   /// A new local reference, or null if the JVM has no memory for it; the error is then pending.
-  [[nodiscard]] jstring Make(std::string_view text) const;
+  [[nodiscard]] jstring C_to_String(std::string_view text) const;
 
  private:
   JNIEnv* env_;
   Local_ref<jclass> type_;
   jmethodID init_;
 };
-
-/// One string by way of Byte_strings; null if it can't be had.
-jstring C_to_String(JNIEnv* env, std::string_view text);
 
 /// A Java string of a text in UTF-8, for all but broken bytes: those become U+FFFD. `encoding`
 /// lends its memory. A new local reference, or null with an error pending.

@@ -114,7 +114,7 @@ Local_ref<jobject> Translation::In_params_of(Name_pairs links) const {
   if (links.empty()) return in_params;
   Report(" Loading results: edges");
   const Byte_strings strings(env_);
-  Name_strings names(env_, [&](std::string_view name) { return strings.Make(name); });
+  Name_strings names(env_, [&](std::string_view name) { return strings.C_to_String(name); });
   for (const auto& [first, second] : links)
     in_params_class_.Call(in_params, in_params_class_.add_edge, names.Of(first).Get(),
                           names.Of(second).Get());

@@ -26,19 +26,13 @@ std::string Complain(const Complaint& complaint, std::string_view word) {
   return std::string(complaint.before).append(word).append(complaint.after);
 }
 
-std::int32_t Convert_odd_word(std::string_view word, const Complaint& refused,
-                              const Complaint& warning) {
+std::int32_t Convert_word(std::string_view word, const Complaint& refused,
+                          const Complaint& warning) {
   std::int32_t value = 0;
   bool suspicious = false;
   if (!Convert_from_string(word, value, suspicious)) throw Xerror_msg(Complain(refused, word));
   if (suspicious) std::cout << Complain(warning, word);
   return value;
-}
-
-inline std::int32_t Convert_word(std::string_view word, const Complaint& refused,
-                                 const Complaint& warning) {
-  std::int32_t value = 0;
-  return Convert_plain(word, value) ? value : Convert_odd_word(word, refused, warning);
 }
 
 template <typename Values>

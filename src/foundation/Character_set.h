@@ -23,7 +23,6 @@ class Character_set {
     ++size_;
     newest_ = c;
   }
-  constexpr void clear() { *this = {}; }
 
   [[nodiscard]] constexpr bool contains(char c) const { return (bits_[Word(c)] & Bit(c)) != 0; }
   [[nodiscard]] constexpr std::size_t size() const { return size_; }
