@@ -23,8 +23,8 @@ class Search_graph {
   void Finish(Node_index node) { finished_[node] = 1; }
   [[nodiscard]] bool Is_finished(Node_index node) const { return finished_[node] != 0; }
 
-  /// Fills `local` for a node in hand; false if no two candidates are linked, so that there is no
-  /// clique of three nodes or more to be found.
+  /// Fills `local` for a node in hand; false if there is no clique of three nodes or more to be
+  /// found: no two candidates are linked, or a finished node could join whatever they make.
   bool Cut_out(Node_index node, Local_graph& local);
 
  private:
@@ -37,6 +37,8 @@ class Search_graph {
   }
   static Direction Reverse(Direction direction);
   static void Enter(Local_graph& local, std::size_t row, std::size_t position, Direction direction);
+  [[nodiscard]] bool Is_covered(const Local_graph& local) const;
+  [[nodiscard]] bool Closes_no_cycle(Node_index covering, const Local_graph& local) const;
   bool Collect(Node_index node, Local_graph& local);
   template <bool directed>
   bool Link(Local_graph& local) const;
