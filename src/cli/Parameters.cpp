@@ -12,6 +12,9 @@ namespace gns {
 
 namespace {
 
+/// What the name of a file can hold; more is sure to fail, after much time and memory.
+constexpr unsigned most_digits = 255;
+
 using Flag = bool Switch_values::*;
 
 /// A switch that is followed by a value.
@@ -97,6 +100,8 @@ void Examin_params(const Switch_map& params, Switch_values& values) {
     if (!params.contains(s.name)) continue;
     std::visit([&](const auto& target) { Read_switch(target, s.name, params, values); }, s.target);
   }
+  if (values.use_digits && values.digits > most_digits)
+    Add_error(" The number of digits (-d) must not be greater than 255.\n", values);
   if (!Check_switches(values.use_time_limit, values.time_limit, values.use_lower_threshold,
                       values.use_upper_threshold, values.lower_threshold, values.upper_threshold,
                       values.directed, values.use_intensity, values.undirected_declared,

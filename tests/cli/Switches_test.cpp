@@ -46,6 +46,9 @@ TEST(Parameters, MessagesPileUpInOrder) {
       {{"-i"}, " No value is given for switch -i.\n"},
       {{"-i", "a", "-w", "1", "-w"}, " No value is given for switch -w.\n"},
       {{"-i", "a", "-t", "0"}, " The maximal allowed time per node must be positive.\n"},
+      {{"-i", "a", "-d", "2147483647"},
+       " The number of digits (-d) must not be greater than 255.\n"},
+      {{"-i", "a", "-d", "256"}, " The number of digits (-d) must not be greater than 255.\n"},
       {{"-i", "a", "-U", "-D"},
        " The program cannot apply the dirrected and undirected\n"
        " search algorithm at the same time.\n"},
@@ -72,8 +75,8 @@ TEST(Parameters, LooseValuesEachGetTheirOwn) {
   double lower = -1, upper = -2, time = -3, intensity = -4;
   unsigned digits = 99, k = 98;
   std::string output = "unset", input, errors = "before ";
-  Examin_params(Params_of({"-i", "in", "b", "-o", "out", "-w", "0.5", "-W", "1e1", "-d", "3", "-t",
-                           "x", "-k", "3.7", "-I", "0.25"}),
+  Examin_params(Params_of({"-i", "in", "b", "-o", "out", "-w", "0.5", "-W", "1e1", "-d", "255",
+                           "-t", "x", "-k", "3.7", "-I", "0.25"}),
                 use_lower, lower, use_upper, upper, use_digits, digits, use_output, output, input,
                 help, use_time, time, directed, use_intensity, intensity, use_k, k, error, errors);
   EXPECT_TRUE(use_lower && use_upper && use_digits && use_output && use_time && use_intensity &&
@@ -81,7 +84,7 @@ TEST(Parameters, LooseValuesEachGetTheirOwn) {
   EXPECT_FALSE(help || directed);
   EXPECT_EQ((std::vector<double>{lower, upper, time, intensity}),
             (std::vector<double>{0.5, 10, -3, 0.25}));
-  EXPECT_EQ((std::vector<unsigned>{digits, k}), (std::vector<unsigned>{3, 4}));
+  EXPECT_EQ((std::vector<unsigned>{digits, k}), (std::vector<unsigned>{255, 4}));
   EXPECT_EQ(input + output, "inout");
   EXPECT_TRUE(errors.starts_with("before  Unable to interpret the value 'x' for switch -t.\n"));
 }
