@@ -4,11 +4,13 @@
 #include <string_view>
 #include <vector>
 
+#include "graph/Name_hash.h"
 #include "graph/Name_table.h"
 
 namespace gns {
 
-/// Numbers names in order of first appearance and stores each distinct one once.
+/// Numbers names in order of first appearance and stores each distinct one once. Polls as a long
+/// stage does.
 class Name_numbers {
  public:
   /// The number of a name; of one not met before, what was size() until then.
@@ -22,6 +24,7 @@ class Name_numbers {
  private:
   void Grow_slots();
 
+  Hash_key key_ = Hash_key::Of_process();
   Name_table names_;
   std::vector<std::uint64_t> slots_;  ///< open addressing: upper half of the hash, number + 1
 };
