@@ -19,7 +19,7 @@ class Plain_report : public Report {
 }  // namespace
 
 std::atomic<bool> STOP_CURRENT_PROCESS = false;
-std::atomic<bool> STOP_INSIDE_LONG_STAGES = false;
+std::atomic<bool> STOP_AT_ONCE = false;
 Report_variable CURRENT_STATE_REPORT;
 Report_variable ERROR_MESSAGE;
 Report_variable JAVA_CPP_TRANSLATE_STATE_REPORT;
@@ -57,7 +57,15 @@ namespace gns {
 
 void Stop_process() { external_control::STOP_CURRENT_PROCESS.store(true); }
 
-void Reset_stop_process() { external_control::STOP_CURRENT_PROCESS.store(false); }
+void Stop_at_once() {
+  external_control::STOP_AT_ONCE.store(true);
+  Stop_process();
+}
+
+void Reset_stop_process() {
+  external_control::STOP_AT_ONCE.store(false);
+  external_control::STOP_CURRENT_PROCESS.store(false);
+}
 
 std::string Read_state_report() { return external_control::CURRENT_STATE_REPORT.Text(); }
 

@@ -35,9 +35,9 @@ extern Report_variable CURRENT_STATE_REPORT;
 extern Report_variable ERROR_MESSAGE;  ///< no stage writes it: always empty
 extern Report_variable JAVA_CPP_TRANSLATE_STATE_REPORT;
 
-/// Set by a host that wants a stop to be honoured inside the long stages too (percolation, writing
-/// of one k), where by default it waits for the next stage.
-extern std::atomic<bool> STOP_INSIDE_LONG_STAGES;
+/// Beside STOP_CURRENT_PROCESS: the stop is to be honoured inside the long stages too (reading,
+/// sorting, percolation, writing), where otherwise it waits for the next stage.
+extern std::atomic<bool> STOP_AT_ONCE;
 
 /// How far the run has come, in figures; each is kept by its stage and read from any thread.
 struct Progress {
@@ -58,20 +58,26 @@ inline void Check_for_stop_signal() {
     End_by_stop();
 }
 
-/// The poll of the long stages: does nothing unless STOP_INSIDE_LONG_STAGES is set.
+/// The poll of the long stages: only a stop at once ends the run here.
 inline void Check_inside_long_stage() {
-  if (STOP_INSIDE_LONG_STAGES.load(std::memory_order_relaxed)) Check_for_stop_signal();
+  if (STOP_AT_ONCE.load(std::memory_order_relaxed)) [[unlikely]]
+    End_by_stop();
 }
 
 }  // namespace external_control
 
 namespace gns {
 
-/// Asks the run that is going on to end at its next poll; returns at once. Callable from any
-/// thread and from a signal handler.
+/// Asks the run that is going on to end at its next poll, as a rule between two stages or inside a
+/// search; returns at once. Callable from any thread and from a signal handler.
 void Stop_process();
 
-/// Takes a stop request back. Nothing else does, so a host calls it before the next run.
+/// The same, and the run ends inside its long stages too: within some hundredths of a second,
+/// perhaps in the middle of a file.
+void Stop_at_once();
+
+/// Takes a stop request of either kind back. Nothing else does, so a host calls it before the next
+/// run.
 void Reset_stop_process();
 
 /// The latest state report; empty before the first run.

@@ -18,7 +18,8 @@ namespace {
 template <typename Accept, typename Keeps>
 void Read_links(const std::string& file_name, Link_map& links, bool weighted, Accept accept,
                 Keeps keeps) {
-  Line_reader reader(file_name);
+  Line_reader reader(file_name, Line_reader::Source::any_file, {'\n'},
+                     external_control::Check_inside_long_stage);
   links.clear();
   Link_map_builder builder(weighted);
   for (std::string_view cut_line; Next_cut_line(reader, cut_line);) {

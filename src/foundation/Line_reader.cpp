@@ -1,12 +1,14 @@
 #include "foundation/Line_reader.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -18,12 +20,14 @@ namespace {
 
 constexpr std::size_t largest_first_block = std::size_t{1} << 18U;
 constexpr std::size_t smallest_block = std::size_t{1} << 12U;
+constexpr std::size_t longest_read = std::size_t{1} << 20U;  // inside a long line: between polls
+constexpr int milliseconds_between_polls = 20;
 
 /// Opens for reading; -1 if there is nothing that `source` admits. To open a pipe that nobody
-/// writes to must not block where pipes are refused.
+/// writes to must not block: the wait would meet no poll.
 int Open_for_reading(const std::string& path, Line_reader::Source source, struct stat& status) {
   const bool regular_only = source == Line_reader::Source::regular_file;
-  const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | (regular_only ? O_NONBLOCK : 0));
+  const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (file < 0 || ::fstat(file, &status) != 0) return file;
   if (regular_only ? S_ISREG(status.st_mode) : !S_ISDIR(status.st_mode)) return file;
   ::close(file);
@@ -32,14 +36,14 @@ int Open_for_reading(const std::string& path, Line_reader::Source source, struct
 
 }  // namespace
 
-Line_reader::Line_reader(std::string path, Source source, Character_set line_ends)
-    : path_(std::move(path)), line_ends_(line_ends) {
+Line_reader::Line_reader(std::string path, Source source, Character_set line_ends, Poll poll)
+    : path_(std::move(path)), line_ends_(line_ends), poll_(poll) {
   struct stat status = {};
   file_ = Open_for_reading(path_, source, status);
   if (file_ < 0) throw Xep_file_not_found(path_);
   file_size_ = static_cast<std::size_t>(std::max<off_t>(status.st_size, 0));
-  capacity_ = std::clamp(file_size_ + 1, smallest_block, largest_first_block);
-  buffer_ = std::make_unique_for_overwrite<char[]>(capacity_);
+  regular_ = S_ISREG(status.st_mode);
+  Resize_buffer(std::clamp(file_size_ + 1, smallest_block, largest_first_block));
 }
 
 Line_reader::~Line_reader() { ::close(file_); }
@@ -65,20 +69,36 @@ bool Line_reader::Next(std::string_view& line) {
   return true;
 }
 
+/// By realloc, which moves the pages of a long line instead of copying them.
+void Line_reader::Resize_buffer(std::size_t capacity) {
+  auto* const larger = static_cast<char*>(std::realloc(buffer_.get(), capacity));
+  if (larger == nullptr) throw std::bad_alloc();
+  static_cast<void>(buffer_.release());
+  buffer_.reset(larger);
+  capacity_ = capacity;
+}
+
 /// Moves the unread bytes to the front, of a larger buffer if they fill this one.
 void Line_reader::Make_room() {
   if (start_ == 0 && end_ < capacity_) return;
   const std::size_t held = end_ - start_;
-  if (held == capacity_) {
-    auto larger = std::make_unique_for_overwrite<char[]>(capacity_ * 2);
-    std::memcpy(larger.get(), buffer_.get(), held);
-    buffer_ = std::move(larger);
-    capacity_ *= 2;
-  } else {
+  if (held == capacity_)
+    Resize_buffer(capacity_ * 2);
+  else
     std::memmove(buffer_.get(), buffer_.get() + start_, held);
-  }
   start_ = 0;
   end_ = held;
+}
+
+/// Returns when a read has something to yield: bytes, the end or a failure. The system tells the
+/// end of a pipe only when a writer has come and gone. A signal cuts the wait short, and one that
+/// comes in front of it costs no more than the wait.
+void Line_reader::Wait_for_more() const {
+  if (poll_ != nullptr) poll_();
+  if (regular_) return;
+  struct pollfd ready = {file_, POLLIN, 0};
+  while (::poll(&ready, 1, poll_ == nullptr ? -1 : milliseconds_between_polls) <= 0)
+    if (poll_ != nullptr) poll_();
 }
 
 /// Reads more behind the unread bytes; false at the end of the file.
@@ -86,8 +106,9 @@ bool Line_reader::Fill() {
   Make_room();
   ssize_t got = 0;
   do {
-    got = ::read(file_, buffer_.get() + end_, capacity_ - end_);
-  } while (got < 0 && errno == EINTR);
+    Wait_for_more();
+    got = ::read(file_, buffer_.get() + end_, std::min(capacity_ - end_, longest_read));
+  } while (got < 0 && (errno == EINTR || errno == EAGAIN));
   if (got < 0)
     throw Xerror_msg("ERROR: reading '" + path_ +
                      "' failed: " + std::generic_category().message(errno) + "\n");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdlib>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,10 +16,15 @@ class Line_reader {
   /// What may stand at the path. Pipes and devices can let a reader wait for ever.
   enum class Source { any_file, regular_file };
 
+  /// Called before each block is read, and several times a second while a pipe or device has
+  /// nothing to give; what it throws leaves Next().
+  using Poll = void (*)();
+
   /// Throws Xep_file_not_found if the file can't be opened, is a directory, or isn't what `source`
-  /// admits. A line ends at each of the characters `line_ends`.
+  /// admits. A line ends at each of the characters `line_ends`. A pipe that nobody writes to yet
+  /// is opened at once; its first line is what gets waited for.
   explicit Line_reader(std::string path, Source source = Source::any_file,
-                       Character_set line_ends = {'\n'});
+                       Character_set line_ends = {'\n'}, Poll poll = nullptr);
   ~Line_reader();
   Line_reader(const Line_reader&) = delete;
   Line_reader& operator=(const Line_reader&) = delete;
@@ -34,14 +40,22 @@ class Line_reader {
   [[nodiscard]] bool Terminated() const { return terminated_; }
 
  private:
+  struct Free {
+    void operator()(char* block) const { std::free(block); }
+  };
+
+  void Resize_buffer(std::size_t capacity);
   void Make_room();
+  void Wait_for_more() const;
   bool Fill();
 
   std::string path_;
   Character_set line_ends_;
+  Poll poll_;
   int file_;
+  bool regular_ = false;
   std::size_t file_size_ = 0;
-  std::unique_ptr<char[]> buffer_;
+  std::unique_ptr<char[], Free> buffer_;
   std::size_t capacity_ = 0;
   std::size_t start_ = 0;  ///< unread bytes: start_ up to end_
   std::size_t end_ = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "control/Clique_find_ext_cont.h"
 #include "graph/Pair_sort.h"
 
 namespace gns {
@@ -26,6 +27,7 @@ std::vector<std::uint32_t> Sort_names(Name_table& names) {
   std::vector<Entry> entries(names.size());
   for (std::uint32_t i = 0; i < names.size(); ++i) entries[i] = {Leading_bytes(names[i]), i};
   std::sort(entries.begin(), entries.end(), [&](const Entry& a, const Entry& b) {
+    external_control::Check_inside_long_stage();
     return a.leading != b.leading ? a.leading < b.leading : names[a.number] < names[b.number];
   });
 

@@ -157,7 +157,7 @@ TEST(Percolation, CliquesOfHundredsOfNodes) {
   Expect_like_literal({cliques, 2}, {271, 270, 269, 258, 66, 64}, false);
 }
 
-/// A long chain of cliques must not exhaust the stack. Polls only where the host wants it.
+/// A long chain of cliques must not exhaust the stack. Polls for a stop at once only.
 TEST(Percolation, LongChains) {
   Clique_vector cliques;
   constexpr Node_index length = 300000;
@@ -169,9 +169,8 @@ TEST(Percolation, LongChains) {
   ASSERT_EQ(communities.size(), 1U);
   EXPECT_EQ(communities.coms[0].size(), length + 2);
   EXPECT_EQ(communities.com_links[0].size(), 2 * length + 1);
-  external_control::STOP_INSIDE_LONG_STAGES = true;
+  Stop_at_once();
   EXPECT_THROW(percolation.At(3), std::logic_error);
-  external_control::STOP_INSIDE_LONG_STAGES = false;
   Reset_stop_process();
 }
 

@@ -28,7 +28,6 @@ class ControlChannel : public ::testing::Test {
  protected:
   ~ControlChannel() override {
     Reset_stop_process();
-    external_control::STOP_INSIDE_LONG_STAGES = false;
     CURRENT_STATE_REPORT = std::string();
   }
 };
@@ -44,12 +43,11 @@ TEST_F(ControlChannel, ReportsReplaceEachOther) {
 
 TEST_F(ControlChannel, PollEndsTheRunUntilTheStopIsTakenBack) {
   external_control::Check_for_stop_signal();
-  external_control::STOP_INSIDE_LONG_STAGES = true;
   external_control::Check_inside_long_stage();
-  external_control::STOP_INSIDE_LONG_STAGES = false;
   Stop_process();
   external_control::Check_inside_long_stage();
-  external_control::STOP_INSIDE_LONG_STAGES = true;
+  EXPECT_THROW(external_control::Check_for_stop_signal(), std::logic_error);
+  Stop_at_once();
   for (const auto& poll :
        {external_control::Check_for_stop_signal, external_control::Check_inside_long_stage}) {
     CURRENT_STATE_REPORT = std::string("busy");
@@ -65,6 +63,7 @@ TEST_F(ControlChannel, PollEndsTheRunUntilTheStopIsTakenBack) {
   EXPECT_EQ(Read_error_message(), "");
   Reset_stop_process();
   external_control::Check_for_stop_signal();
+  external_control::Check_inside_long_stage();
 }
 
 using ThreadsControlChannel = ControlChannel;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -47,6 +48,22 @@ TEST(LineReader, RefusesWhatItCantRead) {
     EXPECT_THROW(Line_reader(path, Source::regular_file), Xep_file_not_found) << path;
   std::string_view line = "left";
   EXPECT_FALSE(Line_reader("/dev/null").Next(line));
+}
+
+/// Neither a pipe that nobody writes to nor a line without an end keeps a reader from its polls.
+TEST(LineReader, PollsWhileThereIsNoLine) {
+  const Temp_dir temp;
+  const std::string pipe = temp.Path("pipe");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  for (const std::string& path : {pipe, "/dev/zero"s}) {
+    static int polls_left;
+    polls_left = 5;
+    Line_reader reader(path, Source::any_file, {'\n'}, [] {
+      if (--polls_left == 0) throw std::runtime_error("stopped");
+    });
+    std::string_view line;
+    EXPECT_THROW(reader.Next(line), std::runtime_error) << path;
+  }
 }
 
 }  // namespace

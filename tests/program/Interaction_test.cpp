@@ -49,17 +49,56 @@ TEST(Stop, EndsALongSearchWithinASecond) {
   }
 }
 
-TEST(Stop, SecondSignalEndsAtOnce) {
+/// What the program may wait for: somebody who opens a pipe, somebody who writes to it, the end of
+/// a line.
+TEST(Stop, EndsTheWaitForInput) {
+  const Temp_dir temp;
+  ASSERT_EQ(::mkfifo(temp.Path("unopened").c_str(), 0600), 0);
+  ASSERT_EQ(::mkfifo(temp.Path("silent").c_str(), 0600), 0);
+  const int silent = ::open(temp.Path("silent").c_str(), O_RDWR | O_CLOEXEC);
+  ASSERT_EQ(::write(silent, "a b\nc", 5), 5);
+  for (const std::string input : {"unopened", "silent", "/dev/zero"}) {
+    Child child(temp, {"-i", input, "-o", "out"});
+    Wait_until([&] { return Catches_interrupt(child.Pid()); });
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    child.Signal(SIGINT);
+    const auto asked = Clock::now();
+    EXPECT_EQ(child.Wait(), 130) << input;
+    EXPECT_LT(Clock::now() - asked, std::chrono::seconds(1)) << input;
+    EXPECT_FALSE(std::filesystem::exists(temp.Path("out")));
+  }
+  ::close(silent);
+}
+
+TEST(Stop, IgnoredSignalStaysIgnored) {
   const Temp_dir temp;
   ASSERT_EQ(::mkfifo(temp.Path("pipe").c_str(), 0600), 0);
-  Child child(temp, {"-i", "pipe"});
-  // Both ends open, nothing written: the program waits in a read and meets no poll.
+  Child child(temp, {"-i", "pipe"}, [] { ::signal(SIGINT, SIG_IGN); });
   const int pipe = ::open(temp.Path("pipe").c_str(), O_WRONLY);
+  child.Signal(SIGINT);
+  EXPECT_EQ(::write(pipe, "a b\n", 4), 4);
+  ::close(pipe);
+  EXPECT_EQ(child.Wait(), 0);
+}
+
+TEST(Stop, SecondSignalEndsAtOnce) {
+  const Temp_dir temp;
+  int ends[2];
+  ASSERT_EQ(::pipe2(ends, O_NONBLOCK | O_CLOEXEC), 0);
+  const std::string block(4096, 'x');
+  while (::write(ends[1], block.data(), block.size()) > 0) continue;
+  // Once stopped, the program waits for somebody who reads its message.
+  Child child(temp, {"-i", "/dev/zero"}, [&] {
+    ::fcntl(ends[1], F_SETFL, 0);
+    ::dup2(ends[1], STDOUT_FILENO);
+  });
+  Wait_until([&] { return Catches_interrupt(child.Pid()); });
   child.Signal(SIGINT);
   Wait_until([&] { return !Catches_interrupt(child.Pid()); });
   child.Signal(SIGTERM);
   EXPECT_EQ(child.Wait(), -SIGTERM);
-  ::close(pipe);
+  ::close(ends[0]);
+  ::close(ends[1]);
 }
 
 /// A pseudo terminal for the standard error of a child.
