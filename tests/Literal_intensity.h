@@ -17,7 +17,7 @@
 namespace gns::literal {
 
 using Link = std::pair<Node_index, Node_index>;
-using Links = std::map<Link, double>;
+using Weighted_links = std::map<Link, double>;
 
 inline double Link_count(std::size_t nodes) {
   return 0.5 * static_cast<double>(nodes) * (static_cast<double>(nodes) - 1.0);
@@ -28,13 +28,14 @@ inline double Log_of_power(double intensity_threshold, std::size_t nodes) {
 }
 
 /// The sum, from `sum` on, with the links of `node` to `others`.
-inline double Added_up(double sum, const Set& others, Node_index node, const Links& links) {
+inline double Added_up(double sum, const Set& others, Node_index node,
+                       const Weighted_links& links) {
   for (const Node_index other : others) sum += std::log(links.at({other, node}));
   return sum;
 }
 
 /// The lowest logarithm inside a set; one that is not a number counts only in front.
-inline double Lowest_log(const Set& set, const Links& links) {
+inline double Lowest_log(const Set& set, const Weighted_links& links) {
   double lowest = std::log(links.at({*set.begin(), *std::next(set.begin())}));
   for (auto a = set.begin(); a != set.end(); ++a)
     for (auto b = std::next(a); b != set.end(); ++b)
@@ -45,7 +46,7 @@ inline double Lowest_log(const Set& set, const Links& links) {
 /// The k-subsets of cliques that pass. As soon as a part of a subset passes with the lowest
 /// logarithm for all links to come, whatever it grows to passes.
 struct Generation {
-  const Links& links;
+  const Weighted_links& links;
   std::size_t k;
   double threshold = 0.0;
   std::set<Set> k_cliques = {};
@@ -71,7 +72,8 @@ struct Generation {
   }
 };
 
-inline bool Check_intersection(const Set& shared, const Links& links, double intensity_threshold) {
+inline bool Check_intersection(const Set& shared, const Weighted_links& links,
+                               double intensity_threshold) {
   const double threshold = Log_of_power(intensity_threshold, shared.size());
   const double lowest = Lowest_log(shared, links);
   double sum = 0.0;
@@ -88,7 +90,8 @@ inline bool Check_intersection(const Set& shared, const Links& links, double int
 
 /// For each k-clique the first one of its community.
 inline std::vector<std::size_t> Communities_of(const std::vector<Set>& k_cliques,
-                                               const Links& links, double intensity_threshold) {
+                                               const Weighted_links& links,
+                                               double intensity_threshold) {
   std::vector<std::size_t> first_of(k_cliques.size());
   std::iota(first_of.begin(), first_of.end(), 0U);
   for (std::size_t a = 0; a < k_cliques.size(); ++a) {

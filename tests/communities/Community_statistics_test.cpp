@@ -4,8 +4,8 @@
 
 #include <vector>
 
-#include "Message_of.h"
 #include "Random_graphs.h"
+#include "Thrown_message.h"
 
 namespace gns {
 namespace {
@@ -62,7 +62,7 @@ TEST(CommunityStatistics, EqualBruteForce) {
 }
 
 TEST(CommunityStatistics, MoreNodesThanTheGraphHas) {
-  EXPECT_EQ(Message_of([] {
+  EXPECT_EQ(Thrown_message([] {
               Statistics_of({{1, 2, 3}, {3, 4}}, 3);
             }),
             "ERROR: Community_statistics() : More vertex in the communities than in the graph.");

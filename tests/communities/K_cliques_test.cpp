@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "Literal_intensity.h"
-#include "Message_of.h"
+#include "Thrown_message.h"
 #include "communities/K_clique_communities.h"
 #include "communities/K_clique_generation.h"
 #include "control/Clique_find_ext_cont.h"
@@ -18,10 +18,10 @@
 namespace gns {
 namespace {
 
-using literal::Links;
 using literal::Set;
+using literal::Weighted_links;
 
-Index_links Index_links_of(const Links& links) {
+Index_links Index_links_of(const Weighted_links& links) {
   std::vector<Index_pair> keys;
   std::vector<double> weights;
   Node_index nodes = 0;
@@ -33,7 +33,7 @@ Index_links Index_links_of(const Links& links) {
   return {keys, weights, nodes};
 }
 
-std::vector<Set> Maximal_cliques(const Links& links) {
+std::vector<Set> Maximal_cliques(const Weighted_links& links) {
   literal::Graph graph;
   for (const auto& [link, weight] : links) {
     graph[link.first].insert(link.second);
@@ -44,7 +44,7 @@ std::vector<Set> Maximal_cliques(const Links& links) {
 
 /// The k-cliques of a weighted graph and their communities, for one k and threshold after another.
 struct Intensity_run {
-  explicit Intensity_run(const Links& links)
+  explicit Intensity_run(const Weighted_links& links)
       : index_links(Index_links_of(links)), maximal(literal::Rows_of(Maximal_cliques(links))) {}
 
   void At(std::uint32_t k, double threshold) {
@@ -61,7 +61,7 @@ struct Intensity_run {
 };
 
 /// Compares k-cliques, communities and their links with the literal ones.
-void Compare(Intensity_run& run, const Links& links, unsigned k, double threshold) {
+void Compare(Intensity_run& run, const Weighted_links& links, unsigned k, double threshold) {
   SCOPED_TRACE(testing::Message() << "k=" << k << " I=" << threshold);
   run.At(k, threshold);
   literal::Generation generation{links, k, literal::Log_of_power(threshold, k)};
@@ -93,8 +93,9 @@ void Compare(Intensity_run& run, const Links& links, unsigned k, double threshol
   ASSERT_EQ(found, expected);
 }
 
-Links Random_links(std::mt19937& random, Node_index nodes, const std::vector<double>& weights) {
-  Links links;
+Weighted_links Random_links(std::mt19937& random, Node_index nodes,
+                            const std::vector<double>& weights) {
+  Weighted_links links;
   const std::size_t share = 3 + random() % 8;
   for (Node_index a = 1; a <= nodes; ++a)
     for (Node_index b = a + 1; b <= nodes; ++b)
@@ -120,7 +121,7 @@ TEST(Intensity, EqualsTheLiteralMethod) {
     for (int round = 0; round < 208; ++round) {
       const bool large = round >= 200;
       const auto nodes = static_cast<Node_index>((large ? 8 : 3) + random() % 8);
-      const Links links = Random_links(random, nodes, c.weights);
+      const Weighted_links links = Random_links(random, nodes, c.weights);
       Intensity_run run(links);
       const unsigned least_k = large ? 6 : 3;
       for (unsigned k = least_k; k <= least_k + 2; ++k)
@@ -131,8 +132,9 @@ TEST(Intensity, EqualsTheLiteralMethod) {
 }
 
 /// Cliques of consecutive nodes, each from its first node to its last; all links weigh the same.
-Links Cliques(const std::vector<std::pair<Node_index, Node_index>>& ranges, double weight) {
-  Links links;
+Weighted_links Cliques(const std::vector<std::pair<Node_index, Node_index>>& ranges,
+                       double weight) {
+  Weighted_links links;
   for (const auto& [first, last] : ranges)
     for (Node_index a = first; a <= last; ++a)
       for (Node_index b = a + 1; b <= last; ++b) links[{a, b}] = weight;
@@ -141,7 +143,7 @@ Links Cliques(const std::vector<std::pair<Node_index, Node_index>>& ranges, doub
 
 /// Of the 2,200 million subsets of 16 nodes those in the strong core pass.
 TEST(KCliques, HopelessBranchesAreCut) {
-  Links links = Cliques({{1, 34}}, 0.9);
+  Weighted_links links = Cliques({{1, 34}}, 0.9);
   for (auto& [link, weight] : links)
     if (link.first % 2 == 0 && link.second % 2 == 0) weight = 4.0;
   Intensity_run run(links);
@@ -163,15 +165,15 @@ TEST(KCliques, ManyOfThem) {
 }
 
 TEST(KCliques, MissingLink) {
-  Links links = Cliques({{1, 4}}, 1.0);
+  Weighted_links links = Cliques({{1, 4}}, 1.0);
   const Clique_vector maximal = literal::Rows_of(Maximal_cliques(links));
   links.erase({2, 3});
   const Index_links fewer = Index_links_of(links);
   const std::string text = "ERROR: Get_sub_links_and_thresh_abs: missing link.\n";
-  EXPECT_EQ(Message_of([&] { const Weighted_cliques cliques(maximal, fewer); }), text);
+  EXPECT_EQ(Thrown_message([&] { const Weighted_cliques cliques(maximal, fewer); }), text);
   const std::vector<Node_index> set = {1, 2, 3};
   const Link_logs logs(fewer);
-  EXPECT_EQ(Message_of([&] { Coms_from_k_cls_sub::Check_intersection(set, logs, 0.5); }), text);
+  EXPECT_EQ(Thrown_message([&] { Coms_from_k_cls_sub::Check_intersection(set, logs, 0.5); }), text);
 }
 
 TEST(ThreadsKCliques, ReportAndStop) {

@@ -10,8 +10,8 @@
 #include <sstream>
 #include <vector>
 
-#include "Message_of.h"
 #include "Temp_dir.h"
+#include "Thrown_message.h"
 #include "foundation/Deleting.h"
 #include "foundation/Dir_error.h"
 #include "foundation/Dir_prepare.h"
@@ -71,7 +71,7 @@ class InPlace : public ::testing::Test {
     std::ostringstream out;
     std::streambuf* const cin_before = std::cin.rdbuf(in.rdbuf());
     std::streambuf* const cout_before = std::cout.rdbuf(out.rdbuf());
-    const std::string message = Message_of(operation);
+    const std::string message = Thrown_message(operation);
     std::cin.rdbuf(cin_before);
     std::cout.rdbuf(cout_before);
     output = out.str();
@@ -239,7 +239,7 @@ TEST_F(InPlace, OddNamesAndDepths) {
     fs::current_path(name);
   }
   fs::current_path(temp_.Path());
-  const std::string message = Message_of([] { Delete_dir("."); });
+  const std::string message = Thrown_message([] { Delete_dir("."); });
   EXPECT_TRUE(message.ends_with(Dir_error(ENAMETOOLONG))) << message;
   EXPECT_TRUE(Is_there_such_file("first"));
 }
@@ -252,7 +252,7 @@ TEST_F(InPlace, MissingRights) {
   if (child == 0) {
     constexpr uid_t nobody = 65534;
     if (geteuid() == 0 && setuid(nobody) != 0) _exit(2);
-    const std::string message = Message_of([] { Delete_dir("d"); });
+    const std::string message = Thrown_message([] { Delete_dir("d"); });
     _exit(message == "ERROR: Unlink_file() called on 'd/e/e/x'and \nPermission denied." ? 0 : 1);
   }
   int status = -1;

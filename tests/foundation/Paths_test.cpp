@@ -6,8 +6,8 @@
 #include <tuple>
 #include <vector>
 
-#include "Message_of.h"
 #include "Temp_dir.h"
+#include "Thrown_message.h"
 #include "foundation/Dir_error.h"
 #include "foundation/Direktoriz.h"
 #include "foundation/Total_path.h"
@@ -62,11 +62,11 @@ TEST_F(Paths, Lists) {
   fs::create_directory_symlink(".", "d/g");
   EXPECT_EQ(List_dir("."), (std::vector<Dir_entry>{{".h", "file"}, {"d", "dir"}, {"z", "dir"}}));
   EXPECT_EQ(List_dir("d").back(), (Dir_entry{"g", "dir"}));
-  EXPECT_EQ(Message_of([] { List_dir(".h"); }),
+  EXPECT_EQ(Thrown_message([] { List_dir(".h"); }),
             "ERROR: List_dir() called on .h and\nThe path .h is a file.");
 
   fs::create_symlink("nowhere", "z/dangling");
-  EXPECT_EQ(Message_of([] { List_dir("z"); }),
+  EXPECT_EQ(Thrown_message([] { List_dir("z"); }),
             "ERROR: problem with dangling in List_dir():\n" + Dir_error(ENOENT));
   std::string names;
   for (const auto& [name, type] : List_dir_rec(".")) names += name + ' ' + type.front() + '|';
@@ -101,13 +101,13 @@ TEST_F(Paths, TotalPathResolvesWhatASlashCloses) {
 }
 
 TEST_F(Paths, WorkingDirectory) {
-  EXPECT_EQ(Message_of([] { Get_current_path(1); }),
+  EXPECT_EQ(Thrown_message([] { Get_current_path(1); }),
             "ERROR: Get_current_path() called with 1 and \n Other error occured, errno=34");
   fs::create_directory("gone");
   fs::current_path("gone");
   fs::remove(temp_.Path("gone"));
   EXPECT_EQ(Get_total_path("/a"), "/a");
-  EXPECT_EQ(Message_of([] { Get_total_path("a"); }),
+  EXPECT_EQ(Thrown_message([] { Get_total_path("a"); }),
             "ERROR: Get_current_path() called with 10000 and \n" + Dir_error(ENOENT));
 }
 

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "Message_of.h"
+#include "Thrown_message.h"
 #include "graph/Node_order.h"
 
 namespace gns {
@@ -149,7 +149,7 @@ TEST(LinkConversion, NoUndirectedGraphOfALinkInBothDirections) {
   for (const std::vector<Index_pair>& keys :
        std::vector<std::vector<Index_pair>>{{{1, 2}, {1, 3}, {3, 1}}, {{1, 2}, {2, 2}}}) {
     Vertex_map vtx_map;
-    EXPECT_EQ(Message_of([&] { Vtx_map_from_link_map(vtx_map, Index_links(keys, {}, 3)); }),
+    EXPECT_EQ(Thrown_message([&] { Vtx_map_from_link_map(vtx_map, Index_links(keys, {}, 3)); }),
               "ERROR: Vtx::Add_neigh() : attempt to add already exisiting neigh. ");
   }
 }
@@ -176,7 +176,7 @@ TEST(LinkMap, OrderAndSums) {
 TEST(NodeOrder, InvalidFlag) {
   Node_order order = {9};
   for (const std::string flag : {"neighs", "", "Neighs "})
-    EXPECT_EQ(Message_of([&] { Sort_dir_vtx_map(order, {}, flag); }),
+    EXPECT_EQ(Thrown_message([&] { Sort_dir_vtx_map(order, {}, flag); }),
               " Invalid flag '" + flag + "' given in Sort_vtxd_gmap...\n");
   EXPECT_EQ(order, Node_order{9});
 }

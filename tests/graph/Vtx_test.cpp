@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "Message_of.h"
+#include "Thrown_message.h"
 #include "graph/Vertex_export.h"
 #include "graph/Vtxd.h"
 
@@ -131,7 +131,7 @@ TEST(VertexRecords, FailuresLeaveTheRecordAlone) {
            {"Vtxd::Remove_neigh() : attempt to remove a non-existing neigh.",
             [](Vtxd& r) { r.Remove_neigh(9); }}}) {
     Vtxd record = Directed_sample();
-    EXPECT_EQ(Message_of([&] { c.operation(record); }), "ERROR: " + c.text);
+    EXPECT_EQ(Thrown_message([&] { c.operation(record); }), "ERROR: " + c.text);
     EXPECT_EQ(Text(record), directed_text) << c.text;
     EXPECT_EQ(record.Neighs(), (Node_set{2, 3, 4})) << c.text;
   }

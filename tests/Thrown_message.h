@@ -8,7 +8,7 @@
 namespace gns {
 
 /// The message of the `Xerror_msg` that an operation throws.
-inline std::string Message_of(const std::function<void()>& operation) {
+inline std::string Thrown_message(const std::function<void()>& operation) {
   try {
     operation();
   } catch (const Xerror_msg& error) {
