@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "foundation/Moving_count.h"
 #include "graph/Node_set.h"
 
 namespace gns {
@@ -17,8 +18,8 @@ class K_cliques {
   explicit K_cliques(std::uint32_t k) : k_(k) {}
 
   [[nodiscard]] std::uint32_t K() const { return k_; }
-  [[nodiscard]] std::size_t size() const { return size_; }
-  [[nodiscard]] bool empty() const { return size_ == 0; }
+  [[nodiscard]] std::size_t size() const { return size_.value; }
+  [[nodiscard]] bool empty() const { return size_.value == 0; }
   [[nodiscard]] Node_span operator[](std::size_t index) const {
     return {members_.data() + index * k_, k_};
   }
@@ -26,12 +27,12 @@ class K_cliques {
   /// Appends k nodes that ascend and stand behind the last row.
   void push_back(Node_span k_clique) {
     members_.insert(members_.end(), k_clique.begin(), k_clique.end());
-    ++size_;
+    ++size_.value;
   }
 
  private:
   std::uint32_t k_;
-  std::size_t size_ = 0;
+  Moving_count size_;
   std::vector<Node_index> members_;
 };
 

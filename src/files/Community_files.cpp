@@ -36,7 +36,7 @@ class Link_lookup {
   bool Has(const Index_pair& link) {
     if (link.first != node_ || (next_ > 0 && row_[next_ - 1] >= link.second)) {
       node_ = link.first;
-      row_ = links_.Row(node_);
+      row_ = node_ <= links_.Node_count() ? links_.Row(node_) : Node_span();
       next_ = 0;
     }
     if (next_ == row_.size() || row_[next_] != link.second) {

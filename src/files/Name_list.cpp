@@ -42,7 +42,7 @@ void Name_list::push_back(std::string_view name) {
   char* const from = packed_.Room_for(name.size() + longest_length);
   char* const to = Name_row::Write_length(name.size(), from);
   packed_.Grew(static_cast<std::size_t>(Copy(name, to) - from));
-  ++count_;
+  ++count_.value;
 }
 
 void Name_list::Append_words(std::string_view text, const Character_set& delimiters) {
@@ -52,14 +52,14 @@ void Name_list::Append_words(std::string_view text, const Character_set& delimit
   char* to = from;
   For_each_word(text, delimiters, [&](std::string_view word) {
     to = Copy(word, Name_row::Write_length(word.size(), to));
-    ++count_;
+    ++count_.value;
   });
   packed_.Grew(static_cast<std::size_t>(to - from));
 }
 
 void Name_list::Append(const Name_list& names) {
   packed_.append(names.packed_.data(), names.packed_.size());
-  count_ += names.count_;
+  count_.value += names.count_.value;
 }
 
 bool operator==(const Name_row& a, const Name_row& b) {

@@ -8,6 +8,7 @@
 
 #include "foundation/Character_set.h"
 #include "foundation/Growing_array.h"
+#include "foundation/Moving_count.h"
 
 namespace gns {
 
@@ -98,11 +99,11 @@ class Name_list {
   /// Appends the words of `text`, which any number of delimiters may separate and enclose.
   void Append_words(std::string_view text, const Character_set& delimiters);
 
-  [[nodiscard]] std::size_t size() const { return count_; }
-  [[nodiscard]] bool empty() const { return count_ == 0; }
+  [[nodiscard]] std::size_t size() const { return count_.value; }
+  [[nodiscard]] bool empty() const { return count_.value == 0; }
   [[nodiscard]] Name_row::Iterator begin() const { return Name_row(*this).begin(); }
   [[nodiscard]] Name_row::Iterator end() const { return Name_row(*this).end(); }
-  operator Name_row() const { return {packed_.data(), count_}; }
+  operator Name_row() const { return {packed_.data(), count_.value}; }
 
   /// Where the next name will stand; Row_at() and Cut() take such places.
   [[nodiscard]] std::size_t Place() const { return packed_.size(); }
@@ -112,7 +113,7 @@ class Name_list {
   /// Takes all names from the place on away, so that `count` are left.
   void Cut(std::size_t place, std::size_t count) {
     packed_.Cut(place);
-    count_ = count;
+    count_.value = count;
   }
   /// Makes room for what a text of so many bytes can hold; what is left unused is never touched.
   void Reserve_for_text(std::size_t bytes) { packed_.Room_for(bytes); }
@@ -120,7 +121,7 @@ class Name_list {
 
  private:
   Growing_array<char> packed_;
-  std::size_t count_ = 0;
+  Moving_count count_;
 };
 
 bool operator==(const Name_row& a, const Name_row& b);

@@ -121,7 +121,7 @@ class Table_by_index {
   };
 
   void Close() {
-    if (count_at_open_)
+    if (count_at_open_ && !entries_.empty())
       entries_.back().count = static_cast<std::uint32_t>(values_.size() - *count_at_open_);
     count_at_open_.reset();
   }

@@ -7,7 +7,8 @@
 
 namespace gns {
 
-/// For each node 1..n a row of node indices, all rows one behind the other in one array.
+/// For each node 1..n a row of node indices, all rows one behind the other in one array. One that
+/// is moved from has no nodes.
 class Adjacency {
  public:
   Adjacency() = default;
@@ -27,7 +28,7 @@ class Adjacency {
     return {members_.data() + starts_[node], starts_[node + 1] - starts_[node]};
   }
   [[nodiscard]] Node_index Node_count() const {
-    return static_cast<Node_index>(starts_.size() - 2);
+    return static_cast<Node_index>(starts_.empty() ? 0 : starts_.size() - 2);
   }
   /// Number of members in all rows together.
   [[nodiscard]] std::size_t size() const { return members_.size(); }

@@ -14,7 +14,7 @@ Index_links::Index_links(const std::vector<Index_pair>& keys, std::vector<double
       weights_(std::move(weights)) {}
 
 std::optional<std::size_t> Index_links::Place(Node_index first, Node_index second) const {
-  if (first > Node_count()) return std::nullopt;
+  if (first - 1 >= Node_count()) return std::nullopt;
   const Node_span row = Row(first);
   const auto place = std::lower_bound(row.begin(), row.end(), second);
   if (place == row.end() || *place != second) return std::nullopt;

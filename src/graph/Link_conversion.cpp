@@ -45,7 +45,7 @@ void For_each_key(const Index_links& links, Use use) {
 
 void Convert_s_links(Index_links& index_links, Node_names& node_names, const Link_map& links,
                      bool directed) {
-  Node_numbering numbering(links.Names()->size());
+  Node_numbering numbering(links.Names().size());
   std::vector<Index_pair> keys;
   keys.reserve(links.size());
   std::vector<double> weights;
@@ -58,7 +58,7 @@ void Convert_s_links(Index_links& index_links, Node_names& node_names, const Lin
     if (links.Has_weights()) weights.push_back(links.Weight(i));
   }
 
-  node_names = Node_names(*links.Names(), numbering.Take_names());
+  node_names = Node_names(links.Names(), numbering.Take_names());
   Sort_pairs(keys, weights, node_names.size() + 1);
   Fold_equal_pairs(keys, weights);
   index_links = Index_links(keys, std::move(weights), node_names.size());

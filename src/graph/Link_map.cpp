@@ -55,7 +55,7 @@ Link_map Link_map_builder::Build() {
   Fold_equal_pairs(pairs_, weights_);
 
   Link_map links;
-  links.names_ = std::make_shared<const Name_table>(std::move(names));
+  links.names_ = std::move(names);
   links.pairs_ = std::move(pairs_);
   links.weights_ = std::move(weights_);
   return links;

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -21,10 +20,10 @@ class Link_map {
   [[nodiscard]] std::size_t size() const { return pairs_.size(); }
   [[nodiscard]] bool empty() const { return pairs_.empty(); }
   [[nodiscard]] std::string_view First(std::size_t link) const {
-    return (*names_)[pairs_[link].first];
+    return names_[pairs_[link].first];
   }
   [[nodiscard]] std::string_view Second(std::size_t link) const {
-    return (*names_)[pairs_[link].second];
+    return names_[pairs_[link].second];
   }
   [[nodiscard]] double Weight(std::size_t link) const {
     return weights_.empty() ? 0.0 : weights_[link];
@@ -33,13 +32,13 @@ class Link_map {
 
   /// Name numbers of every link, in order.
   [[nodiscard]] const std::vector<Index_pair>& Pairs() const { return pairs_; }
-  [[nodiscard]] const std::shared_ptr<const Name_table>& Names() const { return names_; }
+  [[nodiscard]] const Name_table& Names() const { return names_; }
 
   void clear() { *this = Link_map(); }
 
  private:
   friend class Link_map_builder;
-  std::shared_ptr<const Name_table> names_ = std::make_shared<const Name_table>();
+  Name_table names_;
   std::vector<Index_pair> pairs_;
   std::vector<double> weights_;  ///< parallel to pairs_, or empty: all 0.0
 };

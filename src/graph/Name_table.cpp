@@ -9,6 +9,7 @@ std::uint32_t Name_table::Add(std::string_view name) {
   if (size() == std::numeric_limits<std::uint32_t>::max() - 1)
     throw std::length_error("more distinct node names than 32 bits can number");
   bytes_.insert(bytes_.end(), name.begin(), name.end());
+  if (starts_.empty()) starts_.push_back(0);
   starts_.push_back(bytes_.size());
   return size() - 1;
 }

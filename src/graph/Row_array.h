@@ -6,13 +6,13 @@
 
 namespace gns {
 
-/// Rows of values, one behind the other in one array.
+/// Rows of values, one behind the other in one array. One that is moved from is empty.
 template <typename Value>
 class Row_array {
  public:
   using Row = std::span<const Value>;
 
-  [[nodiscard]] std::size_t size() const { return starts_.size() - 1; }
+  [[nodiscard]] std::size_t size() const { return starts_.empty() ? 0 : starts_.size() - 1; }
   [[nodiscard]] bool empty() const { return size() == 0; }
   [[nodiscard]] Row operator[](std::size_t row) const {
     return {values_.data() + starts_[row], starts_[row + 1] - starts_[row]};
@@ -26,18 +26,21 @@ class Row_array {
   }
   /// Appends to the row under construction, which Close_row() then adds.
   void Append(const Value& value) { values_.push_back(value); }
-  void Close_row() { starts_.push_back(values_.size()); }
+  void Close_row() {
+    if (starts_.empty()) starts_.push_back(0);
+    starts_.push_back(values_.size());
+  }
 
   /// Drops all rows from `row` on.
   void Truncate(std::size_t row) {
-    values_.resize(starts_[row]);
-    starts_.resize(row + 1);
+    values_.resize(row == 0 ? 0 : starts_[row]);
+    starts_.resize(row == 0 ? 0 : row + 1);
   }
   void clear() { *this = Row_array(); }
 
  private:
   std::vector<Value> values_;
-  std::vector<std::size_t> starts_ = {0};
+  std::vector<std::size_t> starts_;  ///< where each row starts, and the end; empty: no rows
 };
 
 }  // namespace gns

@@ -56,6 +56,19 @@ Files Community_files(const std::string& flag, std::uint32_t exact_com_count,
   return Contents_of(out);
 }
 
+/// Links of nodes behind those that the index links know.
+TEST(CommunityFiles, OfLinksThatNobodyHasTold) {
+  for (const Index_links& links : {Index_links({{1, 2}}, {}, 2), Index_links()}) {
+    const Temp_dir temp;
+    Kiir_com_links_VL(Rows<Index_pair>({{{1, 2}, {1, 7}, {7, 8}}}), temp.Path("out"), 3, Letters(),
+                      1, "", header, links);
+    EXPECT_TRUE(
+        Contents_of(temp.Path("out"))
+            .at("k=3/communities_links")
+            .ends_with("\n0:\n" + std::string(links.size() == 0 ? "b a" : "a b") + "\ng a\nh g\n"));
+  }
+}
+
 TEST(CommunityFiles, OfDirectedCommunities) {
   const std::string rest = "directed communities at k=3\n#" + header;
   const std::string remark = "# Negative indices indicate approximate communities.\n";
