@@ -7,7 +7,6 @@
 
 #include "cli/Live_display.h"
 #include "cli/Memory_limit.h"
-#include "cli/Own_input.h"
 #include "cli/Process_input.h"
 #include "cli/Resources.h"
 #include "cli/Run_table.h"
@@ -16,6 +15,7 @@
 #include "control/Clique_find_ext_cont.h"
 #include "engine/Check_switches.h"
 #include "engine/Find_coms.h"
+#include "engine/Own_input.h"
 #include "files/Results_directory.h"
 #include "files/Unfinished_mark.h"
 #include "foundation/File_faults.h"

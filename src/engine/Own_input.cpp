@@ -1,4 +1,4 @@
-#include "cli/Own_input.h"
+#include "engine/Own_input.h"
 
 #include <filesystem>
 #include <system_error>
