@@ -1,6 +1,7 @@
 #include "engine/Find_coms.h"
 
 #include "engine/Check_switches.h"
+#include "engine/Own_input.h"
 #include "engine/Run_message.h"
 #include "engine/Run_stages.h"
 #include "files/Results_directory.h"
@@ -12,6 +13,7 @@ namespace {
 void Run(const Run_parameters& parameters, bool& approximation_needed, Run_summary& summary,
          Com_result_tables* tables) {
   Refuse_bad_parameters(parameters);
+  Refuse_own_input(parameters.input_file, parameters.output_dir);
   Check_out_dir(parameters.output_dir);
   Run_start start = Start_of_run(parameters);
   Open_results(start);

@@ -4,9 +4,8 @@
 
 namespace gns {
 
-/// Throws Xerror_msg if results at `output_dir` would take the place of the input file: if the
-/// file, under whatever name, is the path itself, a part of it, or the mark of an unfinished run
-/// beside it.
+/// Throws Xerror_msg if `output_dir` is the input file, under whatever name: the file would be
+/// moved aside for the results.
 void Refuse_own_input(const std::string& input_file, const std::string& output_dir);
 
 }  // namespace gns

@@ -3,6 +3,8 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "foundation/Dir_error.h"
@@ -46,6 +48,12 @@ std::string Get_total_path(const std::string& path) {
   for (const std::string& part : components) total += part + '/';
   if (total.size() > 1) total.pop_back();
   return total;
+}
+
+std::string Resolved_path(const std::string& path) {
+  std::error_code error;
+  const std::filesystem::path resolved = std::filesystem::weakly_canonical(path, error);
+  return error || path.empty() ? path : resolved.string();
 }
 
 std::list<std::string> Get_path_list(const std::string& path) {

@@ -13,6 +13,10 @@ std::string Get_current_path(unsigned buffer_size);
 /// the path they stay. Throws `Xerror_msg` if the working directory is needed and can't be had.
 std::string Get_total_path(const std::string& path);
 
+/// Where a path leads once its missing directories are made: absolute, with all links, "." and ".."
+/// resolved, so "missing/../there" leads to "there". The path itself where that can't be found out.
+std::string Resolved_path(const std::string& path);
+
 /// The components of a path. Every "/" ends one, also an empty one: "/a/b" gives "", "a", "b".
 std::list<std::string> Get_path_list(const std::string& path);
 

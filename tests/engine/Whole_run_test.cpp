@@ -197,6 +197,18 @@ TEST_F(SmallRun, OutputOnOrBelowAFile) {
   EXPECT_TRUE(temp_.Read("links").starts_with("a b\n"));
 }
 
+TEST_F(SmallRun, RefusesItsInputUnderAnyName) {
+  fs::create_hard_link(temp_.Path("links"), temp_.Path("hard"));
+  fs::create_symlink("links", temp_.Path("soft"));
+  const auto before = Contents_of(temp_.Path());
+  for (const char* name : {"links", "hard", "soft", "missing/../links"}) {
+    parameters_.output_dir = temp_.Path(name);
+    EXPECT_EQ(Run(), "ERROR: the results can't be written to '" + parameters_.output_dir +
+                         "':\n it is the input file. Choose another output directory.\n");
+    EXPECT_EQ(Contents_of(temp_.Path()), before);
+  }
+}
+
 TEST_F(SmallRun, TheMarkReplacesNothingButAMark) {
   const std::string mark = temp_.Path("out.unfinished");
   for (const std::string in_the_way : {"a b\na c\nb c\n", "The results\n\n"}) {

@@ -44,6 +44,9 @@ public class FailuresTest extends Fixture {
     write("links", "");
     check("ERROR: the output directory already exists and it is non-empty.\n",
         () -> new Run(example("choir.txt"), path("")).find());
+    check("ERROR: the results can't be written to '" + path("links") + "':\n"
+            + " it is the input file. Choose another output directory.\n",
+        () -> new Run(path("links"), path("links")).find());
     assertArrayEquals(new String[] {"links"}, folder.getRoot().list());
   }
 
