@@ -15,9 +15,9 @@ namespace gns {
 /// went wrong. `approximation_needed` becomes true if some cliques are approximate.
 ///
 /// Keeps the state report up to date and can be stopped from another thread. What a stopped or
-/// failed run has written stays, and beside the directory a file with ".unfinished" behind its
-/// name. Files that could not be written are listed by File_faults() and change no message. One run
-/// or reload at a time in a process; a second one is refused.
+/// failed run has written stays, marked as unfinished (Is_marked_unfinished). Files that could not
+/// be written are listed by File_faults() and change no message. One run or reload at a time in a
+/// process; a second one is refused.
 std::string Find_coms(const std::string& input_file, const std::string& output_dir,
                       bool use_lower_threshold, double lower_threshold, bool use_upper_threshold,
                       double upper_threshold, bool directed, bool use_intensity,

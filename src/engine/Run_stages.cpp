@@ -6,7 +6,6 @@
 #include "files/Graph_and_clique_files.h"
 #include "files/Link_file_reader.h"
 #include "files/Results_directory.h"
-#include "files/Unfinished_mark.h"
 #include "foundation/File_faults.h"
 #include "graph/Link_conversion.h"
 #include "search/Clique_find.h"
@@ -26,15 +25,17 @@ void Summarize(const Clique_vector& cliques, std::uint32_t exact_clique_count,
   summary.approximate_cliques = cliques.size() - exact_clique_count;
 }
 
-void Extract_all(const Run_parameters& parameters, const Extraction_input& input,
-                 Run_summary& summary) {
+void Extract_all(const Run_parameters& parameters, const Unfinished_mark& mark,
+                 const Extraction_input& input, Run_summary& summary) {
   Extraction extraction(input);
   if (parameters.use_single_k) {
+    mark.Check();
     summary.extractions.push_back(extraction.At(parameters.single_k));
     return;
   }
   for (std::uint32_t k = input.max_clique_size; k >= 3; --k) {
     Check_for_stop_signal();
+    mark.Check();
     summary.extractions.push_back(extraction.At(k));
   }
 }
@@ -65,15 +66,15 @@ void Open_results(Run_start& start) {
   const Run_parameters& p = start.parameters;
   Extend_alap_szoveg(start.run_header, p.use_intensity, p.intensity_threshold, p.directed,
                      p.use_time_limit, p.time_limit, p.use_single_k, p.single_k);
-  Set_unfinished_mark(p.output_dir);
-  // The results are none the worse where no mark can be made, as in a directory of somebody else.
   Forget_file_faults();
+  start.mark = std::make_unique<Unfinished_mark>(p.output_dir);
   Kiir_params(p.output_dir, start.run_header);
 }
 
 void Run_from_links(const Run_start& start, Link_map& links, bool& approximation_needed,
                     Run_summary& summary, Com_result_tables* tables) {
   const Run_parameters& parameters = start.parameters;
+  start.mark->Check();
   Kiir_graph_ret(links, parameters.output_dir, parameters.directed, start.run_header,
                  start.weighted, tables == nullptr ? nullptr : &tables->graph_links);
   CURRENT_STATE_REPORT = "_______________\n Links read OK.\n";
@@ -113,18 +114,19 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
   if (tables == nullptr) Check_for_stop_signal();
   CURRENT_STATE_REPORT = "___________________________\n Writing cliques to disk...\n";
   if (tables != nullptr) Check_for_stop_signal();
+  start.mark->Check();
   Kiir_cliques_VL_ret(parameters.output_dir, cliques, node_names, exact_clique_count,
                       start.com_flag, start.run_header,
                       tables == nullptr ? nullptr : &tables->cliques);
   CURRENT_STATE_REPORT = " done.\n";
   Check_for_stop_signal();
 
-  Extract_all(parameters,
+  Extract_all(parameters, *start.mark,
               {cliques, exact_clique_count, start.com_flag, start.run_header, parameters.output_dir,
                node_names, vertex_count, index_links, Max_clique_size_in_cl_vec(cliques),
                parameters.use_intensity, parameters.intensity_threshold, tables},
               summary);
-  if (File_faults().empty()) Remove_unfinished_mark(parameters.output_dir);
+  if (File_faults().empty()) start.mark->Remove();
 }
 
 }  // namespace gns

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
 #include "files/Com_result_tables.h"
+#include "files/Unfinished_mark.h"
 #include "graph/Link_map.h"
 #include "search/Attempt.h"
 
@@ -16,7 +18,8 @@ struct Run_start {
   bool weighted = false;  ///< the links were read with weights
   std::string com_flag;   ///< "directed", "intensity" or empty
   std::string run_header;
-  Clock clock = Processor_seconds;  ///< what a time limit is measured by
+  Clock clock = Processor_seconds;        ///< what a time limit is measured by
+  std::unique_ptr<Unfinished_mark> mark;  ///< of the results directory, once it is open
 };
 
 /// What follows from the parameters alone. The header has its first three lines.
@@ -26,12 +29,13 @@ Run_start Start_of_run(const Run_parameters& parameters);
 /// link readers.
 void Read_links(const Run_start& start, Link_map& links);
 
-/// Completes the header and prepares the results directory, which must be empty or missing. The
-/// first write of a run.
+/// Completes the header and prepares the results directory, which must be empty or missing and is
+/// marked as unfinished. The first write of a run; throws Xerror_msg if the directory is in use or
+/// can't be made or written to.
 void Open_results(Run_start& start);
 
-/// Everything behind the reading of the links; `links` is emptied on the way. `tables`, if there
-/// are any, are filled beside the files. Throws what its stages throw.
+/// Everything behind the reading of the links, into results that are open; `links` is emptied on
+/// the way. `tables`, if there are any, are filled beside the files. Throws what its stages throw.
 void Run_from_links(const Run_start& start, Link_map& links, bool& approximation_needed,
                     Run_summary& summary, Com_result_tables* tables = nullptr);
 

@@ -1,5 +1,8 @@
 #include "files/Results_directory.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include "files/Results_names.h"
 #include "foundation/Dir_prepare.h"
 #include "foundation/Direktoriz.h"
@@ -12,6 +15,9 @@ namespace gns {
 
 namespace {
 
+constexpr const char* not_empty =
+    "ERROR: the output directory already exists and it is non-empty.\n";
+
 std::string Six_digits(double value) {
   constexpr unsigned digits = 6;
   return double2string(value, digits);
@@ -23,8 +29,18 @@ void Check_out_dir(const std::string& output_dir) {
   bool empty = true;
   std::string error_text;
   if (!Is_there_such_dir(output_dir, empty, error_text) || empty) return;
-  if (!List_dir(output_dir).empty())
-    throw Xerror_msg("ERROR: the output directory already exists and it is non-empty.\n");
+  if (!List_dir(output_dir).empty()) throw Xerror_msg(not_empty);
+}
+
+void Check_entries(const std::string& output_dir, std::string_view allowed) {
+  std::error_code error;
+  const std::filesystem::directory_iterator end;
+  for (std::filesystem::directory_iterator entry(output_dir, error); !error && entry != end;
+       entry.increment(error))
+    if (entry->path().filename() != allowed) throw Xerror_msg(not_empty);
+  if (error)
+    throw Xerror_msg("ERROR: the output directory '" + output_dir +
+                     "' can't be listed: " + error.message() + ".\n");
 }
 
 void Generate_alap_szoveg(std::string& run_header, const std::string& input_file,

@@ -2,11 +2,17 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace gns {
 
-/// Refuses a directory that holds anything: throws Xerror_msg. A missing or an empty one passes.
+/// Refuses a directory that holds anything: throws Xerror_msg. A missing or an empty one passes,
+/// and so does one that counts as empty by its size.
 void Check_out_dir(const std::string& output_dir);
+
+/// Refuses a directory by what stands in it, whatever its size: throws Xerror_msg if there is
+/// anything but `allowed`, or if it can't be listed.
+void Check_entries(const std::string& output_dir, std::string_view allowed = {});
 
 /// Sets `run_header` to its first three lines: the input's absolute path and the thresholds.
 void Generate_alap_szoveg(std::string& run_header, const std::string& input_file,

@@ -1,60 +1,115 @@
 #include "files/Unfinished_mark.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
 #include <string_view>
+#include <system_error>
 
+#include "files/Results_directory.h"
+#include "foundation/Dir_prepare.h"
 #include "foundation/Direktoriz.h"
 #include "foundation/Errors.h"
 #include "foundation/File_faults.h"
-#include "foundation/Line_reader.h"
-#include "foundation/Text_writer.h"
+#include "foundation/Total_path.h"
 
 namespace gns {
 
 namespace {
 
+constexpr const char* mark_name = ".unfinished";
 constexpr std::string_view mark_text =
-    "The results directory of this name isn't whole: its run is still going on, or was stopped, or "
-    "failed.";
+    "The results in this directory are not whole: their run is still going on, or was stopped, or "
+    "failed.\n";
 
-/// True if the path is a mark that a run left, perhaps cut short.
-bool Is_mark(const std::string& path) {
-  if (!Is_there_such_file(path)) return false;
-  Line_reader reader(path);
-  std::string_view line;
-  return !reader.Next(line) || (mark_text.starts_with(line) && !reader.Next(line));
+Xerror_msg Not_writable(const std::string& output_dir, int error_number) {
+  return Xerror_msg("ERROR: the results can't be written to '" + output_dir +
+                    "': " + std::generic_category().message(error_number) + ".\n");
+}
+
+/// Opens a directory, which is made if it is missing.
+int Open_output_dir(const std::string& output_dir) {
+  if (output_dir.empty()) throw Xerror_msg("ERROR: the output directory has no name.\n");
+  // A path by way of a missing directory may lead to one that is in use.
+  const std::string resolved = Resolved_path(output_dir);
+  if (Is_there_such_dir(resolved)) Check_entries(resolved);
+  Dir_prepare(output_dir, "keep");
+  const int directory = ::open(output_dir.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (directory < 0) throw Not_writable(output_dir, errno);
+  return directory;
+}
+
+int Make_mark(int directory) {
+  constexpr mode_t mode = 0666;
+  return ::openat(directory, mark_name, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode);
+}
+
+/// Makes the mark of a directory that holds nothing.
+int Claim(const std::string& output_dir, int directory) {
+  Check_entries(output_dir);
+  const int mark = Make_mark(directory);
+  if (mark >= 0) return mark;
+  const int error = errno;
+  if (error == EEXIST) Check_entries(output_dir);  // another run was faster
+  throw Not_writable(output_dir, error);
+}
+
+/// Yields 0 or the number of the error.
+int Write_mark(int mark) {
+  ssize_t written = -1;
+  do written = ::write(mark, mark_text.data(), mark_text.size());
+  while (written < 0 && errno == EINTR);
+  if (written < 0) return errno;
+  return static_cast<std::size_t>(written) == mark_text.size() ? 0 : ENOSPC;
 }
 
 }  // namespace
 
-std::string Unfinished_mark_of(const std::string& output_dir) {
-  if (output_dir.empty()) throw Xerror_msg("ERROR: the output directory has no name.\n");
-  std::filesystem::path path = std::filesystem::absolute(output_dir).lexically_normal();
-  if (!path.has_filename()) path = path.parent_path();
-  return path.string() + ".unfinished";
+Unfinished_mark::Unfinished_mark(const std::string& output_dir)
+    : output_dir_(output_dir),
+      directory_(Open_output_dir(output_dir)),
+      mark_(Claim(output_dir, directory_.Number())) {
+  try {
+    if (const int error = Write_mark(mark_.Number())) throw Not_writable(output_dir, error);
+    // From here on no other run comes in, but one may have finished in front of the mark.
+    Check_entries(output_dir, mark_name);
+  } catch (...) {
+    ::unlinkat(directory_.Number(), mark_name, 0);
+    throw;
+  }
 }
 
-void Set_unfinished_mark(const std::string& output_dir) {
-  const std::string mark = Unfinished_mark_of(output_dir);
-  if (Is_there_such_path(mark) && !Is_mark(mark))
-    throw Xerror_msg("ERROR: '" + mark +
-                     "' is in the way: the run would mark its results as unfinished there.\n");
-  Make_dir(std::filesystem::path(mark).parent_path().string());
-  Text_writer file(mark);
-  file << mark_text << '\n';
+void Unfinished_mark::Check() const {
+  struct stat ours {};
+  struct stat found {};
+  if (::fstat(mark_.Number(), &ours) == 0 &&
+      ::lstat(Unfinished_mark_of(output_dir_).c_str(), &found) == 0 &&
+      ours.st_dev == found.st_dev && ours.st_ino == found.st_ino)
+    return;
+  const Descriptor replacement(::open(output_dir_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (replacement.Is_open()) const Descriptor mark(Make_mark(replacement.Number()));
+  throw Xerror_msg("ERROR: the output directory '" + output_dir_ +
+                   "' was moved or deleted during the run.\n");
+}
+
+void Unfinished_mark::Remove() {
+  Check();
+  mark_.Close();  // some file systems keep what is open under another name
+  if (::unlinkat(directory_.Number(), mark_name, 0) != 0)
+    Note_file_fault(Unfinished_mark_of(output_dir_), "remove", errno);
+}
+
+std::string Unfinished_mark_of(const std::string& output_dir) {
+  return output_dir + "/" + mark_name;
 }
 
 bool Is_marked_unfinished(const std::string& output_dir) {
-  return !output_dir.empty() && Is_mark(Unfinished_mark_of(output_dir));
-}
-
-void Remove_unfinished_mark(const std::string& output_dir) {
-  const std::string mark = Unfinished_mark_of(output_dir);
-  if (Is_there_such_path(mark) && ::unlink(mark.c_str()) != 0)
-    Note_file_fault(mark, "remove", errno);
+  std::error_code ignored;
+  const std::filesystem::path mark = Unfinished_mark_of(output_dir);
+  return std::filesystem::exists(std::filesystem::symlink_status(mark, ignored));
 }
 
 }  // namespace gns

@@ -2,24 +2,43 @@
 
 #include <string>
 
+#include "foundation/Descriptor.h"
+
 namespace gns {
 
-/// A file beside a results directory that stands there while the directory isn't whole: made before
-/// the first write of a run, removed as the last act of a run that finished.
+/// What tells that a results directory isn't whole, and keeps a second run out of it: a file
+/// `.unfinished` inside. It is made in front of everything else that a run writes, and removed as
+/// the last act of a run that finished. A run that is stopped, fails or dies leaves it, and it
+/// moves with the directory.
+///
+/// An object of this class is the claim of one run on its directory, from construction on. Not for
+/// several threads.
+class Unfinished_mark {
+ public:
+  /// Makes the directory, with its missing parents, and the mark. Throws Xerror_msg, and leaves
+  /// what is there alone, if the directory holds anything, the mark of another run included, or if
+  /// it can't be made or marked.
+  explicit Unfinished_mark(const std::string& output_dir);
 
-/// Its path: the name of the directory with ".unfinished" behind it. Throws Xerror_msg if the name
-/// is empty.
+  /// Throws Xerror_msg if the mark no longer stands where it was made, because somebody moved or
+  /// deleted the directory. What a writer has made in its place by then is marked as well.
+  void Check() const;
+
+  /// Takes the mark away, which ends the claim. Throws as Check(), and notes a file fault if the
+  /// mark can't be removed.
+  void Remove();
+
+ private:
+  std::string output_dir_;
+  Descriptor directory_;
+  Descriptor
+      mark_;  ///< open as long as the mark stands, so that its identity can't pass to another
+};
+
+/// The path of the mark of a results directory.
 std::string Unfinished_mark_of(const std::string& output_dir);
 
-/// Makes the mark, and the directory's missing parents. Throws Xerror_msg if something else than a
-/// mark stands in its place, which is left alone, or if a directory can't be made. A mark that
-/// can't be written is noted as a file fault.
-void Set_unfinished_mark(const std::string& output_dir);
-
-/// True if the mark stands beside the directory.
+/// True if the mark stands in the directory: its run is going on, or was stopped, or failed.
 bool Is_marked_unfinished(const std::string& output_dir);
-
-/// Takes the mark away, if there is one. Notes a file fault if that fails.
-void Remove_unfinished_mark(const std::string& output_dir);
 
 }  // namespace gns

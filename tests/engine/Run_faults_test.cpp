@@ -13,6 +13,7 @@
 #include "Temp_dir.h"
 #include "control/Clique_find_ext_cont.h"
 #include "engine/Find_coms.h"
+#include "files/Unfinished_mark.h"
 #include "foundation/File_faults.h"
 
 namespace gns {
@@ -61,18 +62,26 @@ TEST(RunFaults, AFullDiskIsRemembered) {
   }
   std::ranges::sort(faults);
   std::vector<std::string> too_long;
-  for (const auto& [name, text] : Contents_of(parameters.output_dir)) {
+  auto cut = Contents_of(parameters.output_dir);
+  EXPECT_EQ(cut.erase(".unfinished"), 1U);
+  for (const auto& [name, text] : cut) {
     if (whole.at(name).size() > limit) too_long.push_back(name);
     EXPECT_EQ(text, whole.at(name).substr(0, limit)) << name;
   }
   EXPECT_GE(faults.size(), 19U);
   EXPECT_EQ(faults, too_long);
-  EXPECT_TRUE(fs::exists(temp.Path("cut.unfinished")));
 
-  parameters.output_dir = temp.Path("whole again");
+  parameters.output_dir = temp.Path("none");
+  {
+    const File_size_limit full_disk(0);
+    EXPECT_EQ(Find_coms(parameters, approximation_needed, summary),
+              "ERROR: the results can't be written to '" + parameters.output_dir +
+                  "': File too large.\n");
+  }
+  EXPECT_TRUE(Contents_of(parameters.output_dir).empty());
   EXPECT_EQ(Find_coms(parameters, approximation_needed, summary), run_finished);
   EXPECT_TRUE(File_faults().empty());
-  EXPECT_FALSE(fs::exists(temp.Path("whole again.unfinished")));
+  EXPECT_EQ(Contents_of(parameters.output_dir), whole);
 }
 
 TEST(ThreadsRun, AStopInsideTheSearchLeavesTheGraphFile) {
@@ -88,8 +97,8 @@ TEST(ThreadsRun, AStopInsideTheSearchLeavesTheGraphFile) {
   EXPECT_EQ(Find_coms(parameters, approximation_needed, summary), "Process stopped by user.\n");
   watcher.join();
   Reset_stop_process();
-  EXPECT_EQ(Contents_of(parameters.output_dir).size(), 2U);
-  EXPECT_TRUE(fs::exists(temp.Path("out.unfinished")));
+  EXPECT_EQ(Contents_of(parameters.output_dir).size(), 3U);
+  EXPECT_TRUE(Is_marked_unfinished(parameters.output_dir));
   EXPECT_EQ(Read_state_report(), " Process stopped by user.\n");
 }
 

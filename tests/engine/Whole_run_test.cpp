@@ -13,7 +13,6 @@
 #include "control/Clique_find_ext_cont.h"
 #include "engine/Find_coms.h"
 #include "engine/Run_stages.h"
-#include "files/Unfinished_mark.h"
 #include "foundation/File_faults.h"
 
 namespace gns {
@@ -53,7 +52,6 @@ TEST(WholeRun, LeavesTheExpectedDirectory) {
     EXPECT_FALSE(approximation_needed);
     EXPECT_EQ(Contents_of(out), Expected_files(c.name, input)) << c.name;
     EXPECT_EQ(Read_state_report(), " done.\n");
-    EXPECT_EQ(Contents_of(temp.Path("new")).size(), Contents_of(out).size());  // no mark
   }
 }
 
@@ -89,7 +87,6 @@ class SmallRun : public ::testing::Test {
     for (const auto& [name, text] : Contents_of(parameters_.output_dir)) names.push_back(name);
     return names;
   }
-  [[nodiscard]] bool Marked() const { return fs::exists(parameters_.output_dir + ".unfinished"); }
 
   Temp_dir temp_;
   Run_parameters parameters_;
@@ -129,7 +126,6 @@ TEST_F(SmallRun, RelativeInputIsShownAsAbsolute) {
   EXPECT_EQ(Run(), run_finished);
   EXPECT_TRUE(
       temp_.Read("out/graph").starts_with("# The links from " + temp_.Path("links") + "\n"));
-  EXPECT_FALSE(fs::exists("out.unfinished"));
   fs::current_path(before);
 }
 
@@ -175,8 +171,7 @@ TEST_F(SmallRun, AFailureLeavesWhatWasWrittenAndTheMark) {
     parameters_.input_file = input;
     parameters_.use_lower_threshold = use_lower_threshold;
     EXPECT_EQ(Run(), message);
-    EXPECT_EQ(Written(), std::vector<std::string>{"input_params.txt"});
-    EXPECT_TRUE(Marked());
+    EXPECT_EQ(Written(), (std::vector<std::string>{".unfinished", "input_params.txt"}));
     EXPECT_EQ(Read_state_report(), " Reading input ...\n");
     EXPECT_EQ(Read_error_message(), "");
     fs::remove_all(parameters_.output_dir);
@@ -209,59 +204,14 @@ TEST_F(SmallRun, RefusesItsInputUnderAnyName) {
   }
 }
 
-TEST_F(SmallRun, TheMarkReplacesNothingButAMark) {
-  const std::string mark = temp_.Path("out.unfinished");
-  for (const std::string in_the_way : {"a b\na c\nb c\n", "The results\n\n"}) {
-    parameters_.input_file = temp_.Write("out.unfinished", in_the_way);
-    EXPECT_EQ(Run(), "ERROR: '" + mark +
-                         "' is in the way: the run would mark its results as unfinished there.\n");
-    EXPECT_EQ(temp_.Read("out.unfinished"), in_the_way);
-    EXPECT_TRUE(Written().empty());
-  }
-  fs::remove(mark);
-  fs::create_directory(mark);
-  EXPECT_TRUE(Run().starts_with("ERROR: '" + mark));
-  fs::remove(mark);
-
-  parameters_.input_file = temp_.Path("missing");
-  Run();
-  const std::string left_behind = temp_.Read("out.unfinished");
-  parameters_.input_file = temp_.Path("links");
-  for (const std::size_t length : {left_behind.size(), std::size_t{20}, std::size_t{0}}) {
-    fs::remove_all(temp_.Path("out"));
-    temp_.Write("out.unfinished", left_behind.substr(0, length));
-    EXPECT_EQ(Run(), run_finished);
-    EXPECT_FALSE(Marked());
-  }
-}
-
-/// The name of the mark would be too long. It is the same with a directory above that nobody may
-/// write to.
-TEST_F(SmallRun, GoesOnWhereNoMarkCanStand) {
-  parameters_.output_dir = temp_.Path(std::string(250, 'o'));
-  EXPECT_EQ(Run(), run_finished);
-  EXPECT_EQ(Written().size(), 3U + 2 * 8U);
-  EXPECT_TRUE(File_faults().empty());
-}
-
 TEST_F(SmallRun, StopBeforeTheFirstPoll) {
   Stop_process();
   EXPECT_EQ(Run(), "Process stopped by user.\n");
   EXPECT_EQ(Read_state_report(), " Process stopped by user.\n");
-  EXPECT_EQ(Written(), (std::vector<std::string>{"graph", "input_params.txt"}));
-  EXPECT_TRUE(Marked());
+  EXPECT_EQ(Written(), (std::vector<std::string>{".unfinished", "graph", "input_params.txt"}));
   Reset_stop_process();
   parameters_.output_dir = temp_.Path("again");
   EXPECT_EQ(Run(), run_finished);
-}
-
-TEST(UnfinishedMark, StandsBesideTheDirectory) {
-  const std::string here = fs::current_path().string();
-  const std::vector<std::pair<std::string, std::string>> cases = {
-      {"/d/out", "/d/out.unfinished"},       {"/d/out//", "/d/out.unfinished"},
-      {"/d/x/../out/", "/d/out.unfinished"}, {"out", here + "/out.unfinished"},
-      {"out/.", here + "/out.unfinished"},   {".", here + ".unfinished"}};
-  for (const auto& [directory, mark] : cases) EXPECT_EQ(Unfinished_mark_of(directory), mark);
 }
 
 }  // namespace

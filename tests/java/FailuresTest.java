@@ -98,7 +98,7 @@ public class FailuresTest extends Fixture {
   public void andWhatIsShown() throws Exception {
     String choir = example("choir.txt");
     new Run(choir, path("damaged")).find();
-    write("damaged.unfinished", "");
+    write("damaged/.unfinished", "");
     Child child = end(calling(List.of(),
         "find|" + choir + "|" + path("out"), "load|" + path("out"),
         "findAndLoad|" + choir + "|" + newDir(),

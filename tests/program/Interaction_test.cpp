@@ -45,7 +45,7 @@ TEST(Stop, EndsALongSearchWithinASecond) {
     EXPECT_LT(Clock::now() - asked, std::chrono::seconds(1));
     EXPECT_EQ(child.Out(), "Process stopped by user.\n");
     EXPECT_EQ(child.Err(), "");
-    EXPECT_TRUE(std::filesystem::exists(temp.Path(out + ".unfinished")));
+    EXPECT_TRUE(std::filesystem::exists(temp.Path(out + "/.unfinished")));
   }
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "Child.h"
+#include "Directory_contents.h"
 #include "Linked_groups.h"
 #include "cli/Memory_limit.h"
 
@@ -121,8 +122,20 @@ TEST_F(Program, ListsFilesThatCouldNotBeWritten) {
   EXPECT_EQ(Run({"-i", "big", "-o", "out", "-k", "5"}, [] { Limit(RLIMIT_FSIZE, 400); }), 1);
   EXPECT_EQ(out_, "Process ended succesfully.\n");
   EXPECT_NE(err_.find("\n  out/graph: write: File too large\n"), std::string::npos) << err_;
-  EXPECT_TRUE(err_.ends_with("; " + temp_.Path("out.unfinished") + " tells so.\n")) << err_;
-  EXPECT_EQ(Entries(), (Words{"big", "net", "out", "out.unfinished"}));
+  EXPECT_TRUE(err_.ends_with("; out/.unfinished tells so.\n")) << err_;
+  EXPECT_EQ(Entries(), (Words{"big", "net", "out"}));
+}
+
+TEST_F(Program, OneOfTwoRunsIntoADirectoryGoesOn) {
+  ASSERT_EQ(Run({"-i", "net", "-o", "alone"}), 0);
+  const auto alone = Contents_of(temp_.Path("alone"));
+  for (int pair = 0; pair < 10; ++pair) {
+    Child one(temp_, {"-i", "net", "-o", "out"});
+    Child other(temp_, {"-i", "net", "-o", "out"});
+    EXPECT_EQ(one.Wait() + other.Wait(), 1);
+    EXPECT_EQ(Contents_of(temp_.Path("out")), alone);
+    std::filesystem::remove_all(temp_.Path("out"));
+  }
 }
 
 TEST_F(Program, LossOfItsOwnOutput) {
@@ -156,7 +169,7 @@ TEST_F(Program, EndsInGoodOrderWhenMemoryRunsOut) {
       err_.starts_with("vorlane: memory ran out (limit 100 MB) in the stage \"Locating "
                        "cliques:\", with 0 cliques found.\n"))
       << err_;
-  EXPECT_EQ(Entries(), (Words{"hard", "net", "out", "out.unfinished"}));
+  EXPECT_TRUE(std::filesystem::exists(temp_.Path("out/.unfinished")));
   EXPECT_EQ(Run({"-i", "net"}, [] { ::setenv("VORLANE_MEMORY_LIMIT", "1T", 1); }), 1);
   EXPECT_TRUE(out_.starts_with("VORLANE_MEMORY_LIMIT is '1T', but must")) << out_;
 }

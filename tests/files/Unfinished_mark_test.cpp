@@ -1,0 +1,129 @@
+#include "files/Unfinished_mark.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <atomic>
+#include <barrier>
+#include <filesystem>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "Directory_contents.h"
+#include "Thrown_message.h"
+#include "Temp_dir.h"
+
+namespace {
+
+bool directories_have_size_48 = false;
+
+}  // namespace
+
+/// In place of the system's, to tell of directories what some file systems do, whatever they hold.
+extern "C" int stat(const char* path, struct stat* status) noexcept {
+  const int result = fstatat(AT_FDCWD, path, status, 0);
+  if (result == 0 && directories_have_size_48 && S_ISDIR(status->st_mode)) status->st_size = 48;
+  return result;
+}
+
+namespace gns {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* in_use = "ERROR: the output directory already exists and it is non-empty.\n";
+
+TEST(UnfinishedMark, StandsAsLongAsTheResultsAreNotWhole) {
+  const Temp_dir temp;
+  const std::string longest(255, 'o');
+  for (const char* dir : {"empty", "target", "locked/inside"})
+    fs::create_directories(temp.Path(dir));
+  fs::create_symlink("target", temp.Path("link"));
+  fs::permissions(temp.Path("locked"), fs::perms::owner_read | fs::perms::owner_exec);
+  temp.Write("users.unfinished", "a b\n");
+  for (const std::string& name :
+       {std::string("empty"), std::string("new/parents"), longest, std::string("link"),
+        std::string("locked/inside"), std::string("users"), std::string("missing/../back/")}) {
+    const std::string dir = temp.Path(name);
+    Unfinished_mark mark(dir);
+    EXPECT_TRUE(Is_marked_unfinished(dir)) << name;
+    mark.Check();
+    fs::copy(dir, temp.Path("copy"));
+    EXPECT_TRUE(Is_marked_unfinished(temp.Path("copy")));
+    fs::remove_all(temp.Path("copy"));
+    mark.Remove();
+    EXPECT_FALSE(Is_marked_unfinished(dir));
+    EXPECT_TRUE(fs::is_empty(dir)) << name;
+  }
+  EXPECT_EQ(temp.Read("users.unfinished"), "a b\n");
+  fs::permissions(temp.Path("locked"), fs::perms::owner_all);
+}
+
+TEST(UnfinishedMark, IsRefusedToADirectoryInUse) {
+  const Temp_dir temp;
+  for (const char* dir : {"used", "marked"}) fs::create_directory(temp.Path(dir));
+  temp.Write("used/graph", "");
+  temp.Write("file", "");
+  fs::create_symlink("used", temp.Path("link"));
+  fs::create_symlink("../file", temp.Path("marked/.unfinished"));
+  const Unfinished_mark other(temp.Path("running"));
+  for (const bool size_48 : {false, true}) {
+    directories_have_size_48 = size_48;
+    const auto before = Contents_of(temp.Path());
+    for (const char* name :
+         {"used", "link", "running", "marked", "missing/../used", "new/..", "link/../used/"})
+      EXPECT_EQ(Thrown_message([&] { Unfinished_mark(temp.Path(name)); }), in_use) << name;
+    EXPECT_EQ(Contents_of(temp.Path()), before);
+  }
+  directories_have_size_48 = false;
+  EXPECT_EQ(Thrown_message([&] { Unfinished_mark(temp.Path("missing/../file")); }),
+            "ERROR: the results can't be written to '" + temp.Path("missing/../file") +
+                "': Not a directory.\n");
+}
+
+/// Each round, one of several gets the directory, however close together they come and also when it
+/// has finished before another looks.
+TEST(ThreadsUnfinishedMark, OneOfManyGetsTheDirectory) {
+  for (int round = 0; round < 30; ++round) {
+    const Temp_dir temp;
+    std::barrier start(4);
+    std::atomic<int> winners = 0;
+    const auto run = [&] {
+      start.arrive_and_wait();
+      const std::string message = Thrown_message([&] {
+        Unfinished_mark mark(temp.Path("new/out"));
+        ++winners;
+        temp.Write("new/out/graph", "");
+        mark.Remove();
+      });
+      EXPECT_TRUE(message == in_use || message == "nothing was thrown") << message;
+    };
+    {
+      std::vector<std::jthread> runs;
+      for (int i = 0; i < 4; ++i) runs.emplace_back(run);
+    }
+    EXPECT_EQ(winners, 1);
+    EXPECT_EQ(Contents_of(temp.Path("new/out")).size(), 1U);
+  }
+}
+
+TEST(UnfinishedMark, GoesWithADirectoryThatIsMovedAway) {
+  const Temp_dir temp;
+  Unfinished_mark mark(temp.Path("out"));
+  fs::rename(temp.Path("out"), temp.Path("moved"));
+  const std::string moved = "ERROR: the output directory '" + temp.Path("out") +
+                            "' was moved or deleted during the run.\n";
+  EXPECT_EQ(Thrown_message([&] { mark.Check(); }), moved);
+  EXPECT_FALSE(fs::exists(temp.Path("out")));
+  temp.Write("out", "");
+  EXPECT_EQ(Thrown_message([&] { mark.Remove(); }), moved);
+  fs::remove(temp.Path("out"));
+  fs::create_directory(temp.Path("out"));  // by a writer
+  EXPECT_EQ(Thrown_message([&] { mark.Remove(); }), moved);
+  for (const char* dir : {"out", "moved"}) EXPECT_TRUE(Is_marked_unfinished(temp.Path(dir)));
+}
+
+}  // namespace
+}  // namespace gns
