@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 #include "foundation/Dir_error.h"
 #include "foundation/Errors.h"
@@ -67,16 +68,17 @@ bool Examine(Status_call get_status, const std::string& path, std::string& type,
   return true;
 }
 
-/// The type of something that was just found in the directory `path`.
-std::string Type_of_entry(const std::string& path, const std::string& name,
-                          Status_call get_status) {
+/// The type of something that was just found in the directory `path`; none if it has gone since.
+std::optional<std::string> Type_of_entry(const std::string& path, const std::string& name,
+                                         Status_call get_status) {
+  const std::string entry = path + "/" + name;
   std::string type;
   bool empty = true;
   std::string error_text;
-  if (!Examine(get_status, path + "/" + name, type, empty, error_text)) {
-    throw Xerror_msg("ERROR: problem with " + name + " in List_dir():\n" + error_text);
-  }
-  return type;
+  if (Examine(get_status, entry, type, empty, error_text)) return type;
+  struct stat link {};
+  if (lstat(entry.c_str(), &link) != 0 && errno == ENOENT) return std::nullopt;
+  throw Xerror_msg("ERROR: problem with " + name + " in List_dir():\n" + error_text);
 }
 
 /// What stands in a directory, sorted by name; `get_status` tells the types.
@@ -84,7 +86,7 @@ std::vector<Dir_entry> Entries(const std::string& path, Status_call get_status) 
   std::vector<Dir_entry> entries;
   for (const std::string& name : Scan_dir(path)) {
     if (name == "." || name == "..") continue;
-    entries.emplace_back(name, Type_of_entry(path, name, get_status));
+    if (const auto type = Type_of_entry(path, name, get_status)) entries.emplace_back(name, *type);
   }
   return entries;
 }

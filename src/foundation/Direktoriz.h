@@ -30,7 +30,7 @@ bool Is_there_such_file(const std::string& path, bool& empty, std::string& error
 bool Is_there_such_file(const std::string& path);
 
 /// What stands in a directory, without "." and "..", sorted by name. A directory that counts as
-/// empty isn't opened.
+/// empty isn't opened. What is deleted meanwhile may be there or not.
 std::vector<Dir_entry> List_dir(const std::string& path);
 
 /// The whole tree below a directory, with names relative to `path`. What stands in the directory
