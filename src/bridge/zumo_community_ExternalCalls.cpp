@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "bridge/Java_class.h"
 #include "bridge/Java_errors.h"
@@ -17,6 +18,7 @@
 #include "engine/Find_coms.h"
 #include "engine/Load_coms.h"
 #include "foundation/Errors.h"
+#include "foundation/File_faults.h"
 
 namespace gns {
 
@@ -100,6 +102,22 @@ Run_parameters Parameters_of(JNIEnv* env, const Run_arguments& a) {
   return p;
 }
 
+std::string Words_of(const std::vector<File_fault>& faults) {
+  std::string words = "ERROR: the results are not whole, as " + std::to_string(faults.size()) +
+                      " file(s) could not be written:\n";
+  for (const File_fault& fault : faults) words += "  " + fault.path + ": " + fault.reason + "\n";
+  return words;
+}
+
+/// Makes the run and yields its message; here a run whose files are not whole has failed.
+std::string Message_of_run(const Run_parameters& parameters, bool& approximation_needed,
+                           Com_result_tables* tables) {
+  Run_summary summary;
+  const std::string message = Find_coms(parameters, approximation_needed, summary, tables);
+  const std::vector<File_fault> faults = File_faults();
+  return message != run_finished || faults.empty() ? message : Words_of(faults);
+}
+
 jobject Run(JNIEnv* env, const Run_arguments& arguments) {
   Print_line(std::cout, " starting c++");
   const Run_parameters parameters = Parameters_of(env, arguments);
@@ -109,8 +127,7 @@ jobject Run(JNIEnv* env, const Run_arguments& arguments) {
 
   Print_line(std::cout, " calling Find_coms");
   bool approximation_needed = false;
-  Run_summary summary;
-  const std::string message = Find_coms(parameters, approximation_needed, summary);
+  const std::string message = Message_of_run(parameters, approximation_needed, nullptr);
   if (message == run_finished)
     Print_success(approximation_needed);
   else
@@ -121,9 +138,8 @@ jobject Run(JNIEnv* env, const Run_arguments& arguments) {
 jobject Run_and_translate(JNIEnv* env, const Run_arguments& arguments) {
   const Run_parameters parameters = Parameters_of(env, arguments);
   bool approximation_needed = false;
-  Run_summary summary;
   Com_result_tables tables;
-  const std::string message = Find_coms(parameters, approximation_needed, summary, &tables);
+  const std::string message = Message_of_run(parameters, approximation_needed, &tables);
   if (message != run_finished) throw Xerror_msg(message);
   Print_success(approximation_needed);
   return translateResultToJava(env, parameters.directed, std::move(tables));

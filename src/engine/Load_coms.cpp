@@ -2,7 +2,6 @@
 
 #include "engine/Run_message.h"
 #include "files/Results_reader.h"
-#include "files/Unfinished_mark.h"
 
 namespace gns {
 
@@ -10,9 +9,6 @@ namespace {
 
 void Load(const std::string& results_dir, std::uint32_t load_mode, Com_result_tables& tables,
           std::string& errors) {
-  if (Is_marked_unfinished(results_dir))
-    errors += "The results directory '" + results_dir +
-              "' isn't whole: its run is still going on, or was stopped, or failed.\n";
   const char* specifier = load_mode == 1 ? "directed" : load_mode == 2 ? "intensity" : "";
   Read_coms(results_dir, specifier, tables, errors);
 }

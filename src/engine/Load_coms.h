@@ -9,9 +9,9 @@ namespace gns {
 
 /// Fills the tables from the results directory of an earlier run. `load_mode` is 2 for an intensity
 /// run, 1 for a directed run, and anything else for a plain one. Never throws: yields run_finished,
-/// or the words of what went wrong. Look at both: what the reload could put up with, such as a file
-/// that is missing or damaged, or that the run never finished, is appended to `errors`, and the
-/// tables then hold what could be read.
+/// or the words of what went wrong. Look at both: what the reload could put up with, a file that is
+/// missing or damaged, is appended to `errors`, and the tables then hold what could be read. What a
+/// stopped run has finished loads like any other results; Is_marked_unfinished tells it.
 ///
 /// Reports nothing and can't be stopped. One run or reload at a time in a process; a second one is
 /// refused.

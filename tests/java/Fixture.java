@@ -77,7 +77,8 @@ public abstract class Fixture {
       try {
         OutParams results = call(arg.split("\\|"));
         System.out.println("= " + results.getInParams().getVertices().size() + " nodes, "
-            + results.getCliques().size() + " cliques, k " + results.getKs());
+            + results.getCliques().size() + " cliques, k " + results.getKs()
+            + (results.isFinished() ? "" : ", not finished"));
       } catch (Exception | OutOfMemoryError failure) {
         System.out.println("! " + failure.getClass().getName() + " " + failure.getMessage());
       }

@@ -17,7 +17,8 @@ public final class ExternalCalls {
    * or be empty. A value counts only if the boolean in front of it is true.
    *
    * @return an object without results; {@link #loadComs} reads them
-   * @throws Exception if the run fails or is stopped, with the engine's message
+   * @throws Exception if the run fails or is stopped, with the engine's message, or if files could
+   *     not be written, with their names
    */
   public static native OutParams Find_coms(
       String linkFile, String resultsDir, boolean directed,
@@ -37,7 +38,8 @@ public final class ExternalCalls {
       boolean useTimeLimit, double timeLimitSeconds) throws Exception;
 
   /**
-   * Reads the results of an earlier run; the booleans tell which kind of run it was.
+   * Reads the results of an earlier run; the booleans tell which kind of run it was. Whether it was
+   * finished {@link Run#load} tells.
    *
    * @throws Exception if something can't be read, with the engine's message
    */

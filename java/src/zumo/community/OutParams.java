@@ -27,6 +27,7 @@ public final class OutParams {
   private final TreeMap<Integer, Extraction> extractions = new TreeMap<>();
   private InParams inParams = new InParams();
   private NodeNames names = new NodeNames();
+  private boolean finished = true;
 
   /** Sets the network; to be called first, since everything else shares its names. */
   public void setInParams(InParams inParams) {
@@ -78,6 +79,19 @@ public final class OutParams {
     IntTable<Frequency> distribution = extraction(k).distribution(name);
     distribution.append(value);
     distribution.append(count);
+  }
+
+  /** Tells that these are what a run has left that was stopped, failed or is still going on. */
+  void setUnfinished() {
+    finished = false;
+  }
+
+  /**
+   * Whether the run was finished. If it was not, this is what it had written until then, and some k
+   * may be missing.
+   */
+  public boolean isFinished() {
+    return finished;
   }
 
   private Extraction extraction(int k) {

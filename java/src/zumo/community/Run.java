@@ -3,6 +3,7 @@ package zumo.community;
 import java.io.IOException;
 import java.nio.file.DirectoryStream;
 import java.nio.file.Files;
+import java.nio.file.LinkOption;
 import java.nio.file.Path;
 
 /**
@@ -83,14 +84,18 @@ public final class Run {
   }
 
   /**
-   * Reads the results of an earlier run, of whichever kind it was.
+   * Reads the results of an earlier run, of whichever kind it was. What a stopped run has finished
+   * is read as well; {@link OutParams#isFinished} tells.
    *
    * @throws Exception as {@link ExternalCalls#loadComs}
    */
   public static OutParams load(String resultsDir) throws Exception {
     Path dir = Path.of(resultsDir);
-    return ExternalCalls.loadComs(
+    boolean unfinished = Files.exists(dir.resolve(".unfinished"), LinkOption.NOFOLLOW_LINKS);
+    OutParams results = ExternalCalls.loadComs(
         resultsDir, Files.exists(dir.resolve("directed_graph")), isFromIntensityRun(dir));
+    if (unfinished) results.setUnfinished();
+    return results;
   }
 
   private static boolean isFromIntensityRun(Path dir) throws IOException {

@@ -32,7 +32,10 @@ public final class Sample {
     try {
       NativeLibrary.load();
       if (options.run() != null) stopOnSignal(exitCode);
-      System.out.print(SampleSummary.of(results(options)));
+      OutParams results = results(options);
+      System.out.print(SampleSummary.of(results));
+      if (!results.isFinished())
+        System.err.println("Not whole: the run is still going on, or was stopped, or failed.");
       return FINISHED;
     } catch (OutOfMemoryError failure) {
       System.err.println("Not enough memory: " + failure.getMessage()
