@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "cli/Environment.h"
 #include "cli/State_lines.h"
 #include "control/Clique_find_ext_cont.h"
+#include "foundation/Environment.h"
 
 namespace gns {
 

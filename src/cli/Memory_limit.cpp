@@ -10,7 +10,7 @@
 #include <optional>
 #include <string_view>
 
-#include "cli/Environment.h"
+#include "foundation/Environment.h"
 #include "foundation/Errors.h"
 
 namespace gns {

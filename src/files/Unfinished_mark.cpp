@@ -12,6 +12,7 @@
 #include "files/Results_directory.h"
 #include "foundation/Dir_prepare.h"
 #include "foundation/Direktoriz.h"
+#include "foundation/Environment.h"
 #include "foundation/Errors.h"
 #include "foundation/File_faults.h"
 #include "foundation/Total_path.h"
@@ -97,9 +98,15 @@ void Unfinished_mark::Check() const {
 
 void Unfinished_mark::Remove() {
   Check();
+  const bool sync = Environment_variable("VORLANE_NO_SYNC").empty();
+  // The whole file system at once: there may be thousands of files, and each would cost a wait.
+  if (sync && ::syncfs(directory_.Number()) != 0)
+    return Note_file_fault(output_dir_, "sync", errno);
   mark_.Close();  // some file systems keep what is open under another name
   if (::unlinkat(directory_.Number(), mark_name, 0) != 0)
-    Note_file_fault(Unfinished_mark_of(output_dir_), "remove", errno);
+    return Note_file_fault(Unfinished_mark_of(output_dir_), "remove", errno);
+  // Where this fails, the mark may come back, which does no harm to the results.
+  if (sync) ::fsync(directory_.Number());
 }
 
 std::string Unfinished_mark_of(const std::string& output_dir) {

@@ -24,8 +24,10 @@ class Unfinished_mark {
   /// deleted the directory. What a writer has made in its place by then is marked as well.
   void Check() const;
 
-  /// Takes the mark away, which ends the claim. Throws as Check(), and notes a file fault if the
-  /// mark can't be removed.
+  /// Takes the mark away, which ends the claim: brings all that was written to the disk first, so
+  /// that after a power failure too nothing looks whole that isn't. A variable of the environment,
+  /// VORLANE_NO_SYNC, leaves that out. Throws as Check(). If the disk reports a failure, or the mark
+  /// can't be removed, notes a file fault; then the mark stays.
   void Remove();
 
  private:

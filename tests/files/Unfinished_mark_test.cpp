@@ -3,9 +3,12 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <barrier>
+#include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <thread>
@@ -14,10 +17,22 @@
 #include "Directory_contents.h"
 #include "Thrown_message.h"
 #include "Temp_dir.h"
+#include "foundation/File_faults.h"
 
 namespace {
 
 bool directories_have_size_48 = false;
+
+std::string sync_calls;  // each with what it finds in the directory
+int sync_error = 0;      // of syncfs
+
+void Note_sync(const std::string& name, int directory) {
+  sync_calls += name;
+  const std::string path = "/proc/self/fd/" + std::to_string(directory) + "/";
+  for (const char* entry : {".unfinished", "graph"})
+    if (std::filesystem::exists(path + entry)) sync_calls += std::string(" ") + entry;
+  sync_calls += "|";
+}
 
 }  // namespace
 
@@ -26,6 +41,17 @@ extern "C" int stat(const char* path, struct stat* status) noexcept {
   const int result = fstatat(AT_FDCWD, path, status, 0);
   if (result == 0 && directories_have_size_48 && S_ISDIR(status->st_mode)) status->st_size = 48;
   return result;
+}
+
+extern "C" int syncfs(int directory) noexcept {
+  Note_sync("all", directory);
+  errno = sync_error;
+  return sync_error == 0 ? 0 : -1;
+}
+
+extern "C" int fsync(int directory) {
+  Note_sync("directory", directory);
+  return 0;
 }
 
 namespace gns {
@@ -107,6 +133,35 @@ TEST(ThreadsUnfinishedMark, OneOfManyGetsTheDirectory) {
     EXPECT_EQ(winners, 1);
     EXPECT_EQ(Contents_of(temp.Path("new/out")).size(), 1U);
   }
+}
+
+TEST(UnfinishedMark, GoesWhenTheResultsAreOnTheDisk) {
+  struct Case {
+    const char* no_sync;
+    int error;
+    std::string calls;
+  };
+  for (const auto& [no_sync, error, calls] :
+       std::vector<Case>{{"", 0, "all .unfinished graph|directory graph|"},
+                         {"", EIO, "all .unfinished graph|"},
+                         {"1", EIO, ""}}) {
+    const Temp_dir temp;
+    ::setenv("VORLANE_NO_SYNC", no_sync, 1);
+    sync_error = error;
+    sync_calls.clear();
+    Forget_file_faults();
+    Unfinished_mark mark(temp.Path("out"));
+    temp.Write("out/graph", "");
+    mark.Remove();
+    EXPECT_EQ(sync_calls, calls);
+    const bool failed = calls == "all .unfinished graph|";
+    EXPECT_EQ(Is_marked_unfinished(temp.Path("out")), failed);
+    std::string faults;
+    for (const File_fault& fault : File_faults()) faults += fault.reason;
+    EXPECT_EQ(faults, failed ? "sync: Input/output error" : "");
+  }
+  ::unsetenv("VORLANE_NO_SYNC");
+  sync_error = 0;
 }
 
 TEST(UnfinishedMark, GoesWithADirectoryThatIsMovedAway) {

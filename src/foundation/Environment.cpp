@@ -1,11 +1,11 @@
-#include "cli/Environment.h"
+#include "foundation/Environment.h"
 
 #include <cstdlib>
 
 namespace gns {
 
 std::string_view Environment_variable(const char* name) {
-  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nobody writes
+  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing here writes
   return value == nullptr ? "" : value;
 }
 
