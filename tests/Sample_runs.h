@@ -34,7 +34,8 @@ inline Run_summary Run_short_of_time(Run_parameters parameters, Com_result_table
   Read_links(start, links);
   bool approximation_needed = false;
   Run_summary summary;
-  Run_from_links(start, links, approximation_needed, summary, tables);
+  Run_from_links(start, links, approximation_needed, summary,
+                 tables == nullptr ? Table_pointers() : Pointers_to(*tables));
   EXPECT_EQ(approximation_needed, summary.approximate_cliques > 0);
   return summary;
 }

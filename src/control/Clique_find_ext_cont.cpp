@@ -46,6 +46,12 @@ std::string Report_variable::Text() const {
   return report ? report->Text() : std::string();
 }
 
+void Progress::Reset() {
+  for (std::atomic<std::uint64_t>* const figure :
+       {&cliques_found, &nodes_left, &failed_in_a_row, &k_cliques_found, &k_cliques_visited})
+    figure->store(0, std::memory_order_relaxed);
+}
+
 void End_by_stop() {
   CURRENT_STATE_REPORT = std::string(" Process stopped by user.\n");
   throw std::logic_error("Process stopped by user.\n");

@@ -46,6 +46,9 @@ struct Progress {
   std::atomic<std::uint64_t> failed_in_a_row = 0;    ///< attempts of a time-limited search
   std::atomic<std::uint64_t> k_cliques_found = 0;    ///< at the k at hand
   std::atomic<std::uint64_t> k_cliques_visited = 0;  ///< whole ones and parts of them
+
+  /// Back to zero, as at the start of a run.
+  void Reset();
 };
 extern Progress PROGRESS;
 

@@ -1,6 +1,8 @@
 #include "engine/Check_switches.h"
 
 #include <array>
+#include <cmath>
+#include <limits>
 
 #include "foundation/Errors.h"
 
@@ -15,9 +17,12 @@ bool Check_switches(bool use_time_limit, double time_limit, bool use_lower_thres
     const char* text;
   };
   const bool use_both_thresholds = use_lower_threshold && use_upper_threshold;
-  const std::array<Rule, 5> rules{{
-      {use_time_limit && time_limit <= 0.0,
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  const std::array<Rule, 6> rules{{
+      {use_time_limit && !(time_limit > 0.0),
        " The maximal allowed time per node must be positive.\n"},
+      {use_time_limit && time_limit == infinity,
+       " The maximal allowed time per node must be finite.\n"},
       {use_both_thresholds && lower_threshold >= upper_threshold,
        " The sepcified lower threshold is higher (or equal to) the upper threshold.\n"},
       {directed && use_intensity,
@@ -45,6 +50,10 @@ void Refuse_bad_parameters(const Run_parameters& p) {
   std::string errors;
   Check_switches(p.use_time_limit, p.time_limit, p.use_lower_threshold, p.use_upper_threshold,
                  p.lower_threshold, p.upper_threshold, p.directed, p.use_intensity, false, errors);
+  if ((p.use_lower_threshold && std::isnan(p.lower_threshold)) ||
+      (p.use_upper_threshold && std::isnan(p.upper_threshold)) ||
+      (p.use_intensity && std::isnan(p.intensity_threshold)))
+    errors += " A threshold must be a number.\n";
   if (p.use_intensity && p.use_single_k && p.single_k < least_k)
     errors +=
         " The k-clique size must be at least 3 when a link weight\n"

@@ -14,8 +14,8 @@ bool Check_switches(bool use_time_limit, double time_limit, bool use_lower_thres
                     std::string& errors);
 
 /// Refuses parameters that no run takes, before it has written anything: those that
-/// Check_switches() finds fault with, and a single k too small for the intensity method. Throws
-/// Xerror_msg with all findings.
+/// Check_switches() finds fault with, a threshold that isn't a number, and a single k too small for
+/// the intensity method. Throws Xerror_msg with all findings.
 void Refuse_bad_parameters(const Run_parameters& parameters);
 
 }  // namespace gns

@@ -26,25 +26,6 @@ struct Statistics {
   Distribution membership;
 };
 
-/// The tables of a set of distributions.
-struct Flavour {
-  using Tables = By_k<Distribution_table> Com_result_tables::*;
-  Tables membership;
-  Tables size;
-  Tables overlap;
-  Tables degree;
-};
-
-constexpr Flavour exact_flavour = {
-    &Com_result_tables::membership_dist_exact, &Com_result_tables::size_dist_exact,
-    &Com_result_tables::overlap_dist_exact, &Com_result_tables::degree_dist_exact};
-constexpr Flavour approximate_flavour = {
-    &Com_result_tables::membership_dist_appr, &Com_result_tables::size_dist_appr,
-    &Com_result_tables::overlap_dist_appr, &Com_result_tables::degree_dist_appr};
-constexpr Flavour merged_flavour = {
-    &Com_result_tables::membership_dist_merged, &Com_result_tables::size_dist_merged,
-    &Com_result_tables::overlap_dist_merged, &Com_result_tables::degree_dist_merged};
-
 Statistics Statistics_of(const Row_array<Node_index>& coms, std::uint32_t vertex_count) {
   Statistics s;
   Community_statistics(s.size, s.degree, s.overlap, s.membership, coms, vertex_count);
@@ -78,7 +59,7 @@ K_summary Extraction::At(std::uint32_t k) {
   Com_graph com_graph;
   Prepare_community_graph(com_graph, communities.coms);
   Kiir_com_graph_VL_ret(com_graph, communities.exact_com_count, input_.output_dir, k,
-                        input_.com_flag, input_.run_header, Table(&Com_result_tables::com_graphs));
+                        input_.com_flag, input_.run_header, input_.tables.com_graphs);
   Check_for_stop_signal();
   CURRENT_STATE_REPORT = " Calculating statistics...\n";
   const Distribution membership = Write_statistics(k, communities, com_graph);
@@ -101,7 +82,7 @@ const Communities& Extraction::Find_by_intensity(std::uint32_t k) {
   Generate_k_cls_from_cls_ec(cliques, k_cliques, k, input_.intensity_threshold);
   CURRENT_STATE_REPORT = "__________________________\n Writing k-clques to disk.\n";
   Kiir_k_cliques_VL_ret(input_.output_dir, k_cliques, k, input_.node_names, input_.run_header,
-                        Table(&Com_result_tables::k_cliques));
+                        input_.tables.k_cliques);
   Intensity_coms_from_k_cliques_ec(k_cliques, communities.coms, com_k_cliques, cliques.Logs(),
                                    input_.intensity_threshold);
   communities.exact_com_count = static_cast<std::uint32_t>(communities.size());
@@ -120,8 +101,8 @@ const Communities& Extraction::Find_by_overlap(std::uint32_t k) {
 void Extraction::Write_communities(std::uint32_t k, const Communities& communities) const {
   Kiir_coms_VL_ret(communities.coms, input_.output_dir, k, input_.node_names,
                    communities.exact_com_count, input_.com_flag, input_.run_header,
-                   Table(&Com_result_tables::communities));
-  auto* const com_links = Table(&Com_result_tables::com_links);
+                   input_.tables.communities);
+  auto* const com_links = input_.tables.com_links;
   if (input_.use_intensity) {
     Kiir_com_links_VL_ret(
         K_clique_com_links(by_intensity_->k_cliques, by_intensity_->com_k_cliques),
@@ -131,7 +112,7 @@ void Extraction::Write_communities(std::uint32_t k, const Communities& communiti
   }
   Kiir_coms_cliques_VL_ret(communities.com_cliques, input_.output_dir, k,
                            communities.exact_com_count, input_.exact_clique_count, input_.com_flag,
-                           input_.run_header, Table(&Com_result_tables::com_cliques));
+                           input_.run_header, input_.tables.com_cliques);
   Kiir_com_links_VL_ret(communities.com_links, input_.output_dir, k, input_.node_names,
                         communities.exact_com_count, input_.com_flag, input_.run_header, com_links,
                         input_.index_links);
@@ -142,19 +123,20 @@ void Extraction::Write_communities(std::uint32_t k, const Communities& communiti
 Distribution Extraction::Write_statistics(std::uint32_t k, const Communities& communities,
                                           const Com_graph& com_graph) const {
   const auto write = [&](const Statistics& s, const std::string& stat_flag,
-                         const Flavour& flavour) {
+                         const Statistics_tables& tables) {
     Kiir_stats_VL_ret(s.membership, s.size, s.overlap, s.degree, input_.output_dir, k,
-                      input_.com_flag, stat_flag, input_.run_header,
-                      {Table(flavour.membership), Table(flavour.size), Table(flavour.overlap),
-                       Table(flavour.degree)});
+                      input_.com_flag, stat_flag, input_.run_header, tables);
   };
+  const Table_pointers& t = input_.tables;
+  const Statistics_tables exact_tables = {t.membership_dist_exact, t.size_dist_exact,
+                                          t.overlap_dist_exact, t.degree_dist_exact};
   Statistics all;
   Community_statistics(all.size, all.degree, all.overlap, all.membership, communities.coms,
                        com_graph, input_.vertex_count);
   const std::size_t exact_count = communities.exact_com_count;
   if (communities.size() <= exact_count) {
     CURRENT_STATE_REPORT = " done.\n";
-    write(all, "", exact_flavour);
+    write(all, "", exact_tables);
     return all.membership;
   }
   const Statistics exact =
@@ -162,9 +144,12 @@ Distribution Extraction::Write_statistics(std::uint32_t k, const Communities& co
   const Statistics approximate = Statistics_of(
       Copy_rows(communities.coms, exact_count, communities.size()), input_.vertex_count);
   CURRENT_STATE_REPORT = " done.\n";
-  write(all, "_merged", merged_flavour);
-  write(exact, "_exact", exact_flavour);
-  write(approximate, "_appr", approximate_flavour);
+  write(
+      all, "_merged",
+      {t.membership_dist_merged, t.size_dist_merged, t.overlap_dist_merged, t.degree_dist_merged});
+  write(exact, "_exact", exact_tables);
+  write(approximate, "_appr",
+        {t.membership_dist_appr, t.size_dist_appr, t.overlap_dist_appr, t.degree_dist_appr});
   return all.membership;
 }
 
@@ -188,7 +173,7 @@ void Extract_coms_ec_ret(std::uint32_t k, const Clique_vector& cliques, const Ov
                          std::uint32_t max_clique_size) {
   Extraction({cliques, exact_clique_count, com_flag, run_header, output_dir, node_names,
               vertex_count, index_links, max_clique_size, use_intensity, intensity_threshold,
-              &tables})
+              Pointers_to(tables)})
       .At(k);
 }
 

@@ -29,8 +29,8 @@ struct Extraction_input {
   const Index_links& index_links;
   std::uint32_t max_clique_size;  ///< for the state report only
   bool use_intensity;
-  double intensity_threshold;           ///< read only if `use_intensity` is set
-  Com_result_tables* tables = nullptr;  ///< filled beside the files; null if nobody wants them
+  double intensity_threshold;  ///< read only if `use_intensity` is set
+  Table_pointers tables = {};  ///< filled beside the files
 };
 
 /// Finds the communities at one k after the other, best with k descending, and writes their files.
@@ -49,12 +49,6 @@ class Extraction {
   void Write_communities(std::uint32_t k, const Communities& communities) const;
   Distribution Write_statistics(std::uint32_t k, const Communities& communities,
                                 const Com_graph& com_graph) const;
-
-  /// One of the tables; null if nobody wants them.
-  template <typename Table_type>
-  Table_type* Table(Table_type Com_result_tables::*table) const {
-    return input_.tables == nullptr ? nullptr : &(input_.tables->*table);
-  }
 
   /// What the intensity method works from, and what it has found at one k.
   struct By_intensity {

@@ -1,5 +1,8 @@
 #include "engine/Find_coms.h"
 
+#include <functional>
+
+#include "control/Clique_find_ext_cont.h"
 #include "engine/Check_switches.h"
 #include "engine/Own_input.h"
 #include "engine/Run_message.h"
@@ -11,7 +14,9 @@ namespace gns {
 namespace {
 
 void Run(const Run_parameters& parameters, bool& approximation_needed, Run_summary& summary,
-         Com_result_tables* tables) {
+         const Table_pointers& tables) {
+  summary = {};
+  external_control::PROGRESS.Reset();
   Refuse_bad_parameters(parameters);
   Refuse_own_input(parameters.input_file, parameters.output_dir);
   Check_out_dir(parameters.output_dir);
@@ -29,11 +34,14 @@ std::string Find_coms(const std::string& input_file, const std::string& output_d
                       double upper_threshold, bool directed, bool use_intensity,
                       double intensity_threshold, bool use_time_limit, double time_limit,
                       bool use_single_k, std::uint32_t single_k, bool& approximation_needed) {
-  Run_summary summary;
-  return Find_coms({input_file, output_dir, use_lower_threshold, lower_threshold,
-                    use_upper_threshold, upper_threshold, directed, use_intensity,
-                    intensity_threshold, use_time_limit, time_limit, use_single_k, single_k},
-                   approximation_needed, summary);
+  const auto work = [&] {
+    Run_summary summary;
+    Run({input_file, output_dir, use_lower_threshold, lower_threshold, use_upper_threshold,
+         upper_threshold, directed, use_intensity, intensity_threshold, use_time_limit, time_limit,
+         use_single_k, single_k},
+        approximation_needed, summary, {});
+  };
+  return Message_of(std::cref(work));
 }
 
 std::string Find_coms(
@@ -50,23 +58,27 @@ std::string Find_coms(
     By_k<Distribution_table>& membership_dist_appr, By_k<Distribution_table>& size_dist_merged,
     By_k<Distribution_table>& degree_dist_merged, By_k<Distribution_table>& overlap_dist_merged,
     By_k<Distribution_table>& membership_dist_merged) {
-  const auto run = [&](Com_result_tables& tables) {
+  const auto work = [&] {
     Run_summary summary;
-    return Find_coms({input_file, output_dir, use_lower_threshold, lower_threshold,
-                      use_upper_threshold, upper_threshold, directed, use_intensity,
-                      intensity_threshold, use_time_limit, time_limit, use_single_k, single_k},
-                     approximation_needed, summary, &tables);
+    Run({input_file, output_dir, use_lower_threshold, lower_threshold, use_upper_threshold,
+         upper_threshold, directed, use_intensity, intensity_threshold, use_time_limit, time_limit,
+         use_single_k, single_k},
+        approximation_needed, summary,
+        {&graph_links, &cliques, &k_cliques, &communities, &com_links, &com_cliques, &com_graphs,
+         &size_dist_exact, &degree_dist_exact, &overlap_dist_exact, &membership_dist_exact,
+         &size_dist_appr, &degree_dist_appr, &overlap_dist_appr, &membership_dist_appr,
+         &size_dist_merged, &degree_dist_merged, &overlap_dist_merged, &membership_dist_merged});
   };
-  return With_tables_as_record(
-      run, graph_links, cliques, k_cliques, communities, com_links, com_cliques, com_graphs,
-      size_dist_exact, degree_dist_exact, overlap_dist_exact, membership_dist_exact, size_dist_appr,
-      degree_dist_appr, overlap_dist_appr, membership_dist_appr, size_dist_merged,
-      degree_dist_merged, overlap_dist_merged, membership_dist_merged);
+  return Message_of(std::cref(work));
 }
 
 std::string Find_coms(const Run_parameters& parameters, bool& approximation_needed,
                       Run_summary& summary, Com_result_tables* tables) {
-  return Message_of([&] { Run(parameters, approximation_needed, summary, tables); });
+  const auto work = [&] {
+    Run(parameters, approximation_needed, summary,
+        tables == nullptr ? Table_pointers() : Pointers_to(*tables));
+  };
+  return Message_of(std::cref(work));
 }
 
 }  // namespace gns

@@ -1,5 +1,7 @@
 #include "engine/Load_coms.h"
 
+#include <functional>
+
 #include "engine/Run_message.h"
 #include "files/Results_reader.h"
 
@@ -7,7 +9,7 @@ namespace gns {
 
 namespace {
 
-void Load(const std::string& results_dir, std::uint32_t load_mode, Com_result_tables& tables,
+void Load(const std::string& results_dir, std::uint32_t load_mode, const Table_pointers& tables,
           std::string& errors) {
   const char* specifier = load_mode == 1 ? "directed" : load_mode == 2 ? "intensity" : "";
   Read_coms(results_dir, specifier, tables, errors);
@@ -17,7 +19,8 @@ void Load(const std::string& results_dir, std::uint32_t load_mode, Com_result_ta
 
 std::string Load_coms(const std::string& results_dir, std::uint32_t load_mode,
                       Com_result_tables& tables, std::string& errors) {
-  return Message_of([&] { Load(results_dir, load_mode, tables, errors); });
+  const auto work = [&] { Load(results_dir, load_mode, Pointers_to(tables), errors); };
+  return Message_of(std::cref(work));
 }
 
 std::string Load_coms(
@@ -31,14 +34,15 @@ std::string Load_coms(
     By_k<Distribution_table>& membership_dist_appr, By_k<Distribution_table>& size_dist_merged,
     By_k<Distribution_table>& degree_dist_merged, By_k<Distribution_table>& overlap_dist_merged,
     By_k<Distribution_table>& membership_dist_merged, std::string& errors) {
-  const auto load = [&](Com_result_tables& tables) {
-    return Load_coms(results_dir, load_mode, tables, errors);
+  const auto work = [&] {
+    Load(results_dir, load_mode,
+         {&graph_links, &cliques, &k_cliques, &communities, &com_links, &com_cliques, &com_graphs,
+          &size_dist_exact, &degree_dist_exact, &overlap_dist_exact, &membership_dist_exact,
+          &size_dist_appr, &degree_dist_appr, &overlap_dist_appr, &membership_dist_appr,
+          &size_dist_merged, &degree_dist_merged, &overlap_dist_merged, &membership_dist_merged},
+         errors);
   };
-  return With_tables_as_record(
-      load, graph_links, cliques, k_cliques, communities, com_links, com_cliques, com_graphs,
-      size_dist_exact, degree_dist_exact, overlap_dist_exact, membership_dist_exact, size_dist_appr,
-      degree_dist_appr, overlap_dist_appr, membership_dist_appr, size_dist_merged,
-      degree_dist_merged, overlap_dist_merged, membership_dist_merged);
+  return Message_of(std::cref(work));
 }
 
 }  // namespace gns

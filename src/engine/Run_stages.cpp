@@ -72,11 +72,11 @@ void Open_results(Run_start& start) {
 }
 
 void Run_from_links(const Run_start& start, Link_map& links, bool& approximation_needed,
-                    Run_summary& summary, Com_result_tables* tables) {
+                    Run_summary& summary, const Table_pointers& tables) {
   const Run_parameters& parameters = start.parameters;
   start.mark->Check();
   Kiir_graph_ret(links, parameters.output_dir, parameters.directed, start.run_header,
-                 start.weighted, tables == nullptr ? nullptr : &tables->graph_links);
+                 start.weighted, tables.graph_links);
   CURRENT_STATE_REPORT = "_______________\n Links read OK.\n";
   Check_for_stop_signal();
 
@@ -111,13 +111,13 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
                   overlap_matrix, dir_vtx_map, vtx_map, exact_clique_count, approximation_needed);
   Summarize(cliques, exact_clique_count, summary);
   // With tables the poll comes behind the report.
-  if (tables == nullptr) Check_for_stop_signal();
+  const bool with_tables = tables.cliques != nullptr;
+  if (!with_tables) Check_for_stop_signal();
   CURRENT_STATE_REPORT = "___________________________\n Writing cliques to disk...\n";
-  if (tables != nullptr) Check_for_stop_signal();
+  if (with_tables) Check_for_stop_signal();
   start.mark->Check();
   Kiir_cliques_VL_ret(parameters.output_dir, cliques, node_names, exact_clique_count,
-                      start.com_flag, start.run_header,
-                      tables == nullptr ? nullptr : &tables->cliques);
+                      start.com_flag, start.run_header, tables.cliques);
   CURRENT_STATE_REPORT = " done.\n";
   Check_for_stop_signal();
 

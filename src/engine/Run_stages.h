@@ -35,8 +35,8 @@ void Read_links(const Run_start& start, Link_map& links);
 void Open_results(Run_start& start);
 
 /// Everything behind the reading of the links, into results that are open; `links` is emptied on
-/// the way. `tables`, if there are any, are filled beside the files. Throws what its stages throw.
+/// the way. The tables that are wanted are filled beside the files. Throws what its stages throw.
 void Run_from_links(const Run_start& start, Link_map& links, bool& approximation_needed,
-                    Run_summary& summary, Com_result_tables* tables = nullptr);
+                    Run_summary& summary, const Table_pointers& tables = {});
 
 }  // namespace gns

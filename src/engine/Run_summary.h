@@ -14,7 +14,7 @@ struct K_summary {
   std::uint32_t nodes_covered = 0;  ///< nodes in at least one community
 };
 
-/// What a run found, filled in as it goes on.
+/// What a run found, filled in as it goes on. A run first empties it.
 struct Run_summary {
   std::uint32_t nodes = 0;
   std::size_t links = 0;

@@ -66,17 +66,32 @@ inline auto All_tables(Com_result_tables& t) {
                   t.degree_dist_merged, t.overlap_dist_merged, t.membership_dist_merged);
 }
 
-/// Calls use(record) with the nineteen tables, given one by one in their order, as one record. They
-/// are in the record while the call lasts.
-template <typename Use, typename... Tables>
-auto With_tables_as_record(Use use, Tables&... tables) {
-  Com_result_tables record;
-  auto all = All_tables(record);
-  auto given = std::tie(tables...);
-  all.swap(given);
-  auto result = use(record);
-  all.swap(given);
-  return result;
+/// Where the nineteen tables are; null where nobody wants one. One that stands at several places
+/// is filled from each of them, in the order of filling.
+struct Table_pointers {
+  Name_pairs* graph_links = nullptr;
+  Names_by_index* cliques = nullptr;
+  By_k<Names_by_index>* k_cliques = nullptr;
+  By_k<Names_by_index>* communities = nullptr;
+  By_k<Links_by_index>* com_links = nullptr;
+  By_k<Indices_by_index>* com_cliques = nullptr;
+  By_k<Overlap_table>* com_graphs = nullptr;
+  By_k<Distribution_table>* size_dist_exact = nullptr;
+  By_k<Distribution_table>* degree_dist_exact = nullptr;
+  By_k<Distribution_table>* overlap_dist_exact = nullptr;
+  By_k<Distribution_table>* membership_dist_exact = nullptr;
+  By_k<Distribution_table>* size_dist_appr = nullptr;
+  By_k<Distribution_table>* degree_dist_appr = nullptr;
+  By_k<Distribution_table>* overlap_dist_appr = nullptr;
+  By_k<Distribution_table>* membership_dist_appr = nullptr;
+  By_k<Distribution_table>* size_dist_merged = nullptr;
+  By_k<Distribution_table>* degree_dist_merged = nullptr;
+  By_k<Distribution_table>* overlap_dist_merged = nullptr;
+  By_k<Distribution_table>* membership_dist_merged = nullptr;
+};
+
+inline Table_pointers Pointers_to(Com_result_tables& tables) {
+  return std::apply([](auto&... table) { return Table_pointers{&table...}; }, All_tables(tables));
 }
 
 }  // namespace gns

@@ -52,28 +52,28 @@ bool K_of_dir(const Dir_entry& entry, std::uint32_t& k) {
 }
 
 void Read_at(std::uint32_t k, const std::string& dir, const std::string& specifier,
-             Com_result_tables& t, std::string& errors) {
+             const Table_pointers& t, std::string& errors) {
   const auto in_dir = [&](const char* base_name) {
     return results_names::In_dir_of_k(dir, specifier, base_name);
   };
   const auto by_index = [](auto& table, const std::string& name) { Read_by_index(table, name); };
   const auto by_lines = [](auto& table, const std::string& name) { Read_by_lines(table, name); };
-  Guarded_at(k, t.communities, by_index, in_dir("communities"), errors);
-  Guarded_at(k, t.com_links, Read_com_links, in_dir("communities_links"), errors);
+  Guarded_at(k, *t.communities, by_index, in_dir("communities"), errors);
+  Guarded_at(k, *t.com_links, Read_com_links, in_dir("communities_links"), errors);
   if (specifier == "intensity")
-    Guarded_at(k, t.k_cliques, by_index, results_names::K_cliques(dir), errors);
+    Guarded_at(k, *t.k_cliques, by_index, results_names::K_cliques(dir), errors);
   else
-    Guarded_at(k, t.com_cliques, by_index, in_dir("communities_cliques"), errors);
-  Guarded_at(k, t.com_graphs, by_lines, results_names::Graph_of_communities(dir, specifier),
+    Guarded_at(k, *t.com_cliques, by_index, in_dir("communities_cliques"), errors);
+  Guarded_at(k, *t.com_graphs, by_lines, results_names::Graph_of_communities(dir, specifier),
              errors);
-  Read_VL_dists(in_dir("size_distribution"), k, t.size_dist_exact, t.size_dist_appr,
-                t.size_dist_merged, errors);
-  Read_VL_dists(in_dir("degree_distribution"), k, t.degree_dist_exact, t.degree_dist_appr,
-                t.degree_dist_merged, errors);
-  Read_VL_dists(in_dir("overlap_distribution"), k, t.overlap_dist_exact, t.overlap_dist_appr,
-                t.overlap_dist_merged, errors);
-  Read_VL_dists(in_dir("membership_distribution"), k, t.membership_dist_exact,
-                t.membership_dist_appr, t.membership_dist_merged, errors);
+  Read_VL_dists(in_dir("size_distribution"), k, *t.size_dist_exact, *t.size_dist_appr,
+                *t.size_dist_merged, errors);
+  Read_VL_dists(in_dir("degree_distribution"), k, *t.degree_dist_exact, *t.degree_dist_appr,
+                *t.degree_dist_merged, errors);
+  Read_VL_dists(in_dir("overlap_distribution"), k, *t.overlap_dist_exact, *t.overlap_dist_appr,
+                *t.overlap_dist_merged, errors);
+  Read_VL_dists(in_dir("membership_distribution"), k, *t.membership_dist_exact,
+                *t.membership_dist_appr, *t.membership_dist_merged, errors);
 }
 
 /// The index of the block that a line "INDEX:" opens.
@@ -97,14 +97,14 @@ void Take_link(std::string_view line, Name_pairs& links) {
 }  // namespace
 
 void Read_coms(const std::string& results_dir, const std::string& specifier,
-               Com_result_tables& tables, std::string& errors) {
+               const Table_pointers& tables, std::string& errors) {
   if (specifier != "" && specifier != "directed" && specifier != "intensity") {
     errors = "ERROR: unknown specifier '" + specifier + "' received.\n";
     return;
   }
-  Guarded([&](const std::string& name) { Read_by_lines(tables.graph_links, name); },
+  Guarded([&](const std::string& name) { Read_by_lines(*tables.graph_links, name); },
           results_names::Graph(results_dir, specifier == "directed"), errors);
-  Guarded([&](const std::string& name) { Read_by_index(tables.cliques, name); },
+  Guarded([&](const std::string& name) { Read_by_index(*tables.cliques, name); },
           results_names::Cliques(results_dir, specifier), errors);
   for (const Dir_entry& entry : List_dir(results_dir)) {
     std::uint32_t k = 0;

@@ -7,15 +7,20 @@
 
 namespace gns {
 
-/// Fills the tables from a results directory. `specifier` names the kind of run that wrote it:
-/// "directed", "intensity" or nothing; for anything else `errors` is replaced by a message and no
-/// table is touched. The clique sizes are those of its subdirectories "k=NUMBER".
+/// Fills the tables, none of which may be missing, from a results directory. `specifier` names the
+/// kind of run that wrote it: "directed", "intensity" or nothing; for anything else `errors` is
+/// replaced by a message and no table is touched. The clique sizes are those of its subdirectories
+/// "k=NUMBER".
 ///
 /// A file that is missing or damaged stops only the reading of that file: a report is appended to
 /// `errors`, and what was read before the fault is kept. Throws Xerror_msg if the directory can't
 /// be listed.
 void Read_coms(const std::string& results_dir, const std::string& specifier,
-               Com_result_tables& tables, std::string& errors);
+               const Table_pointers& tables, std::string& errors);
+inline void Read_coms(const std::string& results_dir, const std::string& specifier,
+                      Com_result_tables& tables, std::string& errors) {
+  Read_coms(results_dir, specifier, Pointers_to(tables), errors);
+}
 
 /// Reads a distribution at k. The file `base_name` is that of a k without approximate communities
 /// and goes into the exact table; only if there is no such file, the three with "_exact", "_appr"

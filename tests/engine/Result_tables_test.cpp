@@ -78,6 +78,36 @@ TEST(ResultTables, OneByOne) {
   EXPECT_TRUE(run == loaded);
 }
 
+/// One table for all that it can stand for: what is told last at a k is what stays there, in the
+/// order in which a run writes and a reload reads.
+TEST(ResultTables, OneTableForMany) {
+  const Temp_dir temp;
+  Com_result_tables own;
+  const Sample_run sample = Sample_runs().back();  // has k-cliques
+  sample.Run(temp.Path("own"), &own);
+  Com_result_tables t;
+  auto& names = t.communities;
+  auto& dist = t.size_dist_exact;
+  bool approximation_needed = false;
+  EXPECT_EQ(
+      Find_coms(Sample_links(sample.name), temp.Path("out"), false, 0, false, 0, false, true,
+                sample.parameters.intensity_threshold, false, 0, false, 0, approximation_needed,
+                t.graph_links, t.cliques, names, names, t.com_links, t.com_cliques, t.com_graphs,
+                dist, dist, dist, dist, dist, dist, dist, dist, dist, dist, dist, dist),
+      run_finished);
+  EXPECT_EQ(names, own.communities);
+  EXPECT_EQ(dist, own.degree_dist_exact);
+  EXPECT_EQ(t.com_links, own.com_links);
+
+  std::string errors;
+  EXPECT_EQ(Load_coms(temp.Path("own"), sample.load_mode, t.graph_links, t.cliques, names, names,
+                      t.com_links, t.com_cliques, t.com_graphs, dist, dist, dist, dist, dist, dist,
+                      dist, dist, dist, dist, dist, dist, errors),
+            run_finished);
+  EXPECT_EQ(names, own.k_cliques);
+  EXPECT_EQ(dist, own.membership_dist_exact);
+}
+
 /// A link whose line begins with the name #x reads as a comment.
 TEST(ResultTables, ALinkBehindAHashIsNotReadBack) {
   const Temp_dir temp;

@@ -160,6 +160,46 @@ TEST_F(SmallRun, ARefusalWritesNothing) {
   EXPECT_TRUE(approximation_needed_);  // left alone
 }
 
+TEST_F(SmallRun, NumbersThatAreNone) {
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  constexpr double none = std::numeric_limits<double>::quiet_NaN();
+  using P = Run_parameters;
+  const std::tuple<bool P::*, double P::*, double, std::string> cases[] = {
+      {&P::use_time_limit, &P::time_limit, none,
+       " The maximal allowed time per node must be positive.\n"},
+      {&P::use_time_limit, &P::time_limit, -infinity,
+       " The maximal allowed time per node must be positive.\n"},
+      {&P::use_time_limit, &P::time_limit, infinity,
+       " The maximal allowed time per node must be finite.\n"},
+      {&P::use_lower_threshold, &P::lower_threshold, none, " A threshold must be a number.\n"},
+      {&P::use_upper_threshold, &P::upper_threshold, none, " A threshold must be a number.\n"},
+      {&P::use_intensity, &P::intensity_threshold, none, " A threshold must be a number.\n"}};
+  for (const auto& [use, value, number, text] : cases) {
+    parameters_ = {parameters_.input_file, temp_.Path("none")};
+    parameters_.*use = true;
+    parameters_.*value = number;
+    EXPECT_EQ(Run(), "The following error(s) occured:\n" + text + "\n");
+    parameters_.*use = false;
+    EXPECT_EQ(Run(), run_finished);  // a value that isn't used may be anything
+    fs::remove_all(parameters_.output_dir);
+  }
+}
+
+TEST_F(SmallRun, FindsNothingOfTheRunBefore) {
+  Run_summary summary;
+  const auto run = [&](const std::string& input, const std::string& out) {
+    return Find_coms({input, temp_.Path(out)}, approximation_needed_, summary);
+  };
+  for (const std::string out : {"first", "second"}) {
+    EXPECT_EQ(run(Sample_links("overlapping"), out), run_finished);
+    EXPECT_EQ(summary.extractions.size(), summary.cliques_of_size.size() - 3);
+    EXPECT_GT(external_control::PROGRESS.cliques_found, 0U);
+  }
+  EXPECT_NE(run(temp_.Path("missing"), "third"), run_finished);
+  EXPECT_EQ(summary.links + summary.exact_cliques + summary.extractions.size(), 0U);
+  EXPECT_EQ(external_control::PROGRESS.cliques_found, 0U);
+}
+
 TEST_F(SmallRun, AFailureLeavesWhatWasWrittenAndTheMark) {
   const std::string wrong_line = "ERROR: Wrong line found in ' the file I was reading' :\n";
   const std::string missing = temp_.Path("missing");
