@@ -17,14 +17,6 @@ namespace gns {
 
 namespace {
 
-/// Throws if nothing stands at the path, not even a symbolic link that points nowhere.
-void Refuse_missing(const std::string& operation, const std::string& path) {
-  struct stat status {};
-  if (lstat(path.c_str(), &status) == 0) return;
-  const int error = errno;
-  throw Xerror_msg("ERROR: " + operation + "() called on " + path + " and \n" + Dir_error(error));
-}
-
 bool Is_link(const std::string& path) {
   struct stat status {};
   return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);

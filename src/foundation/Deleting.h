@@ -4,8 +4,9 @@
 
 namespace gns {
 
-/// A symbolic link is deleted itself, also one that points nowhere. What it points to survives,
-/// whether the link was given or stands in a tree that is deleted.
+/// A symbolic link is deleted itself. What it points to survives, whether the link was given or
+/// stands in a tree that is deleted. One that points nowhere doesn't exist for those that look at
+/// the path first (Del_...); Unlink_file deletes it.
 
 /// Deletes anything but a directory.
 void Unlink_file(const std::string& path);

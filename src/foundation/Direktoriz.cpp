@@ -81,6 +81,12 @@ std::optional<std::string> Type_of_entry(const std::string& path, const std::str
   throw Xerror_msg("ERROR: problem with " + name + " in List_dir():\n" + error_text);
 }
 
+/// True if something has the name, be it a symbolic link that points nowhere.
+bool Is_taken(const std::string& path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0;
+}
+
 /// What stands in a directory, sorted by name; `get_status` tells the types.
 std::vector<Dir_entry> Entries(const std::string& path, Status_call get_status) {
   std::vector<Dir_entry> entries;
@@ -117,6 +123,12 @@ bool Is_there_such_path(const std::string& path, std::string& error_text) {
 bool Is_there_such_path(const std::string& path) {
   std::string error_text;
   return Is_there_such_path(path, error_text);
+}
+
+void Refuse_missing(const std::string& operation, const std::string& path) {
+  std::string error_text;
+  if (Is_there_such_path(path, error_text)) return;
+  throw Xerror_msg("ERROR: " + operation + "() called on " + path + " and \n" + error_text);
 }
 
 bool Is_there_such_dir(const std::string& path, bool& empty, std::string& error_text) {
@@ -172,7 +184,7 @@ void Rename_the_path(const std::string& old_path, const std::string& new_path) {
 
 void Rename_auto(const std::string& path) {
   std::string candidate;
-  for (unsigned n = 1; candidate.empty() || Is_there_such_path(candidate); ++n) {
+  for (unsigned n = 1; candidate.empty() || Is_taken(candidate); ++n) {
     candidate = path + std::to_string(n);
   }
   Rename_the_path(path, candidate);

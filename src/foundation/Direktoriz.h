@@ -21,6 +21,9 @@ bool Is_there_such_path(const std::string& path, std::string& type, bool& empty,
 bool Is_there_such_path(const std::string& path, std::string& error_text);
 bool Is_there_such_path(const std::string& path);
 
+/// Throws if the path doesn't exist, with words for the operation that was called on it.
+void Refuse_missing(const std::string& operation, const std::string& path);
+
 /// True if the path exists and is a directory; else `error_text` says why not.
 bool Is_there_such_dir(const std::string& path, bool& empty, std::string& error_text);
 bool Is_there_such_dir(const std::string& path);
@@ -41,7 +44,8 @@ std::vector<Dir_entry> List_dir_rec(const std::string& path);
 
 void Rename_the_path(const std::string& old_path, const std::string& new_path);
 
-/// Moves a path aside: its new name is the first of path1, path2, ... that doesn't exist.
+/// Moves a path aside: its new name is the first of path1, path2, ... that nothing has, not even a
+/// symbolic link that points nowhere.
 void Rename_auto(const std::string& path);
 
 /// Makes a directory with all its missing parents.

@@ -195,19 +195,25 @@ TEST_F(InPlace, LinksAreDeletedButNeverFollowed) {
   const std::string without_n = tree + " f g l to_d";
   const std::string links = " n n/m n/m/l n/m/to_d n/m/to_f n/m/to_n n/to_d";
   const std::string without_to_d = tree + " f g l" + links;
-  const std::string without_l = tree + " f g" + links + " to_d";
-  std::vector<Case> cases{{[] { Delete_dir("n"); }, fine, without_n},
-                          {[] { Del_path("n/"); }, fine, without_n},
-                          {[] { Delete_dir("to_d"); }, fine, without_to_d},
-                          {[] { Del_path("to_d//"); }, fine, without_to_d},
-                          {[] { Del_file("to_d", "force"); }, fine, without_to_d},
-                          {[] { Dir_prepare("to_d", "clear"); }, fine, without_to_d + " to_d"},
-                          {[] { Del_path("l"); }, fine, without_l},
-                          {[] { Del_dir("l", "force"); }, fine, without_l},
-                          {[] { Del_file("l"); }, fine, without_l}};
+  const std::string all_links = tree + " f g l" + links + " to_d";
+  const std::string missing = " called on l and \n" + Dir_error(ENOENT);
+  std::vector<Case> cases{
+      {[] { Delete_dir("n"); }, fine, without_n},
+      {[] { Del_path("n/"); }, fine, without_n},
+      {[] { Delete_dir("to_d"); }, fine, without_to_d},
+      {[] { Del_path("to_d//"); }, fine, without_to_d},
+      {[] { Del_file("to_d", "force"); }, fine, without_to_d},
+      {[] { Dir_prepare("to_d", "clear"); }, fine, without_to_d + " to_d"},
+      {[] { Unlink_file("l"); }, fine, tree + " f g" + links + " to_d"},
+      {[] { Del_path("l"); }, "ERROR: Del_path()" + missing, all_links},
+      {[] { Del_dir("l"); }, "ERROR: Del_dir()" + missing, all_links},
+      {[] { Del_file("l"); }, "ERROR: Del_file()" + missing, all_links},
+      {[] { Rename_path("l", "h"); }, "ERROR: Rename_path()" + missing, all_links},
+      {[] { Rename_path("f", "l"); }, fine, tree + " g l=f" + links + " to_d"},
+      {[] { Rename_the_path("l", "f1"), Rename_auto("f"); }, fine,
+       tree + " f1 f2=f g" + links + " to_d"}};
   cases.push_back({[] { Make_dir("l"); },
-                   "ERROR: Make_dir() called with l and \n" + Dir_error(EEXIST),
-                   tree + " f g l" + links + " to_d"});
+                   "ERROR: Make_dir() called with l and \n" + Dir_error(EEXIST), all_links});
   for (Case& c : cases) {
     c.operation = [this, operation = c.operation] {
       fs::create_directories("n/m");
