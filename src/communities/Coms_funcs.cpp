@@ -5,6 +5,7 @@
 
 #include "communities/Percolation.h"
 #include "foundation/My_double2string.h"
+#include "foundation/My_int2string.h"
 
 namespace gns {
 
@@ -35,12 +36,12 @@ void Report_com_export(std::uint32_t k, std::uint32_t max_clique_size, std::ostr
   const double done =
       100.0 * ((max_clique_size - k) + 0.5) / (static_cast<double>(max_clique_size) - 2);
   stream << std::string(Num_width(k) + rule_without_k, '_') << "\n"
-         << " Extracting communities at k=" << k << " (completed " << double2string(done, 2)
-         << "%)\n";
+         << " Extracting communities at k=" << int2string(k) << " (completed "
+         << double2string(done, 2) << "%)\n";
 }
 
 std::uint32_t Num_width(std::uint32_t k) {
-  return static_cast<std::uint32_t>(std::to_string(k).size());
+  return static_cast<std::uint32_t>(int2string(k).size());
 }
 
 }  // namespace Coms_report_sub

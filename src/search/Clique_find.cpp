@@ -3,6 +3,7 @@
 #include "search/Core_cliques.h"
 #include "search/Directed_search.h"
 #include "search/Left_map.h"
+#include "search/Queue_search.h"
 #include "search/Undirected_search.h"
 
 namespace gns {
@@ -36,6 +37,7 @@ void Find_cliques_ec(const Time_limit* time_limit, bool directed, Clique_vector&
     Clique_vector core;
     Appr_core_cliques_ec(left_map, cliques, core);
     Extend_clique_vec(cliques, exact_clique_count, core);
+    Refuse_more_than(most_numbered_cliques, cliques);
     Extend_ovlp_matr_ec(overlap_matrix, cliques, exact_clique_count);
   }
   approximation_needed = exact_clique_count < cliques.size();

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "foundation/My_double2string.h"
+#include "foundation/My_int2string.h"
 
 namespace gns {
 
@@ -21,7 +22,7 @@ namespace {
 void Report_remaining(const std::string& unit, std::uint32_t remaining, std::uint32_t total,
                       std::ostream& stream) {
   const double done = 100.0 * (total - remaining) / total;
-  stream << " " << remaining << " of " << total << " " << unit << " to do ("
+  stream << " " << int2string(remaining) << " of " << int2string(total) << " " << unit << " to do ("
          << double2string(done, 2) << "% done)\n";
 }
 
@@ -43,8 +44,8 @@ void Report_progress(const std::string& title, const std::string& second_title,
 
 void Report_hard_node(std::uint32_t node, std::uint32_t skipped, std::uint32_t total,
                       std::ostream& stream) {
-  stream << " Exceeded allowed time at node no." << node << ",\n skipping, " << skipped
-         << " out of " << total << " skipped in a row, ("
+  stream << " Exceeded allowed time at node no." << int2string(node) << ",\n skipping, "
+         << int2string(skipped) << " out of " << int2string(total) << " skipped in a row, ("
          << double2string(100.0 * skipped / total, 2) << "%)\n";
 }
 
@@ -55,7 +56,7 @@ void Report_all_rem_nodes_to_hard(const std::string& unit, std::ostream& stream)
 }
 
 void Report_clique_search_end(const std::string& unit, std::uint32_t count, std::ostream& stream) {
-  const std::string line = " Altogether " + std::to_string(count) + " " + unit + " found.";
+  const std::string line = " Altogether " + int2string(count) + " " + unit + " found.";
   stream << Rule(line.size()) << line << "\n";
 }
 

@@ -9,7 +9,8 @@
 
 namespace gns {
 
-/// The texts by which a running stage tells what it is doing. Every line ends in a newline.
+/// The texts by which a running stage tells what it is doing. Every line ends in a newline. Numbers
+/// are plain decimal whatever the flags and the locale of the stream.
 namespace Clique_find_report_sub_routines {
 
 /// A rule, the title, and how many of `total` units remain.

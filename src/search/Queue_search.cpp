@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "control/Clique_find_ext_cont.h"
+#include "foundation/Errors.h"
 #include "foundation/My_double2string.h"
 #include "search/Clique_reports.h"
 #include "search/Hard_cliques.h"
@@ -105,9 +106,14 @@ void Note_progress(std::size_t cliques, std::uint32_t nodes_left, std::uint32_t 
 
 }  // namespace
 
+void Refuse_more_than(std::size_t most_cliques, const Clique_vector& cliques) {
+  if (cliques.size() > most_cliques)
+    throw Xerror_msg("ERROR: there are more cliques than can be numbered.\n");
+}
+
 std::vector<Node_index> Search_queue(Node_search& search, const Node_order& order,
                                      const Search_kind& kind, const Time_limit* limit,
-                                     Clique_vector& cliques) {
+                                     Clique_vector& cliques, std::size_t most_cliques) {
   cliques.clear();
   Hard_cliques hard_cliques;
   Node_queue queue(order, kind, limit);
@@ -125,12 +131,14 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
       hard_cliques.Take_from(cliques, recorded);
       queue.Put_back(node);
     }
+    Refuse_more_than(most_cliques, cliques);
     Note_progress(cliques.size(), queue.Size(), queue.Skipped());
   }
   if (limit != nullptr) Attempt::Check_for_stop();
   Note_progress(cliques.size(), 0, 0);
   std::vector<Node_index> left = queue.Left();
   if (!left.empty()) hard_cliques.Record(cliques);
+  Refuse_more_than(most_cliques, cliques);
   Report_end(kind, limit, left.empty(), cliques);
   return left;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -12,6 +14,12 @@
 #include "search/Overlap_matrix.h"
 
 namespace gns {
+
+/// All that a Clique_index, and a count of such, can tell apart.
+constexpr std::size_t most_numbered_cliques = std::numeric_limits<Clique_index>::max();
+
+/// Throws Xerror_msg if there are more cliques than that.
+void Refuse_more_than(std::size_t most_cliques, const Clique_vector& cliques);
 
 /// What a search is called in its reports.
 struct Search_kind {
@@ -29,9 +37,11 @@ struct Search_kind {
 /// lexicographic order, unless they were recorded already.
 ///
 /// Yields the nodes given up, ascending. Keeps the state report up to date and polls the stop flag.
+/// Throws Xerror_msg as soon as there are more than `most_cliques`.
 std::vector<Node_index> Search_queue(Node_search& search, const Node_order& order,
                                      const Search_kind& kind, const Time_limit* limit,
-                                     Clique_vector& cliques);
+                                     Clique_vector& cliques,
+                                     std::size_t most_cliques = most_numbered_cliques);
 
 /// The whole of a search: yields what was given up as a subgraph of `neighs`, and makes the matrix
 /// a view of `cliques`, of those recorded so far if a stop ends it.

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "Literal_search.h"
+#include "Odd_stream.h"
 #include "Random_graphs.h"
 #include "communities/Coms_funcs.h"
 #include "control/Clique_find_ext_cont.h"
@@ -186,7 +187,7 @@ TEST(ComsFuncs, NoRowsNoCommunities) {
 }
 
 TEST(ComsFuncs, ReportAndSizes) {
-  std::ostringstream text;
+  std::ostringstream text = Odd_stream();
   Coms_report_sub::Report_com_export(5, 5, text);
   Coms_report_sub::Report_com_export(10, 31, text);
   EXPECT_EQ(text.str(),

@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "Literal_search.h"
+#include "Odd_stream.h"
 #include "Random_graphs.h"
+#include "Thrown_message.h"
 #include "control/Clique_find_ext_cont.h"
 #include "search/Clique_reports.h"
 #include "search/Core_cliques.h"
@@ -78,15 +80,33 @@ TEST(TimeLimit, QueueOfHardNodes) {
   EXPECT_EQ(literal::Sets_of(cliques), expected);
 }
 
+/// With room for as many as are found, with too little at a node, and with too little at the end,
+/// when what failed attempts have found comes in.
+TEST(TimeLimit, NoMoreCliquesThanNumbers) {
+  const std::vector<Planned_attempt> plan = {
+      {1, false, {{1, 2, 3}, {1, 2, 4}}, "2 of 2 nodes to do (0.00"},
+      {2, true, {{2, 5, 6}}, "1 of 2 nodes to do (50.00"}};
+  for (const std::size_t most : {1U, 2U, 3U}) {
+    Planned_search search(most == 1 ? std::vector(plan.begin(), plan.begin() + 1) : plan);
+    Clique_vector cliques;
+    const Search_kind kind = {"", "T", "sets", ""};
+    EXPECT_EQ(
+        Thrown_message([&] {
+          Search_queue(search, {1, 2}, kind, &search.limit, cliques, most);
+        }),
+        most < 3 ? "ERROR: there are more cliques than can be numbered.\n" : "nothing was thrown");
+  }
+}
+
 TEST(TimeLimit, ReportTexts) {
   using namespace Clique_find_report_sub_routines;
-  std::ostringstream text;
-  Report_progress("T", "longer", "units", 1, 4, text);
+  std::ostringstream text = Odd_stream();
+  Report_progress("T", "longer", "units", 1000, 4000, text);
   Report_progress("longer", "T", "units", 3, 3, text);
   Report_hard_node(17, 2, 3, text);
   Report_all_rem_nodes_to_hard("directed cliques", text);
   EXPECT_EQ(text.str(),
-            "______\nT\nlonger\n 1 of 4 units to do (75.00% done)\n"
+            "______\nT\nlonger\n 1000 of 4000 units to do (75.00% done)\n"
             "______\nlonger\nT\n 3 of 3 units to do (0.00% done)\n"
             " Exceeded allowed time at node no.17,\n"
             " skipping, 2 out of 3 skipped in a row, (66.67%)\n"
