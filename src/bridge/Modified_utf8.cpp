@@ -16,25 +16,39 @@ bool Is_plain(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return Byte(c) - 1 < 0x7F; });
 }
 
-bool Continues(std::string_view text, std::size_t first, std::size_t last) {
-  return last <= text.size() && std::all_of(text.begin() + first, text.begin() + last,
-                                            [](char c) { return (Byte(c) & 0xC0U) == 0x80U; });
+/// A byte sequence at the front of a text.
+struct Sequence {
+  std::size_t length;  ///< bytes that belong together
+  bool whole;          ///< they make a character; otherwise they are broken
+};
+
+/// How many bytes a sequence has that begins with this one; 0 if none does.
+std::size_t Length_behind(unsigned lead) {
+  if (lead < 0x80) return 1;
+  if (lead >= 0xC2 && lead < 0xE0) return 2;
+  if (lead >= 0xE0 && lead < 0xF0) return 3;
+  return lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
 }
 
-/// How many bytes the sequence has with which the text begins; 0 if its first byte is broken.
-/// Surrogates and the zero of two bytes are sequences like any other.
-std::size_t Sequence_length(std::string_view text) {
+/// True if the second byte goes with the first. Characters longer than need be, and those behind
+/// the last, are none.
+bool Go_together(unsigned lead, unsigned next) {
+  if (lead == 0xE0) return next >= 0xA0;
+  if (lead == 0xF0) return next >= 0x90;
+  return lead != 0xF4 || next < 0x90;
+}
+
+/// The sequence at the front of the text. Surrogates and the zero of two bytes are sequences like
+/// any other.
+Sequence First_sequence(std::string_view text) {
   const unsigned lead = Byte(text[0]);
-  if (lead < 0x80) return 1;
-  const unsigned next = text.size() > 1 ? Byte(text[1]) : 0;
-  if (lead >= 0xC2 && lead < 0xE0) return Continues(text, 1, 2) ? 2 : 0;
-  if (lead >= 0xE0 && lead < 0xF0)
-    return (lead > 0xE0 || next >= 0xA0) && Continues(text, 1, 3) ? 3 : 0;
-  if (lead >= 0xF0 && lead < 0xF5)
-    return (lead > 0xF0 || next >= 0x90) && (lead < 0xF4 || next < 0x90) && Continues(text, 1, 4)
-               ? 4
-               : 0;
-  return lead == 0xC0 && next == 0x80 ? 2 : 0;
+  if (text.substr(0, 2) == "\xC0\x80") return {2, true};
+  const std::size_t wanted = Length_behind(lead);
+  std::size_t length = 1;
+  while (length < wanted && length < text.size() && (Byte(text[length]) & 0xC0U) == 0x80U &&
+         (length > 1 || Go_together(lead, Byte(text[1]))))
+    ++length;
+  return {length, length == wanted};
 }
 
 }  // namespace
@@ -46,8 +60,8 @@ const char* Modified_utf8::Of(std::string_view text) {
   }
   buffer_.clear();
   while (!text.empty()) {
-    const std::size_t length = Sequence_length(text);
-    if (length == 0) {
+    const auto [length, whole] = First_sequence(text);
+    if (!whole) {
       Append_in_three_bytes(replacement);
     } else if (length == 4) {
       const char32_t beyond = ((Byte(text[0]) & 0x07U) << 18U | (Byte(text[1]) & 0x3FU) << 12U |
@@ -60,7 +74,7 @@ const char* Modified_utf8::Of(std::string_view text) {
     } else {
       buffer_.append(text, 0, length);
     }
-    text.remove_prefix(std::max<std::size_t>(length, 1));
+    text.remove_prefix(length);
   }
   return buffer_.c_str();
 }

@@ -10,9 +10,9 @@ namespace gns {
 /// One object keeps its memory from text to text.
 class Modified_utf8 {
  public:
-  /// The text with its four-byte sequences as surrogates, its zero bytes as two bytes, and each
-  /// byte that belongs to no sequence as U+FFFD; everything else unchanged. Zero-terminated, valid
-  /// until the next call.
+  /// The text with its four-byte sequences as surrogates, its zero bytes as two bytes, and one
+  /// U+FFFD for each broken sequence: a byte that begins none, or as much of one as there is.
+  /// Everything else is unchanged. Zero-terminated, valid until the next call.
   const char* Of(std::string_view text);
 
  private:

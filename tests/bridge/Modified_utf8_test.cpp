@@ -38,12 +38,14 @@ TEST(ModifiedUtf8, LeavesWhatIsValidAndMendsTheRest) {
       {"\xF0\x8F\xBF\xBF", "????"},
       {"\xE4gypten", "?gypten"},
       {"\xFE\xFF", "??"},
-      {"\xE2\x82\xC3\xA4", "??\xC3\xA4"},
-      {"\xF0\x9F\x98z", "???z"},
+      {"\xE2\x82\xC3\xA4", "?\xC3\xA4"},  // as much of a sequence as there is
+      {"\xF0\x9F\x98z", "?z"},
+      {"\xF0\x9F\xF0\x9F\x98\x80", "?\xED\xA0\xBD\xED\xB8\x80"},
+      {"\xC3\xC3\xC0", "???"},
       {{"\xC3\xA4", 1}, "?"},  // cut off, as names in tables are
-      {{"\xE2\x82\xAC", 2}, "??"},
+      {{"\xE2\x82\xAC", 2}, "?"},
       {{"\xF0\x9F\x98\x80", 1}, "?"},
-      {{"\xF0\x9F\x98\x80", 3}, "???"},
+      {{"\xF0\x9F\x98\x80", 3}, "?"},
   };
   Modified_utf8 encoding;
   for (const auto& [text, expected] : valid) EXPECT_EQ(encoding.Of(text), expected);

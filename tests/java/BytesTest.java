@@ -6,7 +6,7 @@ import java.nio.charset.Charset;
 import java.nio.file.*;
 import java.util.*;
 import java.util.stream.Stream;
-import org.junit.Test;
+import org.junit.*;
 import zumo.community.*;
 
 /** Names are any bytes but white space, and a JVM anywhere in the world writes the same bytes. */
@@ -31,10 +31,29 @@ public class BytesTest extends Fixture {
     List<String> utf8 = List.of("Zo\u00EB", "\u7FA4", "\uD83D\uDE00\uD83C\uDFB5");
     triangle(utf8, bytes(utf8.get(0)), bytes(utf8.get(1)), bytes(utf8.get(2)));
     String first = "a\0\u00E4";
-    OutParams results = triangle(List.of("a\0\uFFFD", "b\uFFFD\0", "c\uFFFD\uFFFD"),
+    OutParams results = triangle(List.of("a\0\uFFFD", "b\uFFFD\0", "c\uFFFD"),
         first, "b\u00FF\u00C0\u0080", "c\u00F0\u009F");
     assertEquals(new String(first.getBytes(ISO_8859_1), Charset.defaultCharset()),
         results.getInParams().getEdges(false).get(0).getVertex1());
+    assertEquals(3, results.getInParams().getVertices().size());
+  }
+
+  /** One replacement for each broken sequence, as the JVM does it in the names of the network. */
+  @Test
+  public void ofBrokenNames() throws Exception {
+    Assume.assumeTrue(Charset.defaultCharset().equals(UTF_8));
+    List<String> ends = List.of("", "\u0080", "\u009F\u0098", "\u00A0", "\u0090\u0080\u0080", "z");
+    for (int lead = 0x80; lead < 0x100; ++lead) {
+      if (lead == 0xC0) continue;  // C0 80 is a zero in the names of cliques
+      List<String> names = new ArrayList<>();
+      for (String end : ends) names.add("n" + names.size() + (char) lead + end);
+      StringBuilder links = new StringBuilder();
+      for (String a : names)
+        for (String b : names) links.append(a).append(' ').append(b).append('\n');
+      OutParams results = new Run(write("broken", links.toString()), newDir()).findAndLoad();
+      assertEquals(results.getInParams().getVertices(),
+          new HashSet<>(results.getCliques().get(0).getVertices()));
+    }
   }
 
   private Child child(String out, String locale, String... options) throws Exception {

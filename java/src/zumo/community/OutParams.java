@@ -32,7 +32,7 @@ public final class OutParams {
   /** Sets the network; to be called first, since everything else shares its names. */
   public void setInParams(InParams inParams) {
     this.inParams = inParams;
-    names = inParams.finish();
+    names = new NodeNames(inParams.finish());
   }
 
   /**

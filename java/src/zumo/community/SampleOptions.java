@@ -52,7 +52,7 @@ record SampleOptions(boolean help, Run run, String resultsDir) {
         case "-w" -> switches.add(with(Run::lowerThreshold, number(arg, rest)));
         case "-W" -> switches.add(with(Run::upperThreshold, number(arg, rest)));
         case "-t" -> switches.add(with(Run::timeLimit, number(arg, rest)));
-        case "-k" -> switches.add(with(Run::singleK, parsed(arg, rest, Integer::valueOf)));
+        case "-k" -> switches.add(with(Run::singleK, parsed(arg, rest, Integer::parseUnsignedInt)));
         default -> {
           require(!arg.startsWith("-"), "Unknown switch " + arg);
           paths.add(arg);
@@ -78,7 +78,11 @@ record SampleOptions(boolean help, Run run, String resultsDir) {
   }
 
   private static Double number(String name, Iterator<String> rest) {
-    return parsed(name, rest, Double::valueOf);
+    return parsed(name, rest, text -> {
+      double value = Double.parseDouble(text);
+      if (!Double.isFinite(value)) throw new NumberFormatException();
+      return value;
+    });
   }
 
   private static <T> T parsed(String name, Iterator<String> rest, Function<String, T> parse) {

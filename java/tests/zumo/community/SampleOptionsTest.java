@@ -17,6 +17,20 @@ public class SampleOptionsTest {
   }
 
   @Test
+  public void aNumberIsOneThatARunCanHave() {
+    for (String value : new String[] {"NaN", "Infinity", "-Infinity", "1,5"})
+      for (String name : new String[] {"-w", "-W", "-I", "-t", "-k"}) wrong(name, value);
+    wrong("-k", "-1");
+    wrong("-k", "4294967296");
+  }
+
+  private static void wrong(String name, String value) {
+    assertEquals(name + " needs a number, not " + value,
+        assertThrows(IllegalArgumentException.class,
+            () -> parse("links.txt results " + name + " " + value)).getMessage());
+  }
+
+  @Test
   public void wrongUsageIsToldByName() {
     Map.of(
         "", "A link file and a directory for the results must be given",
