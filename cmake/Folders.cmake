@@ -43,9 +43,15 @@ function(vorlane_static_library name top)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
 endfunction()
 
+# The operations of the command line, for programs that take the same switches.
+function(vorlane_cli_library name)
+  add_library(${name} STATIC $<TARGET_OBJECTS:folder_cli>)
+  target_link_libraries(${name} PUBLIC vorlane_engine Threads::Threads)
+endfunction()
+
 function(vorlane_program name)
-  add_executable(${name} ${PROJECT_SOURCE_DIR}/src/cli/main.cpp $<TARGET_OBJECTS:folder_cli>)
-  target_link_libraries(${name} PRIVATE vorlane_engine Threads::Threads)
+  add_executable(${name} ${PROJECT_SOURCE_DIR}/src/cli/main.cpp)
+  target_link_libraries(${name} PRIVATE vorlane_cli)
 endfunction()
 
 # A shared library for Java to load: src/bridge/module/ has what only it needs, and exports.map

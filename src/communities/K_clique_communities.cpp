@@ -161,6 +161,21 @@ void Intensity_coms_from_k_cliques_ec(const K_cliques& k_cliques, Row_array<Node
     Append_members(k_cliques, com_k_cliques[com], met, coms);
 }
 
+void Intensity_coms_from_k_cliques_ec(const K_cliques& k_cliques, Row_array<Node_index>& coms,
+                                      Row_array<Index_pair>& com_links, std::uint32_t /*k*/,
+                                      const Index_links& index_links, double intensity_threshold) {
+  Row_array<K_clique_index> com_k_cliques;
+  Intensity_coms_from_k_cliques_ec(k_cliques, coms, com_k_cliques, Link_logs(index_links),
+                                   intensity_threshold);
+  com_links.clear();
+  for (std::size_t com = 0; com < com_k_cliques.size(); ++com) {
+    K_clique_com_links(k_cliques, com_k_cliques).For_each(com, [&](const Index_pair& link) {
+      com_links.Append(link);
+    });
+    com_links.Close_row();
+  }
+}
+
 namespace Coms_from_k_cls_sub {
 
 bool Check_intersection(Node_span node_set, const Link_logs& logs, double intensity_threshold) {

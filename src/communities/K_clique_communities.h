@@ -21,6 +21,12 @@ void Intensity_coms_from_k_cliques_ec(const K_cliques& k_cliques, Row_array<Node
                                       Row_array<K_clique_index>& com_k_cliques,
                                       const Link_logs& logs, double intensity_threshold);
 
+/// The same from the links, with the links of each community as For_each() of K_clique_com_links
+/// tells them. `k` is that of the k-cliques.
+void Intensity_coms_from_k_cliques_ec(const K_cliques& k_cliques, Row_array<Node_index>& coms,
+                                      Row_array<Index_pair>& com_links, std::uint32_t k,
+                                      const Index_links& index_links, double intensity_threshold);
+
 /// The links of the communities, computed when asked for: for each k-clique of a community in
 /// order, all its pairs. So a link inside several k-cliques comes once for each.
 class K_clique_com_links {
@@ -54,6 +60,11 @@ namespace Coms_from_k_cls_sub {
 /// True if the link weight intensity of a set of two nodes or more is strictly greater than the
 /// threshold.
 bool Check_intersection(Node_span node_set, const Link_logs& logs, double intensity_threshold);
+/// The same from the links; their logarithms are taken for this one set.
+inline bool Check_intersection(Node_span node_set, const Index_links& index_links,
+                               double intensity_threshold) {
+  return Check_intersection(node_set, Link_logs(index_links), intensity_threshold);
+}
 
 }  // namespace Coms_from_k_cls_sub
 }  // namespace gns

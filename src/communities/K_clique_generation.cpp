@@ -1,9 +1,11 @@
 #include "communities/K_clique_generation.h"
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "communities/K_clique_search.h"
@@ -50,6 +52,22 @@ void Search(const Weighted_cliques& cliques, K_cliques& k_cliques, double intens
   }
 }
 
+/// The k-cliques that are in one of two, or in both.
+K_cliques Union_of(const K_cliques& a, const K_cliques& b) {
+  K_cliques both(a.K());
+  std::size_t i = 0;
+  std::size_t j = 0;
+  while (i < a.size() || j < b.size()) {
+    const bool from_a =
+        j == b.size() || (i < a.size() && !std::ranges::lexicographical_compare(b[j], a[i]));
+    const Node_span next = from_a ? a[i] : b[j];
+    if (from_a) ++i;
+    if (j < b.size() && std::ranges::equal(b[j], next)) ++j;
+    both.push_back(next);
+  }
+  return both;
+}
+
 }  // namespace
 
 void Generate_k_cls_from_cls_ec(const Weighted_cliques& cliques, K_cliques& k_cliques,
@@ -60,6 +78,13 @@ void Generate_k_cls_from_cls_ec(const Weighted_cliques& cliques, K_cliques& k_cl
   Clique_find_report_sub_routines::Report_clique_search_end(
       " k-cliques", static_cast<std::uint32_t>(k_cliques.size()), report);
   external_control::CURRENT_STATE_REPORT = report.str();
+}
+
+void Generate_k_cls_from_cls_ec(const Clique_vector& cliques, const Index_links& index_links,
+                                K_cliques& k_cliques, std::uint32_t k, double intensity_threshold) {
+  K_cliques found(k);
+  Generate_k_cls_from_cls_ec(Weighted_cliques(cliques, index_links), found, k, intensity_threshold);
+  k_cliques = k_cliques.empty() ? std::move(found) : Union_of(k_cliques, found);
 }
 
 }  // namespace gns

@@ -14,4 +14,9 @@ namespace gns {
 void Generate_k_cls_from_cls_ec(const Weighted_cliques& cliques, K_cliques& k_cliques,
                                 std::uint32_t k, double intensity_threshold);
 
+/// The same from the cliques and links, see Weighted_cliques. What `k_cliques` holds of this k
+/// stays in it.
+void Generate_k_cls_from_cls_ec(const Clique_vector& cliques, const Index_links& index_links,
+                                K_cliques& k_cliques, std::uint32_t k, double intensity_threshold);
+
 }  // namespace gns

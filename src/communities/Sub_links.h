@@ -70,6 +70,12 @@ class Sub_links {
 void Get_sub_links_and_min_link_w(Node_span node_set, const Link_logs& logs, Sub_links& sub_links,
                                   double& min_log_w);
 
+/// The same from the links; their logarithms are taken for this one set.
+inline void Get_sub_links_and_min_link_w(Node_span node_set, const Index_links& index_links,
+                                         Sub_links& sub_links, double& min_log_w) {
+  Get_sub_links_and_min_link_w(node_set, Link_logs(index_links), sub_links, min_log_w);
+}
+
 /// What the sum of logarithms of a set of `nodes` nodes has to exceed: first the power of the
 /// threshold, then the logarithm, so it is infinite where the power leaves the range of doubles.
 inline double Log_threshold(double intensity_threshold, std::uint32_t nodes) {

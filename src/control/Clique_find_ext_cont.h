@@ -5,6 +5,7 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <string_view>
 
 /// The channel between a run and the threads that watch it: a run pushes its state report and
 /// polls the stop flag; any other thread pulls reports and may ask for a stop at any moment.
@@ -24,6 +25,9 @@ class Report_variable {
   Report_variable& operator=(std::string text);
   Report_variable& operator=(std::shared_ptr<const Report> report);
   [[nodiscard]] std::string Text() const;
+  /// As a text, from which it can be read and with which it can be compared.
+  operator std::string() const { return Text(); }
+  bool operator==(std::string_view text) const { return Text() == text; }
 
  private:
   mutable std::mutex lock_;

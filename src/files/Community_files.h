@@ -15,14 +15,20 @@ namespace gns {
 
 /// The four files of the communities at one k. Community indices at and behind `exact_com_count`
 /// carry a minus sign. All of them prepare the directory of the k. Each writer has a form with
-/// "_ret" that also fills a table of results, if it is given one: the entry of the k is replaced
-/// when the file is complete.
+/// "_ret" that also fills a table of results, if it is given one, by reference or by its address:
+/// the entry of the k is replaced when the file is complete.
 
 /// A line per community: its index and its members' names.
 void Kiir_coms_VL_ret(const Row_array<Node_index>& coms, const std::string& output_dir,
                       std::uint32_t k, const Node_names& node_names, std::uint32_t exact_com_count,
                       const std::string& com_flag, const std::string& run_header,
                       By_k<Names_by_index>* tables);
+inline void Kiir_coms_VL_ret(const Row_array<Node_index>& coms, const std::string& output_dir,
+                             std::uint32_t k, const Node_names& node_names,
+                             std::uint32_t exact_com_count, const std::string& com_flag,
+                             const std::string& run_header, By_k<Names_by_index>& tables) {
+  Kiir_coms_VL_ret(coms, output_dir, k, node_names, exact_com_count, com_flag, run_header, &tables);
+}
 inline void Kiir_coms_VL(const Row_array<Node_index>& coms, const std::string& output_dir,
                          std::uint32_t k, const Node_names& node_names,
                          std::uint32_t exact_com_count, const std::string& com_flag,
@@ -37,6 +43,15 @@ void Kiir_coms_cliques_VL_ret(const Row_array<Clique_index>& com_cliques,
                               std::uint32_t exact_com_count, std::uint32_t exact_clique_count,
                               const std::string& com_flag, const std::string& run_header,
                               By_k<Indices_by_index>* tables);
+inline void Kiir_coms_cliques_VL_ret(const Row_array<Clique_index>& com_cliques,
+                                     const std::string& output_dir, std::uint32_t k,
+                                     std::uint32_t exact_com_count,
+                                     std::uint32_t exact_clique_count, const std::string& com_flag,
+                                     const std::string& run_header,
+                                     By_k<Indices_by_index>& tables) {
+  Kiir_coms_cliques_VL_ret(com_cliques, output_dir, k, exact_com_count, exact_clique_count,
+                           com_flag, run_header, &tables);
+}
 inline void Kiir_coms_cliques_VL(const Row_array<Clique_index>& com_cliques,
                                  const std::string& output_dir, std::uint32_t k,
                                  std::uint32_t exact_com_count, std::uint32_t exact_clique_count,
@@ -52,6 +67,14 @@ void Kiir_com_links_VL_ret(const Row_array<Index_pair>& com_links, const std::st
                            std::uint32_t exact_com_count, const std::string& com_flag,
                            const std::string& run_header, By_k<Links_by_index>* tables,
                            const Index_links& index_links);
+inline void Kiir_com_links_VL_ret(const Row_array<Index_pair>& com_links,
+                                  const std::string& output_dir, std::uint32_t k,
+                                  const Node_names& node_names, std::uint32_t exact_com_count,
+                                  const std::string& com_flag, const std::string& run_header,
+                                  By_k<Links_by_index>& tables, const Index_links& index_links) {
+  Kiir_com_links_VL_ret(com_links, output_dir, k, node_names, exact_com_count, com_flag, run_header,
+                        &tables, index_links);
+}
 inline void Kiir_com_links_VL(const Row_array<Index_pair>& com_links, const std::string& output_dir,
                               std::uint32_t k, const Node_names& node_names,
                               std::uint32_t exact_com_count, const std::string& com_flag,
@@ -71,6 +94,12 @@ void Kiir_com_graph_VL_ret(const Com_graph& com_graph, std::uint32_t exact_com_c
                            const std::string& output_dir, std::uint32_t k,
                            const std::string& com_flag, const std::string& run_header,
                            By_k<Overlap_table>* tables);
+inline void Kiir_com_graph_VL_ret(const Com_graph& com_graph, std::uint32_t exact_com_count,
+                                  const std::string& output_dir, std::uint32_t k,
+                                  const std::string& com_flag, const std::string& run_header,
+                                  By_k<Overlap_table>& tables) {
+  Kiir_com_graph_VL_ret(com_graph, exact_com_count, output_dir, k, com_flag, run_header, &tables);
+}
 inline void Kiir_com_graph_VL(const Com_graph& com_graph, std::uint32_t exact_com_count,
                               const std::string& output_dir, std::uint32_t k,
                               const std::string& com_flag, const std::string& run_header) {

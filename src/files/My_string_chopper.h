@@ -38,6 +38,15 @@ std::string_view& operator>>(std::string_view& text, std::int32_t& value);
 std::string_view& operator>>(std::string_view& text, Name_list& values);
 std::string_view& operator>>(std::string_view& text, Index_list& values);
 
+/// The same for a text that owns its characters: what is taken is erased.
+template <typename Value>
+requires requires(std::string_view& text, Value& value) { text >> value; }
+std::string& operator>>(std::string& text, Value& value) {
+  std::string_view rest = text;
+  rest >> value;
+  return text.erase(0, text.size() - rest.size());
+}
+
 /// The error of a text without a word.
 Xerror_msg No_values();
 

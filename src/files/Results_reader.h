@@ -21,6 +21,39 @@ inline void Read_coms(const std::string& results_dir, const std::string& specifi
                       Com_result_tables& tables, std::string& errors) {
   Read_coms(results_dir, specifier, Pointers_to(tables), errors);
 }
+/// The same with the nineteen tables one by one, in their order.
+inline void Read_coms(
+    const std::string& results_dir, const std::string& specifier, Name_pairs& graph_links,
+    Names_by_index& cliques, By_k<Names_by_index>& k_cliques, By_k<Names_by_index>& communities,
+    By_k<Links_by_index>& com_links, By_k<Indices_by_index>& com_cliques,
+    By_k<Overlap_table>& com_graphs, By_k<Distribution_table>& size_dist_exact,
+    By_k<Distribution_table>& degree_dist_exact, By_k<Distribution_table>& overlap_dist_exact,
+    By_k<Distribution_table>& membership_dist_exact, By_k<Distribution_table>& size_dist_appr,
+    By_k<Distribution_table>& degree_dist_appr, By_k<Distribution_table>& overlap_dist_appr,
+    By_k<Distribution_table>& membership_dist_appr, By_k<Distribution_table>& size_dist_merged,
+    By_k<Distribution_table>& degree_dist_merged, By_k<Distribution_table>& overlap_dist_merged,
+    By_k<Distribution_table>& membership_dist_merged, std::string& errors) {
+  const Table_pointers tables = {&graph_links,
+                                 &cliques,
+                                 &k_cliques,
+                                 &communities,
+                                 &com_links,
+                                 &com_cliques,
+                                 &com_graphs,
+                                 &size_dist_exact,
+                                 &degree_dist_exact,
+                                 &overlap_dist_exact,
+                                 &membership_dist_exact,
+                                 &size_dist_appr,
+                                 &degree_dist_appr,
+                                 &overlap_dist_appr,
+                                 &membership_dist_appr,
+                                 &size_dist_merged,
+                                 &degree_dist_merged,
+                                 &overlap_dist_merged,
+                                 &membership_dist_merged};
+  Read_coms(results_dir, specifier, tables, errors);
+}
 
 /// Reads a distribution at k. The file `base_name` is that of a k without approximate communities
 /// and goes into the exact table; only if there is no such file, the three with "_exact", "_appr"

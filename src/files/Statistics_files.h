@@ -25,6 +25,20 @@ void Kiir_stats_VL_ret(const Distribution& membership_dist, const Distribution& 
                        const std::string& output_dir, std::uint32_t k, const std::string& com_flag,
                        const std::string& stat_flag, const std::string& run_header,
                        const Statistics_tables& tables);
+inline void Kiir_stats_VL_ret(const Distribution& membership_dist, const Distribution& size_dist,
+                              const Distribution& overlap_dist, const Distribution& degree_dist,
+                              const std::string& output_dir, std::uint32_t k,
+                              const std::string& com_flag, const std::string& stat_flag,
+                              const std::string& run_header,
+                              By_k<Distribution_table>& membership_tables,
+                              By_k<Distribution_table>& size_tables,
+                              By_k<Distribution_table>& overlap_tables,
+                              By_k<Distribution_table>& degree_tables) {
+  const Statistics_tables tables = {&membership_tables, &size_tables, &overlap_tables,
+                                    &degree_tables};
+  Kiir_stats_VL_ret(membership_dist, size_dist, overlap_dist, degree_dist, output_dir, k, com_flag,
+                    stat_flag, run_header, tables);
+}
 inline void Kiir_stats_VL(const Distribution& membership_dist, const Distribution& size_dist,
                           const Distribution& overlap_dist, const Distribution& degree_dist,
                           const std::string& output_dir, std::uint32_t k,

@@ -12,4 +12,10 @@ std::string trim(std::string_view text, std::string_view characters) {
   return std::string(Trimmed(text, characters));
 }
 
+std::string trim(std::string_view text, const Character_set& characters) {
+  while (!text.empty() && characters.contains(text.front())) text.remove_prefix(1);
+  while (!text.empty() && characters.contains(text.back())) text.remove_suffix(1);
+  return std::string(text);
+}
+
 }  // namespace gns

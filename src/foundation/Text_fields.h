@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/Character_set.h"
+
 namespace gns {
 
 /// White space of formatted input: blank, \t, \n, \v, \f, \r. One comparison tells for nearly all
@@ -35,5 +37,6 @@ std::string_view Trimmed(std::string_view text, std::string_view characters);
 
 /// The same as a copy.
 std::string trim(std::string_view text, std::string_view characters);
+std::string trim(std::string_view text, const Character_set& characters);
 
 }  // namespace gns

@@ -48,4 +48,12 @@ void Clique_find_dir_time_ec(Clique_vector& cliques, Overlap_matrix& overlap_mat
                              const Dir_vertex_map& dir_vtx_map, Left_map& left_map,
                              const Time_limit& time_limit);
 
+/// The limit in seconds.
+inline void Clique_find_dir_time_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
+                                    const Dir_vertex_map& dir_vtx_map, Left_map& left_map,
+                                    double time_limit) {
+  Clique_find_dir_time_ec(cliques, overlap_matrix, dir_vtx_map, left_map,
+                          Time_limit{.seconds = time_limit});
+}
+
 }  // namespace gns

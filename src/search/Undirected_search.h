@@ -49,4 +49,12 @@ void Clique_find_part_time_ec(Clique_vector& cliques, Overlap_matrix& overlap_ma
                               const Vertex_map& vtx_map, Left_map& left_map,
                               const Time_limit& time_limit);
 
+/// The limit in seconds.
+inline void Clique_find_part_time_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
+                                     const Vertex_map& vtx_map, Left_map& left_map,
+                                     double time_limit) {
+  Clique_find_part_time_ec(cliques, overlap_matrix, vtx_map, left_map,
+                           Time_limit{.seconds = time_limit});
+}
+
 }  // namespace gns
