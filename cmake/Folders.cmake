@@ -29,6 +29,9 @@ function(vorlane_folder name)
   target_compile_definitions(folder_${name} PRIVATE VORLANE_VERSION="${PROJECT_VERSION}")
 
   set(VORLANE_FOLDERS ${VORLANE_FOLDERS} ${name} CACHE INTERNAL "")
+  if(NOT PROJECT_IS_TOP_LEVEL)
+    return()
+  endif()
   vorlane_objects(objects ${name})
   file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/layers/${name}.cpp CONTENT "int main() {}\n")
   add_executable(layer_${name} ${PROJECT_BINARY_DIR}/layers/${name}.cpp ${objects})
@@ -41,6 +44,7 @@ function(vorlane_static_library name top)
   vorlane_objects(objects ${top})
   add_library(${name} STATIC ${objects})
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_compile_features(${name} PUBLIC cxx_std_20)
 endfunction()
 
 # The operations of the command line, for programs that take the same switches.

@@ -1,0 +1,3 @@
+#include "vorlane.h"
+
+int main() { return gns::Communities().size() == 0 ? 0 : 1; }
