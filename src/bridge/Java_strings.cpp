@@ -20,7 +20,7 @@ std::optional<std::string> String_to_C(JNIEnv* env, jstring java_string) {
   }
   if (env->EnsureLocalCapacity(room) != JNI_OK) return std::nullopt;
   const Local_ref<jclass> type(env, env->FindClass(string_class));
-  const jmethodID get_bytes = type ? env->GetMethodID(type.Get(), "getBytes", "()[B") : nullptr;
+  jmethodID get_bytes = type ? env->GetMethodID(type.Get(), "getBytes", "()[B") : nullptr;
   if (get_bytes == nullptr) return std::nullopt;
   const Local_ref<jbyteArray> bytes(
       env, static_cast<jbyteArray>(env->CallObjectMethod(java_string, get_bytes)));

@@ -73,7 +73,7 @@ class Translation {
   jobject Of(Com_result_tables tables);
 
  private:
-  Local_ref<jobject> In_params_of(Name_pairs links) const;
+  Local_ref<jobject> In_params_of(const Name_pairs& links) const;
   void Add_cliques(const Names_by_index& cliques);
   void Add_all_of_k(std::uint32_t k, Com_result_tables& tables);
   void Add_communities(std::uint32_t k, const Names_by_index& communities,
@@ -97,7 +97,7 @@ class Translation {
 
 jobject Translation::Of(Com_result_tables tables) {
   tables.k_cliques.clear();  // not for Java, and large
-  const Local_ref<jobject> in_params = In_params_of(std::move(tables.graph_links));
+  const Local_ref<jobject> in_params = In_params_of(std::exchange(tables.graph_links, {}));
   out_params_class_.Call(out_params_, out_params_class_.set_in_params, in_params.Get());
   Add_cliques(std::exchange(tables.cliques, {}));
   if (!tables.communities.empty()) {
@@ -109,7 +109,7 @@ jobject Translation::Of(Com_result_tables tables) {
 }
 
 /// The network: only its names are decoded in the JVM's default character set, as paths are.
-Local_ref<jobject> Translation::In_params_of(Name_pairs links) const {
+Local_ref<jobject> Translation::In_params_of(const Name_pairs& links) const {
   Local_ref<jobject> in_params = in_params_class_.New(in_params_class_.init);
   if (links.empty()) return in_params;
   Report(" Loading results: edges");

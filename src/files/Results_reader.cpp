@@ -98,7 +98,7 @@ void Take_link(std::string_view line, Name_pairs& links) {
 
 void Read_coms(const std::string& results_dir, const std::string& specifier,
                const Table_pointers& tables, std::string& errors) {
-  if (specifier != "" && specifier != "directed" && specifier != "intensity") {
+  if (!specifier.empty() && specifier != "directed" && specifier != "intensity") {
     errors = "ERROR: unknown specifier '" + specifier + "' received.\n";
     return;
   }
