@@ -1,5 +1,6 @@
 // Makes inputs to begin with: seeds EXAMPLES OUT. Runs the engine on the example networks in all
-// kinds of run and puts what it leaves into OUT/links, OUT/records and OUT/results.
+// kinds of run and puts what it leaves into OUT/links, OUT/records and OUT/results, and some
+// command lines into OUT/switches.
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -60,6 +61,9 @@ int main(int argc, char** argv) {
     return 2;
   }
   const fs::path out = argv[2];
+  Write(out / "switches", "plain",
+        "-i\nlinks.txt\n-o\nout\n-w\n1\n-W\n2.5\n-d\n3\n-t\n0.1\n-k\n4\n");
+  Write(out / "switches", "kinds", "-i\na\nb\n-I\n6\n-k\n4.5\n-D\n-U\n-h\n-w\n-1\n");
   const std::pair<char, gns::Run_parameters> kinds_of_run[] = {
       {0, {}},
       {0, {.use_lower_threshold = true, .lower_threshold = 4}},
