@@ -5,6 +5,7 @@
 #include <numeric>
 
 #include "communities/Coms_funcs.h"
+#include "foundation/Processor_level.h"
 
 namespace gns {
 
@@ -262,10 +263,15 @@ void Unclaimed_cliques::Meet(const List& list, Short_signature question, std::ui
   const std::uint32_t least_bound = std::min(overlap, Short_signature::bits);
   std::uint32_t* const passed = passed_.data();
   std::size_t count = 0;
-  for (std::uint32_t i = 0; i < list.length; ++i) {
-    passed[count] = i;
-    count += signatures[i].Shared_at_most(question) >= least_bound ? 1U : 0U;
-  }
+  Run_at_processor_level([&] {
+    const std::uint32_t length = list.length;
+    std::size_t end = 0;
+    for (std::uint32_t i = 0; i < length; ++i) {
+      passed[end] = i;
+      end += signatures[i].Shared_at_most(question) >= least_bound ? 1U : 0U;
+    }
+    count = end;
+  });
   for (std::size_t i = 0; i < count; ++i) {
     const Clique_index met = cliques[passed[i]];
     if (met_[met] >= question_) continue;  // claimed, or met in this question before
@@ -279,10 +285,12 @@ void Unclaimed_cliques::Keep_by_signature(Clique_index clique, std::uint32_t ove
   const Long_signature question = long_signatures_[clique].As_question();
   const std::uint32_t least_bound = std::min(overlap, Long_signature::bits);
   std::size_t kept = 0;
-  for (const Clique_index candidate : candidates_) {
-    candidates_[kept] = candidate;
-    kept += long_signatures_[candidate].Shared_at_most(question) >= least_bound ? 1U : 0U;
-  }
+  Run_at_processor_level([&] {
+    for (const Clique_index candidate : candidates_) {
+      candidates_[kept] = candidate;
+      kept += long_signatures_[candidate].Shared_at_most(question) >= least_bound ? 1U : 0U;
+    }
+  });
   candidates_.resize(kept);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "foundation/Processor_level.h"
 #include "search/One_way_cycles.h"
 
 namespace gns {
@@ -26,7 +27,7 @@ class Clique_walk::Descent {
         cycles_(local, clique_, memory.cycle_memory_),
         leaf_cycles_(local, clique_, memory.leaf_memory_) {}
 
-  void Run() {
+  [[gnu::always_inline]] void Run() {
     Open_root();
     while (!memory_.excluded_starts_.empty()) {
       Attempt::Check_for_stop();
@@ -66,7 +67,7 @@ class Clique_walk::Descent {
   }
 
   /// Takes the next branch of the deepest level, or closes the level if there is none.
-  void Step() {
+  [[gnu::always_inline]] void Step() {
     const std::size_t level = Level();
     const std::size_t next = First_bit(To_branch(level), Words());
     if (next == Words() * word_bits) {
@@ -78,7 +79,7 @@ class Clique_walk::Descent {
   }
 
   /// Adds candidate `next` to the partial clique. True if that opened a level below.
-  bool Enter(std::size_t level, std::size_t next) {
+  [[gnu::always_inline]] bool Enter(std::size_t level, std::size_t next) {
     Reserve_level(level + 1);
     if constexpr (directed) cycles_.Join(next);
     const Bit_word* neighs = Row(next);
@@ -135,7 +136,8 @@ class Clique_walk::Descent {
     Flip_bit(clique_, next);
   }
 
-  [[nodiscard]] bool Is_maximal(std::size_t level, std::size_t next, std::size_t last) {
+  [[nodiscard, gnu::always_inline]] bool Is_maximal(std::size_t level, std::size_t next,
+                                                    std::size_t last) {
     bool looked = !directed || next == last;
     for (std::size_t i = memory_.excluded_starts_[level]; i < memory_.excluded_.size(); ++i) {
       const std::uint32_t row = memory_.excluded_[i];
@@ -152,12 +154,12 @@ class Clique_walk::Descent {
 
   /// Chooses a pivot for the deepest level and notes the candidates that need a branch. False if an
   /// excluded node can join whatever the candidates make: nothing maximal is below.
-  bool Choose_branches() {
+  [[gnu::always_inline]] bool Choose_branches() {
     const std::size_t level = Level();
     const Bit_word* candidates = Candidates(level);
     Bit_word* branches = To_branch(level);
     std::size_t fewest = std::numeric_limits<std::size_t>::max();
-    const auto consider = [&](std::size_t row) {
+    const auto consider = [&](std::size_t row) __attribute__((always_inline)) {
       const Bit_word* linked = Row(row);
       std::size_t count = 0;
       for (std::size_t w = 0; w < Words(); ++w)
@@ -211,10 +213,12 @@ class Clique_walk::Descent {
 void Clique_walk::Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found) {
   found.clear();
   With_row_length(local.words, [&](auto fixed_words) {
-    if (local.out_rows.empty())
-      Descent<false, fixed_words()>(*this, local, attempt, found).Run();
-    else
-      Descent<true, fixed_words()>(*this, local, attempt, found).Run();
+    Run_at_processor_level([&] {
+      if (local.out_rows.empty())
+        Descent<false, fixed_words()>(*this, local, attempt, found).Run();
+      else
+        Descent<true, fixed_words()>(*this, local, attempt, found).Run();
+    });
   });
 }
 

@@ -12,6 +12,7 @@
 
 #include "Literal_search.h"
 #include "Odd_stream.h"
+#include "Processor_level_turn.h"
 #include "Random_graphs.h"
 #include "communities/Coms_funcs.h"
 #include "control/Clique_find_ext_cont.h"
@@ -125,6 +126,7 @@ Clique_input Random_input(literal::Random& random, std::uint32_t seed, bool nest
 TEST(Percolation, EqualsLiteralPercolationInAnyOrderOfK) {
   for (std::uint32_t seed = 0; seed < 2000; ++seed) {
     SCOPED_TRACE(seed);
+    const Processor_level_turn level(seed / 12);
     literal::Random random(seed);
     const bool nested = seed % 4 == 3;
     const Clique_input input = Random_input(random, seed, nested);

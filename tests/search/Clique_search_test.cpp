@@ -9,6 +9,7 @@
 
 #include "Literal_directed_search.h"
 #include "Literal_search.h"
+#include "Processor_level_turn.h"
 #include "Random_graphs.h"
 #include "control/Clique_find_ext_cont.h"
 #include "search/Clique_find.h"
@@ -106,6 +107,7 @@ INSTANTIATE_TEST_SUITE_P(CliqueSearch, EachSearch, ::testing::Bool());
 
 TEST_P(EachSearch, EqualsLiteralOneOnRandomGraphs) {
   for (std::uint32_t seed = 0; seed < 2500; ++seed) {
+    const Processor_level_turn level(seed / 3);
     Expect_like_literal(Sample_for(GetParam(), seed));
     if (HasFatalFailure()) FAIL() << seed;
   }
@@ -116,8 +118,12 @@ TEST_P(EachSearch, EqualsLiteralOneOnLongBitRows) {
   Random random(2);
   for (const Node_index side : {63U, 64U, 128U, 150U}) {
     const Graph graph = literal::Two_sides(random, side);
-    Expect_like_literal({graph, literal::Directed(random, graph, 33)});
-    if (HasFatalFailure()) FAIL() << side;
+    const Sample sample = {graph, literal::Directed(random, graph, 33)};
+    for (const std::uint32_t turn : {0U, 1U, 2U}) {
+      const Processor_level_turn level(turn);
+      Expect_like_literal(sample);
+      if (HasFatalFailure()) FAIL() << side;
+    }
   }
 }
 
