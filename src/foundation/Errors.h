@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 
@@ -37,15 +38,26 @@ class Xep_file_not_found : public Xep_read_file {
   ~Xep_file_not_found() noexcept override;
 };
 
-/// A line of an input file can't be read.
+/// Where in a file something else was expected.
+struct Place_in_file {
+  std::string file;
+  std::size_t line = 0;    ///< from 1; 0 if it isn't known
+  std::size_t column = 0;  ///< from 1, in characters of UTF-8
+  std::string expected;    ///< in words: "a second name"
+  std::string found;       ///< the field that stands there; empty if the line ends
+};
+
+/// A line of an input file can't be read. Of a line of more than 4,096 bytes the message shows the
+/// beginning, and how many bytes it leaves out.
 class Xep_wrong_line : public Xep_read_file {
  public:
-  /// For a reader that doesn't know the name of its file.
-  explicit Xep_wrong_line(const std::string& line);
+  /// For a message without the name of the file; `place` may tell more.
+  explicit Xep_wrong_line(const std::string& line, Place_in_file place = {});
   Xep_wrong_line(const std::string& line, const std::string& file);
   ~Xep_wrong_line() noexcept override;
 
-  std::string wrong_line;
+  std::string wrong_line;  ///< the whole line
+  Place_in_file place;
 };
 
 }  // namespace gns

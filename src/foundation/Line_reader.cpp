@@ -55,6 +55,7 @@ bool Line_reader::Next(std::string_view& line) {
     if (line_end != nullptr) {
       line = {buffer_.get() + start_, line_end};
       start_ += line.size() + 1;
+      ++lines_taken_;
       terminated_ = true;
       return true;
     }
@@ -65,6 +66,7 @@ bool Line_reader::Next(std::string_view& line) {
   if (start_ == end_) return false;
   line = {buffer_.get() + start_, end_ - start_};
   start_ = end_;
+  ++lines_taken_;
   terminated_ = false;
   return true;
 }
@@ -76,6 +78,11 @@ void Line_reader::Resize_buffer(std::size_t capacity) {
   static_cast<void>(buffer_.release());
   buffer_.reset(larger);
   capacity_ = capacity;
+}
+
+std::string_view Line_reader::Peek(std::size_t size) {
+  while (end_ - start_ < size && Fill()) continue;
+  return {buffer_.get() + start_, std::min(size, end_ - start_)};
 }
 
 /// Moves the unread bytes to the front, of a larger buffer if they fill this one.
@@ -103,6 +110,7 @@ void Line_reader::Wait_for_more() const {
 
 /// Reads more behind the unread bytes; false at the end of the file.
 bool Line_reader::Fill() {
+  if (at_end_) return false;
   Make_room();
   ssize_t got = 0;
   do {
@@ -113,7 +121,8 @@ bool Line_reader::Fill() {
     throw Xerror_msg("ERROR: reading '" + path_ +
                      "' failed: " + std::generic_category().message(errno) + "\n");
   end_ += static_cast<std::size_t>(got);
-  return got > 0;
+  at_end_ = got == 0;
+  return !at_end_;
 }
 
 }  // namespace gns

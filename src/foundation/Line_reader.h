@@ -33,6 +33,13 @@ class Line_reader {
   /// the next call. False at the end of the file; throws Xerror_msg if reading fails.
   bool Next(std::string_view& line);
 
+  /// The next bytes, without taking them: `size` of them, or what is left of the file. Valid until
+  /// the next call. Throws Xerror_msg if reading fails.
+  std::string_view Peek(std::size_t size);
+
+  /// How many lines have been taken.
+  [[nodiscard]] std::size_t Lines_taken() const { return lines_taken_; }
+
   /// The size of the file when it was opened, in bytes.
   [[nodiscard]] std::size_t File_size() const { return file_size_; }
 
@@ -59,7 +66,9 @@ class Line_reader {
   std::size_t capacity_ = 0;
   std::size_t start_ = 0;  ///< unread bytes: start_ up to end_
   std::size_t end_ = 0;
+  std::size_t lines_taken_ = 0;
   bool terminated_ = false;
+  bool at_end_ = false;  ///< a terminal would begin anew after its end
 };
 
 }  // namespace gns

@@ -39,6 +39,20 @@ TEST(LineReader, CutsAtTheGivenCharacters) {
   }
 }
 
+TEST(LineReader, ShowsBytesBeforeTheyAreTaken) {
+  const Temp_dir temp;
+  const std::string text = "a\n" + std::string(10000, 'x') + "\nb";
+  Line_reader reader(temp.Write("file", text));
+  EXPECT_EQ(reader.Peek(1), "a");
+  EXPECT_TRUE(reader.Peek(9000) == text.substr(0, 9000));
+  std::string_view line;
+  EXPECT_TRUE(reader.Next(line) && line == "a");
+  EXPECT_TRUE(reader.Next(line) && line.size() == 10000);
+  EXPECT_EQ(reader.Peek(9), "b");
+  EXPECT_TRUE(reader.Next(line) && line == "b" && reader.Peek(9).empty());
+  EXPECT_EQ(reader.Lines_taken(), 3U);
+}
+
 TEST(LineReader, RefusesWhatItCantRead) {
   const Temp_dir temp;
   const std::string pipe = temp.Path("pipe");
