@@ -65,6 +65,8 @@
 #include "files/Community_files.h"
 #include "files/Graph_and_clique_files.h"
 #include "files/Index_list.h"
+#include "files/Link_file_check.h"
+#include "files/Link_file_kind.h"
 #include "files/Link_file_reader.h"
 #include "files/My_string_chopper.h"
 #include "files/Name_list.h"

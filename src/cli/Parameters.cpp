@@ -65,10 +65,16 @@ void Read_switch(const Value<T>& target, const std::string& name, const Switch_m
 
 }  // namespace
 
+std::optional<std::size_t> Values_of(const std::string& key) {
+  const auto* const found =
+      std::ranges::find_if(switches, [&](const Switch& s) { return key == s.name; });
+  if (found == switches.end()) return {};
+  return std::holds_alternative<Flag>(found->target) ? 0 : 1;
+}
+
 bool Check_keys(const Switch_map& params) {
-  return std::ranges::all_of(params, [](const auto& param) {
-    return std::ranges::any_of(switches, [&](const Switch& s) { return param.first == s.name; });
-  });
+  return std::ranges::all_of(params,
+                             [](const auto& param) { return Values_of(param.first).has_value(); });
 }
 
 template <typename T>

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <limits>
+#include <optional>
 #include <string>
 
 #include "cli/gmap.h"
@@ -33,6 +35,9 @@ struct Switch_values {
   bool undirected_declared = false;  ///< -U
   bool use_input_file = false;       ///< -i
 };
+
+/// How many values the switch takes, 0 or 1; nothing if this program has no such switch.
+std::optional<std::size_t> Values_of(const std::string& key);
 
 /// True if every key is a switch of this program.
 bool Check_keys(const Switch_map& params);

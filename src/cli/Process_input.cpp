@@ -1,6 +1,7 @@
 #include "cli/Process_input.h"
 
 #include "cli/Switches.h"
+#include "cli/Unheeded_words.h"
 #include "cli/Usage.h"
 #include "foundation/My_double2string.h"
 
@@ -52,24 +53,32 @@ void Set_if_given(bool given, const T& given_value, bool& use_value, T& value) {
 
 }  // namespace
 
-Xusage_printed::Xusage_printed(bool was_asked) : Xerror_msg(""), on_request(was_asked) {}
+Xusage_printed::Xusage_printed(bool was_asked, const std::string& faults)
+    : Xerror_msg(""), on_request(was_asked), errors(faults) {}
 
-Switch_values Read_command_line(int argc, const char* const* argv) {
+Xusage_printed::~Xusage_printed() noexcept = default;
+
+Switch_values Read_command_line(int argc, const char* const* argv,
+                                std::vector<std::string>& unheeded) {
   const Switches switches(argc, argv);
+  const Switch_map params(switches.Params());
+  unheeded = Unheeded_words(params);
   Switch_values values;
-  Examin_params(Switch_map(switches.Params()), values);
+  Examin_params(params, values);
   if (values.help) {
     Print_detailed_usage(switches.Prog_name());
   } else if (values.error) {
     Print_usage(switches.Prog_name(), values.errors);
   }
-  if (values.help || values.error) throw Xusage_printed(values.help);
+  if (values.help || values.error)
+    throw Xusage_printed(values.help, Check_keys(params) ? values.errors : "");
   return values;
 }
 
-void Process_input(const Switch_values& values, Run_start& start, Link_map& links) {
+void Process_input(const Switch_values& values, Run_start& start, Link_map& links,
+                   Link_file_check& check) {
   start = Start_of_run(Parameters_of(values));
-  Read_links(start, links);
+  Read_links(start, links, check);
 }
 
 void Process_input(const int& argc, const char* const* argv, std::string& output_dir,
@@ -77,9 +86,11 @@ void Process_input(const int& argc, const char* const* argv, std::string& output
                    bool& use_intensity, double& intensity_threshold, bool& use_single_k,
                    unsigned& single_k, bool& weighted, std::string& com_flag,
                    std::string& run_header) {
-  const Switch_values values = Read_command_line(argc, argv);
+  std::vector<std::string> unheard_words;
+  const Switch_values values = Read_command_line(argc, argv, unheard_words);
   Run_start start;
-  Process_input(values, start, links);
+  Link_file_check unheard;
+  Process_input(values, start, links, unheard);
   output_dir = start.parameters.output_dir;
   directed = directed || values.directed;
   Set_if_given(values.use_time_limit, values.time_limit, use_time_limit, time_limit);

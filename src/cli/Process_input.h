@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "cli/Parameters.h"
 #include "engine/Run_stages.h"
@@ -12,18 +13,21 @@ namespace gns {
 /// Thrown with the empty text when the usage has been printed and nothing is left to say.
 class Xusage_printed : public Xerror_msg {
  public:
-  explicit Xusage_printed(bool on_request);
+  Xusage_printed(bool on_request, const std::string& errors);
+  ~Xusage_printed() noexcept override;
 
-  bool on_request;  ///< the usage was asked for; else the command line is wrong
+  bool on_request;     ///< the usage was asked for; else the command line is wrong
+  std::string errors;  ///< what is wrong with it, but for switches that there are not
 };
 
 /// The switches that were given. Where there is nothing to run, prints the usage and throws
-/// `Xusage_printed`.
-Switch_values Read_command_line(int argc, const char* const* argv);
+/// `Xusage_printed`. `unheeded` gets what is to be said of words that no run heeds, in any case.
+Switch_values Read_command_line(int argc, const char* const* argv,
+                                std::vector<std::string>& unheeded);
 
-/// Turns switches into the start of a run and reads the links. Throws the errors of the link
-/// readers.
-void Process_input(const Switch_values& values, Run_start& start, Link_map& links);
+/// Turns switches into the start of a run and reads the links. Throws the errors of Read_links().
+void Process_input(const Switch_values& values, Run_start& start, Link_map& links,
+                   Link_file_check& check);
 
 /// Turns a command line into the parameters of a run, reads the links and begins the header.
 ///

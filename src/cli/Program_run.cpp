@@ -4,12 +4,14 @@
 #include <iostream>
 #include <new>
 #include <string>
+#include <vector>
 
 #include "cli/Live_display.h"
 #include "cli/Memory_limit.h"
 #include "cli/Process_input.h"
 #include "cli/Resources.h"
 #include "cli/Run_table.h"
+#include "cli/Side_words.h"
 #include "cli/State_lines.h"
 #include "cli/Stop_signals.h"
 #include "control/Clique_find_ext_cont.h"
@@ -28,34 +30,43 @@ namespace {
 /// One run of the program, from its switches to its exit code.
 class Program_run {
  public:
-  explicit Program_run(const Switch_values& values) : values_(values) {}
+  Program_run(const Switch_values& values, const Progress_option& progress)
+      : values_(values), progress_(progress) {}
 
   Exit_code Run() {
     const std::string message = Message();
     std::cout << message << (message.ends_with('\n') ? "" : "\n");
-    if (message == std::bad_alloc().what()) Explain_lack_of_memory();
+    const bool stopped = message == "Process stopped by user.\n" && Stop_signal_came();
+    if (message == std::bad_alloc().what())
+      Explain_lack_of_memory();
+    else if (!way_out_.empty())
+      Tell(way_out_);
+    else if (message != run_finished && !stopped && !Outputs_are_one())
+      Tell(message);
     List_file_faults();
-    if (message == "Process stopped by user.\n" && Stop_signal_came()) return Exit_code::stopped;
+    if (stopped) return Exit_code::stopped;
     if (message != run_finished || !File_faults().empty()) return Exit_code::run_failed;
     Print_findings();
+    Tell(Why_no_communities(summary_, start_.parameters));
     return Exit_code::finished;
   }
 
  private:
   std::string Message() {
     try {
-      const Live_display display(watch_);
+      Live_display display(watch_, progress_);
       memory_limit_ = Limit_memory();
-      Run_stages();
+      Run_stages(display);
       return run_finished;
     } catch (const std::exception& failure) {
+      way_out_ = Way_out(failure);
       return failure.what();
     }
   }
 
-  void Run_stages() {
+  void Run_stages(Live_display& display) {
     Link_map links;
-    Process_input(values_, start_, links);
+    Read(links, display);
     Refuse_bad_parameters(start_.parameters);
     const std::string& output_dir = start_.parameters.output_dir;
     Refuse_own_input(start_.parameters.input_file, output_dir);
@@ -63,6 +74,23 @@ class Program_run {
     Open_results(start_);
     bool approximation_needed = false;
     Run_from_links(start_, links, approximation_needed, summary_);
+  }
+
+  /// Reads the links and tells what is odd about them, even if it ends in a failure.
+  void Read(Link_map& links, Live_display& display) {
+    Link_file_check check(true);
+    const auto tell = [&] {
+      for (const Link_file_warning& warning : check.Warnings())
+        display.Tell(In_words(warning, values_.input_file));
+    };
+    try {
+      Process_input(values_, start_, links, check);
+    } catch (const Xep_wrong_line&) {
+      tell();
+      throw;
+    }
+    tell();
+    display.Tell(Why_no_links(links.size(), check.counts, values_.input_file));
   }
 
   void Explain_lack_of_memory() const {
@@ -82,7 +110,7 @@ class Program_run {
         << external_control::PROGRESS.cliques_found.load()
         << " cliques found.\n"
            "A link weight threshold (-w, -W) leaves fewer cliques, and so does a small time limit\n"
-           "per node (-t 0.001 or less). A single k (-k) doesn't: all cliques are found first.\n";
+           "per node (-t 0.00001). A single k (-k) doesn't: all cliques are found first.\n";
   }
 
   void List_file_faults() const {
@@ -106,6 +134,8 @@ class Program_run {
   }
 
   Switch_values values_;
+  Progress_option progress_;
+  std::string way_out_;  ///< of a failure
   Stopwatch watch_;
   std::uint64_t memory_limit_ = 0;
   Run_start start_;
@@ -114,11 +144,17 @@ class Program_run {
 
 }  // namespace
 
-Exit_code Run_program(int argc, const char* const* argv) {
+Exit_code Run_program(int argc, const char* const* argv, const Progress_option& progress) {
+  std::vector<std::string> unheeded;
   try {
-    return Program_run(Read_command_line(argc, argv)).Run();
+    const Switch_values values = Read_command_line(argc, argv, unheeded);
+    for (const std::string& text : unheeded) Tell("warning: " + text);
+    return Program_run(values, progress).Run();
   } catch (const Xusage_printed& usage) {
-    return usage.on_request ? Exit_code::finished : Exit_code::wrong_usage;
+    if (usage.on_request) return Exit_code::finished;
+    if (!Outputs_are_one()) Tell(usage.errors);
+    for (const std::string& text : unheeded) Tell(text);
+    return Exit_code::wrong_usage;
   } catch (const Xerror_msg& failure) {
     std::cout << failure.what();
     return Exit_code::wrong_usage;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cli/Progress_option.h"
+
 namespace gns {
 
 enum class Exit_code {
@@ -10,7 +12,8 @@ enum class Exit_code {
 };
 
 /// Does what a command line asks for. The message of the run and a table of what was found go to
-/// standard output, what went wrong with files and memory to standard error.
-Exit_code Run_program(int argc, const char* const* argv);
+/// standard output; what went wrong, and where the input or a switch can't be meant, to standard
+/// error.
+Exit_code Run_program(int argc, const char* const* argv, const Progress_option& progress);
 
 }  // namespace gns

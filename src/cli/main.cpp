@@ -1,20 +1,31 @@
+#include <unistd.h>
+
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <iostream>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "cli/Program_run.h"
+#include "cli/Side_words.h"
 #include "cli/Stop_signals.h"
+#include "cli/Terminal_escape.h"
 #include "cli/Usage.h"
+#include "foundation/Errors.h"
 
 namespace {
 
 using gns::Exit_code;
 
 Exit_code Answer(int argc, const char* const* argv) {
+  std::vector<const char*> words(argv, argv + std::min(argc, 1));
+  gns::Progress_option progress;
   for (int i = 1; i < argc; ++i) {
     const std::string_view word = argv[i];
+    if (gns::Read_progress_option(word, progress)) continue;
+    words.push_back(argv[i]);
     if (word == "--help") {
       gns::Print_detailed_usage(std::filesystem::path(argv[0]).filename());
       gns::Print_program_notes();
@@ -25,7 +36,7 @@ Exit_code Answer(int argc, const char* const* argv) {
       return Exit_code::finished;
     }
   }
-  return gns::Run_program(argc, argv);
+  return gns::Run_program(static_cast<int>(words.size()), words.data(), progress);
 }
 
 /// A reader that went away is no failure, any other loss of output is.
@@ -39,7 +50,14 @@ bool Output_arrived() {
 
 int main(int argc, char** argv) {
   gns::Handle_signals();
-  Exit_code code = Answer(argc, argv);
+  const gns::Terminal_escape escaped_output(std::cout, STDOUT_FILENO);
+  const gns::Terminal_escape escaped_errors(std::cerr, STDERR_FILENO);
+  Exit_code code = Exit_code::wrong_usage;
+  try {
+    code = Answer(argc, argv);
+  } catch (const gns::Xerror_msg& wrong_option) {
+    gns::Tell(wrong_option.what());
+  }
   if (!Output_arrived() && code == Exit_code::finished) code = Exit_code::run_failed;
   return static_cast<int>(code);
 }

@@ -53,13 +53,18 @@ Run_start Start_of_run(const Run_parameters& p) {
 }
 
 void Read_links(const Run_start& start, Link_map& links) {
+  Link_file_check unheard;
+  Read_links(start, links, unheard);
+}
+
+void Read_links(const Run_start& start, Link_map& links, Link_file_check& check) {
   CURRENT_STATE_REPORT = " Reading input ...\n";
   const Run_parameters& p = start.parameters;
   if (start.weighted)
     Read_weighted_links(p.input_file, links, p.use_lower_threshold, p.lower_threshold,
-                        p.use_upper_threshold, p.upper_threshold);
+                        p.use_upper_threshold, p.upper_threshold, &check);
   else
-    Read_unw_links(p.input_file, links);
+    Read_unw_links(p.input_file, links, &check);
 }
 
 void Open_results(Run_start& start) {

@@ -6,6 +6,7 @@
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
 #include "files/Com_result_tables.h"
+#include "files/Link_file_check.h"
 #include "files/Unfinished_mark.h"
 #include "graph/Link_map.h"
 #include "search/Attempt.h"
@@ -26,8 +27,10 @@ struct Run_start {
 Run_start Start_of_run(const Run_parameters& parameters);
 
 /// Reads the links of the input file, with weights if the run needs them. Throws the errors of the
-/// link readers.
+/// link readers, for a compressed file or one in UTF-16, too. `check` is told what can't be meant
+/// as it stands.
 void Read_links(const Run_start& start, Link_map& links);
+void Read_links(const Run_start& start, Link_map& links, Link_file_check& check);
 
 /// Completes the header and prepares the results directory, which must be empty or missing and is
 /// marked as unfinished. The first write of a run; throws Xerror_msg if the directory is in use or

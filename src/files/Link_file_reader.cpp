@@ -1,39 +1,79 @@
 #include "files/Link_file_reader.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "control/Clique_find_ext_cont.h"
 #include "files/Cut_lines.h"
+#include "files/Link_file_kind.h"
 #include "foundation/Errors.h"
 #include "foundation/Line_reader.h"
 #include "foundation/My_string_to_d.h"
+#include "foundation/Shown_text.h"
 #include "foundation/Text_fields.h"
 
 namespace gns {
 
 namespace {
 
-/// The loop of both readers. `accept(rest, weight)` reads what follows the two names; it yields
-/// false if the line is bad. `keeps(weight)` tells whether a good line enters the map.
+/// Where a line can't be read: at `rest`, a part of it.
+Place_in_file Place_of(std::string_view rest, const std::string& file_name, std::size_t line_number,
+                       std::string_view line, std::string_view expected) {
+  constexpr std::size_t enough = 1000;  // for any message
+  Skip_space(rest);
+  const std::string_view before(line.data(), rest.data());
+  return {file_name, line_number, Count_characters(before) + 1, std::string(expected),
+          std::string(Beginning(Extract_word(rest), enough))};
+}
+
+/// Counts a link that is dropped for its weight.
+void Count_outside(double weight, Link_counts& counts) {
+  if (counts.outside++ == 0) counts.least_outside = counts.greatest_outside = weight;
+  counts.least_outside = std::min(counts.least_outside, weight);
+  counts.greatest_outside = std::max(counts.greatest_outside, weight);
+}
+
+/// The loop of both readers. `accept(rest, weight)` takes off what it reads behind the two names;
+/// it yields false if the line is bad. `keeps(weight)` tells whether a good line enters the map.
 template <typename Accept, typename Keeps>
-void Read_links(const std::string& file_name, Link_map& links, bool weighted, Accept accept,
-                Keeps keeps) {
+void Read_links(const std::string& file_name, Link_map& links, bool weighted,
+                Link_file_check* check, Accept accept, Keeps keeps) {
   Line_reader reader(file_name, Line_reader::Source::any_file, {'\n'},
                      external_control::Check_inside_long_stage);
+  if (check != nullptr) check->Begin(file_name, reader.Peek(kind_bytes));
+  std::size_t to_look_at = check == nullptr ? 0 : Link_file_check::lines_to_look_at;
+  Link_counts counts;
   links.clear();
   Link_map_builder builder(weighted);
-  for (std::string_view cut_line; Next_cut_line(reader, cut_line);) {
+  std::string_view line;
+  for (std::string_view cut_line; Next_cut_line(reader, cut_line, line);) {
     external_control::Check_inside_long_stage();
+    if (to_look_at > 0) {
+      --to_look_at;
+      check->Look_at(cut_line, reader.Lines_taken());
+    }
     std::string_view rest = cut_line;
     const std::string_view first = Extract_word(rest);
     const std::string_view second = Extract_word(rest);
     double weight = 0.0;
     if (second.empty() || !accept(rest, weight)) {
       links = builder.Build();
-      throw Xep_wrong_line(std::string(cut_line));
+      throw Xep_wrong_line(std::string(cut_line),
+                           Place_of(rest, file_name, reader.Lines_taken(), line,
+                                    second.empty() ? expected_second_name : expected_weight));
     }
-    if (first != second && keeps(weight)) builder.Add(first, second, weight);
+    ++counts.links;
+    if (first == second) {
+      ++counts.self_links;
+    } else if (keeps(weight)) {
+      builder.Add(first, second, weight);
+    } else {
+      Count_outside(weight, counts);
+    }
+    if (check != nullptr && rest.starts_with(','))
+      check->Look_behind_weight(rest, reader.Lines_taken());
   }
+  if (check != nullptr) check->counts = counts;
   links = builder.Build();
 }
 
@@ -46,19 +86,20 @@ bool Link_in_interval(double weight, bool use_lower_threshold, double lower_thre
 }
 
 void Read_weighted_links(const std::string& file_name, Link_map& links, bool use_lower_threshold,
-                         double lower_threshold, bool use_upper_threshold, double upper_threshold) {
+                         double lower_threshold, bool use_upper_threshold, double upper_threshold,
+                         Link_file_check* check) {
   Read_links(
-      file_name, links, true,
-      [](std::string_view rest, double& weight) { return Extract_double(rest, weight); },
+      file_name, links, true, check,
+      [](std::string_view& rest, double& weight) { return Extract_double(rest, weight); },
       [&](double weight) {
         return Link_in_interval(weight, use_lower_threshold, lower_threshold, use_upper_threshold,
                                 upper_threshold);
       });
 }
 
-void Read_unw_links(const std::string& file_name, Link_map& links) {
+void Read_unw_links(const std::string& file_name, Link_map& links, Link_file_check* check) {
   Read_links(
-      file_name, links, false, [](std::string_view, double&) { return true; },
+      file_name, links, false, check, [](std::string_view&, double&) { return true; },
       [](double) { return true; });
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
+#include "files/Link_file_check.h"
 #include "graph/Link_map.h"
 
 namespace gns {
@@ -9,16 +11,23 @@ namespace gns {
 /// A link file holds one link per line: two names and, where weights matter, a number, separated by
 /// white space; what follows is ignored. Blanks and tabs at both ends of a line are cut; then lines
 /// that are empty, begin with "#" or hold one character are skipped, and so are links of a node
-/// with itself. Both readers throw Xep_file_not_found, or Xep_wrong_line with the cut line where a
-/// field is missing or the weight is no number.
+/// with itself. Both readers throw Xep_file_not_found, or Xep_wrong_line with the cut line and its
+/// place where a field is missing or the weight is no number. A `check`, if there is one, watches;
+/// then they also throw Xno_link_file, with the links left alone, where the file is no text.
+
+/// What the place of a wrong line says was expected.
+constexpr std::string_view expected_second_name = "a second name";
+constexpr std::string_view expected_weight = "a number as weight";
 
 /// Reads names and weights. The weights of a repeated (first, second) add up; a line whose own
 /// weight is outside the open interval is dropped.
 void Read_weighted_links(const std::string& file_name, Link_map& links, bool use_lower_threshold,
-                         double lower_threshold, bool use_upper_threshold, double upper_threshold);
+                         double lower_threshold, bool use_upper_threshold, double upper_threshold,
+                         Link_file_check* check = nullptr);
 
 /// Reads names only; every weight is 0.0.
-void Read_unw_links(const std::string& file_name, Link_map& links);
+void Read_unw_links(const std::string& file_name, Link_map& links,
+                    Link_file_check* check = nullptr);
 
 /// True if the weight is strictly above the lower and strictly below the upper bound, as far as
 /// set.

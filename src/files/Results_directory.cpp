@@ -15,9 +15,6 @@ namespace gns {
 
 namespace {
 
-constexpr const char* not_empty =
-    "ERROR: the output directory already exists and it is non-empty.\n";
-
 std::string Six_digits(double value) {
   constexpr unsigned digits = 6;
   return double2string(value, digits);
@@ -25,11 +22,17 @@ std::string Six_digits(double value) {
 
 }  // namespace
 
+Xdir_not_empty::Xdir_not_empty(std::string directory)
+    : Xerror_msg("ERROR: the output directory already exists and it is non-empty.\n"),
+      dir(std::move(directory)) {}
+
+Xdir_not_empty::~Xdir_not_empty() noexcept = default;
+
 void Check_out_dir(const std::string& output_dir) {
   bool empty = true;
   std::string error_text;
   if (!Is_there_such_dir(output_dir, empty, error_text) || empty) return;
-  if (!List_dir(output_dir).empty()) throw Xerror_msg(not_empty);
+  if (!List_dir(output_dir).empty()) throw Xdir_not_empty(output_dir);
 }
 
 void Check_entries(const std::string& output_dir, std::string_view allowed) {
@@ -37,7 +40,7 @@ void Check_entries(const std::string& output_dir, std::string_view allowed) {
   const std::filesystem::directory_iterator end;
   for (std::filesystem::directory_iterator entry(output_dir, error); !error && entry != end;
        entry.increment(error))
-    if (entry->path().filename() != allowed) throw Xerror_msg(not_empty);
+    if (entry->path().filename() != allowed) throw Xdir_not_empty(output_dir);
   if (error)
     throw Xerror_msg("ERROR: the output directory '" + output_dir +
                      "' can't be listed: " + error.message() + ".\n");

@@ -4,14 +4,25 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/Errors.h"
+
 namespace gns {
 
-/// Refuses a directory that holds anything: throws Xerror_msg. A missing or an empty one passes,
-/// and so does one that counts as empty by its size.
+/// A directory for results holds something already.
+class Xdir_not_empty : public Xerror_msg {
+ public:
+  explicit Xdir_not_empty(std::string dir);
+  ~Xdir_not_empty() noexcept override;
+
+  std::string dir;
+};
+
+/// Refuses a directory that holds anything: throws Xdir_not_empty. A missing or an empty one
+/// passes, and so does one that counts as empty by its size.
 void Check_out_dir(const std::string& output_dir);
 
-/// Refuses a directory by what stands in it, whatever its size: throws Xerror_msg if there is
-/// anything but `allowed`, or if it can't be listed.
+/// Refuses a directory by what stands in it, whatever its size: throws Xdir_not_empty if there is
+/// anything but `allowed`, Xerror_msg if it can't be listed.
 void Check_entries(const std::string& output_dir, std::string_view allowed = {});
 
 /// Sets `run_header` to its first three lines: the input's absolute path and the thresholds.

@@ -49,6 +49,31 @@ TEST(Stop, EndsALongSearchWithinASecond) {
   }
 }
 
+/// A pipe in which a line goes on as long as somebody reads it.
+class Endless_line {
+ public:
+  explicit Endless_line(const std::string& path)
+      : pipe_(::mkfifo(path.c_str(), 0600) == 0
+                  ? ::open(path.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC)
+                  : -1),
+        writer_([this](const std::stop_token& end) {
+          const std::string block(4096, 'x');
+          while (!end.stop_requested())
+            if (::write(pipe_, block.data(), block.size()) < 0)
+              std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }) {}
+  Endless_line(const Endless_line&) = delete;
+  Endless_line& operator=(const Endless_line&) = delete;
+  ~Endless_line() {
+    writer_ = {};
+    ::close(pipe_);
+  }
+
+ private:
+  int pipe_;
+  std::jthread writer_;
+};
+
 /// What the program may wait for: somebody who opens a pipe, somebody who writes to it, the end of
 /// a line.
 TEST(Stop, EndsTheWaitForInput) {
@@ -57,7 +82,8 @@ TEST(Stop, EndsTheWaitForInput) {
   ASSERT_EQ(::mkfifo(temp.Path("silent").c_str(), 0600), 0);
   const int silent = ::open(temp.Path("silent").c_str(), O_RDWR | O_CLOEXEC);
   ASSERT_EQ(::write(silent, "a b\nc", 5), 5);
-  for (const std::string input : {"unopened", "silent", "/dev/zero"}) {
+  const Endless_line endless(temp.Path("endless"));
+  for (const std::string input : {"unopened", "silent", "endless"}) {
     Child child(temp, {"-i", input, "-o", "out"});
     Wait_until([&] { return Catches_interrupt(child.Pid()); });
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
@@ -88,7 +114,8 @@ TEST(Stop, SecondSignalEndsAtOnce) {
   const std::string block(4096, 'x');
   while (::write(ends[1], block.data(), block.size()) > 0) continue;
   // Once stopped, the program waits for somebody who reads its message.
-  Child child(temp, {"-i", "/dev/zero"}, [&] {
+  const Endless_line endless(temp.Path("endless"));
+  Child child(temp, {"-i", "endless"}, [&] {
     ::fcntl(ends[1], F_SETFL, 0);
     ::dup2(ends[1], STDOUT_FILENO);
   });
@@ -160,9 +187,8 @@ std::string Shown(const char* variable, const char* value, const std::string& aw
 
 TEST(LiveDisplay, ShowsProgressAndErasesIt) {
   const std::string shown = Shown("TERM", "xterm", "\x1b[3A");
-  EXPECT_NE(
-      shown.find("\x1b[1;36m Locating cliques:\x1b[0m\x1b[K\r\n 66 of 66 nodes to \x1b[K\r\n"),
-      std::string::npos)
+  EXPECT_NE(shown.find("\x1b[1;36m Locating cliques:\x1b[0m\x1b[K\r\n 66 of 66 nodes to\x1b[K\r\n"),
+            std::string::npos)
       << shown;
   EXPECT_TRUE(shown.ends_with("A\x1b[J")) << shown;
 }
@@ -172,6 +198,42 @@ TEST(LiveDisplay, LeavesColourOutWhereItIsNotWanted) {
   EXPECT_NE(shown.find("\r Locating cliques:\x1b[K\r\n"), std::string::npos) << shown;
   EXPECT_EQ(shown.find('m' + std::string("\x1b")), std::string::npos) << shown;
   EXPECT_EQ(Shown("TERM", "dumb", ""), "");
+}
+
+/// A wrong line, a name and a path can't give the terminal commands; a file gets them as they are.
+TEST(Terminal, GetsNoControlCharacters) {
+  const Temp_dir temp;
+  temp.Write("odd", "a b\n\x1b[31m\xC3\xA9\x9b\n");
+  Child in_file(temp, {"-i", "odd"});
+  EXPECT_EQ(in_file.Wait(), 1);
+  EXPECT_NE(in_file.Out().find("\n\x1b[31m\xC3\xA9\x9b\n"), std::string::npos);
+  Terminal terminal;
+  Child child(temp, {"-i", "odd", "-o", "\x1b]0;"}, [&] {
+    ::setenv("TERM", "dumb", 1);
+    ::dup2(terminal.Open(), STDOUT_FILENO);
+    ::dup2(STDOUT_FILENO, STDERR_FILENO);
+  });
+  EXPECT_EQ(child.Wait(), 1);
+  terminal.Read();
+  const std::string& text = terminal.Text();
+  EXPECT_TRUE(terminal.Has("\n\\x1b[31m\xC3\xA9\\x9b\r\nvorlane: odd, line 2, column")) << text;
+  EXPECT_EQ(text.find("ERROR", text.find("ERROR") + 1), std::string::npos) << text;  // told once
+  EXPECT_FALSE(terminal.Has("\x1b")) << text;
+}
+
+TEST(Progress, IsTellableInALog) {
+  const Temp_dir temp;
+  temp.Write("hard", Linked_groups(66, 3));
+  const std::pair<const char*, const char*> cases[] = {
+      {"--progress=0.05", "vorlane: Locating cliques: 66 of 66 nodes to do (0.00% done), "},
+      {"--progress=json,0.05", R"(,"report":["Locating cliques:","66 of 66 nodes)"}};
+  for (const auto& [option, awaited] : cases) {
+    Child child(temp, {"-i", "hard", "-o", option + 10, option});
+    Wait_until([&, text = awaited] { return child.Err().find(text) != std::string::npos; });
+    child.Signal(SIGINT);
+    EXPECT_EQ(child.Wait(), 130);
+    EXPECT_TRUE(child.Err().ends_with("\n") && !child.Err().ends_with("\n\n")) << child.Err();
+  }
 }
 
 }  // namespace

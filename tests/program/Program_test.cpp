@@ -71,27 +71,48 @@ TEST_F(Program, EndsWithItsExitCodeAndMessage) {
     Words arguments;
     int code;
     std::string printed;
+    std::string told;  ///< on standard error
   };
   std::filesystem::create_directories(temp_.Path("full/k=3"));
   std::filesystem::create_directories(temp_.Path("dir"));
   const Words before = Entries();
   for (const Case& c : std::vector<Case>{
-           {{"-h"}, 0, " When using vorlane you"},
-           {{"-i", "none", "--help"}, 0, "Exit codes: 0 finished"},
-           {{"--version", "-q"}, 0, "Vorlane 1."},
-           {{}, 2, "You must specify an input file.\n"},
-           {{"-i", "net", "-q"}, 2, "unknown parameter in parameter list! (Check_keys()).\n"},
-           {{"-i", "net", "-w", "3", "-W", "2"}, 2, " The sepcified lower threshold"},
-           {{"-i", "none"}, 1, "ERROR : File not found: 'none' \n"},
-           {{"-i", "dir"}, 1, "ERROR : File not found: 'dir' \n"},
-           {{"-i", "net", "-o", "full"}, 1, "already exists and it is non-empty.\n"},
-           {{"-i", "net", "-o", ""}, 1, "ERROR: the output directory has no name.\n"},
-           {{"-i", "net", "-I", "1", "-k", "2"}, 1, "-clique size must be at least 3"},
-           {{"-i", "net", "-o", "net"}, 1, "it is the input file"},
-           {{"-i", "net", "-o", "dir/../net/out"}, 1, "ERROR: Make_dir() called with"}}) {
+           {{"-h"}, 0, " When using vorlane you", ""},
+           {{"-i", "none", "--help"}, 0, "Exit codes: 0 finished", ""},
+           {{"--version", "-q"}, 0, "Vorlane 1.", ""},
+           {{}, 2, "You must specify an input file.\n", "You must specify an input file.\n"},
+           {{"-i", "net", "-q"},
+            2,
+            "unknown parameter in parameter list! (Check_keys()).\n",
+            "'-q' is no switch; --help shows all that there are\n"},
+           {{"-i", "net", "-w", "3", "-W", "2"},
+            2,
+            " The sepcified lower threshold",
+            "The sepcified lower threshold"},
+           {{"-i", "net", "--progress=0"}, 2, "", "can't be '0'.\n"},
+           {{"-i", "none"},
+            1,
+            "ERROR : File not found: 'none' \n",
+            temp_.Path("none") + ": No such file or directory\n"},
+           {{"-i", "dir"},
+            1,
+            "ERROR : File not found: 'dir' \n",
+            temp_.Path("dir") + ": Is a directory\n"},
+           {{"-i", "net", "-o", "full"},
+            1,
+            "already exists and it is non-empty.\n",
+            temp_.Path("full") + ", which holds something (1 entries). Choose another"},
+           {{"-i", "net", "-o", ""}, 1, "ERROR: the output directory has no name.\n", "no name"},
+           {{"-i", "net", "-I", "1", "-k", "2"},
+            1,
+            "-clique size must be at least 3",
+            "at least 3"},
+           {{"-i", "net", "-o", "net"}, 1, "it is the input file", "it is the input file"},
+           {{"-i", "net", "-o", "dir/../net/out"}, 1, "ERROR: Make_dir() called with", ""}}) {
     EXPECT_EQ(Run(c.arguments), c.code) << out_;
     EXPECT_NE(out_.find(c.printed), std::string::npos) << out_;
-    EXPECT_EQ(err_, "");
+    EXPECT_NE(err_.find(c.told), std::string::npos) << err_;
+    EXPECT_EQ(err_.empty(), c.code == 0) << err_;
     EXPECT_EQ(Entries(), before);
   }
 }
@@ -100,7 +121,9 @@ TEST_F(Program, ReadsWhatLinkFilesHold) {
   const std::string long_name(1 << 20U, 'x');
   const std::vector<std::pair<std::string, std::string>> cases{
       {"", ""},
-      {std::string("a\0b \xff\r\n# remark\n\nb c", 20), std::string("a\0b \xff\nb c\n", 10)},
+      {"ab \xff\r\n# remark\n\nb c", "ab \xff\nb c\n"},
+      {"a b\n#" + std::string(5000, '-') + "\nc d" + std::string(1, '\0'),
+       "a b\nc d" + std::string(1, '\0') + "\n"},
       {"a b\n" + long_name + " y\n", "a b\n" + long_name + " y\n"}};
   for (const auto& [contents, links] : cases) {
     std::filesystem::remove_all(temp_.Path("out"));
@@ -108,6 +131,74 @@ TEST_F(Program, ReadsWhatLinkFilesHold) {
     EXPECT_EQ(Run({"-i", "odd", "-o", "out"}), 0) << out_.substr(0, 200);
     EXPECT_TRUE(Links() == links) << contents.substr(0, 200);
   }
+}
+
+/// Links that can't be meant as they stand: what is said of them on standard error.
+TEST_F(Program, TellsWhatIsOddAboutLinks) {
+  using namespace std::string_literals;
+  struct Case {
+    std::string contents;
+    Words arguments;
+    int code;
+    std::vector<std::string> told;
+  };
+  const std::vector<Case> cases{
+      {"\xEF\xBB\xBF"
+       "a b\n"s,
+       {},
+       0,
+       {"line 1: the mark of UTF-8", "tail -c +4 < odd"}},
+      {"a b\rb c\r", {}, 0, {"line 1: lines end with a carriage return alone", "tr '\\r'"}},
+      {"# x\nsource target\na b\n", {}, 0, {"line 2: this looks like a header", "sed '2s/^/#/'"}},
+      {"person other w\na b 1\n", {}, 0, {"line 1: this looks like a header"}},
+      {"a b\n\"c\" d\n\"e\" f\n", {}, 0, {"line 2: quotation marks"}},
+      {"Ada, Bruno, 9\n", {}, 0, {"commas, semicolons or bars"}},
+      {"a b 1\nb c 0,5\n", {"-w", "0.1"}, 0, {"line 2: the weight is read up to its comma"}},
+      {"*Vertices 2\n1 \"a\"\n2 \"b\"\n", {}, 0, {"a file of another format"}},
+      {"% size\n", {}, 0, {"line 1: this looks like a comment"}},
+      {"a -> b\n", {}, 0, {"line 1: the arrow"}},
+      {"Ada L\tBruno\n", {}, 0, {"line 1: a name between tabs holds blanks"}},
+      {"# none\n", {}, 0, {"there are no links in odd"}},
+      {"a a\n", {}, 0, {"of 1 links in odd each is one of a node with itself"}},
+      {"a b 2\nc d 0.5\n", {"-w", "2"}, 0, {"none is within", "go from 0.5 to 2\n"}},
+      {"a b\nb c\nc a\n", {"-k", "4"}, 0, {"at k = 4, as the largest clique has 3 nodes"}},
+      {"a b\n", {}, 0, {"as no three nodes are all linked"}},
+      {"\x1F\x8B\x08 x\n", {}, 1, {"a gzip file. Try zcat odd | vorlane -i /dev/stdin"}},
+      {"PK\3\4 x\n", {}, 1, {"a zip archive"}},
+      {"\xFF\xFE"
+       "a\0 \0b\0"s,
+       {},
+       1,
+       {"text in UTF-16. Try iconv -f UTF-16 "}},
+      {"a\0 \0b\0\n\0"s, {}, 1, {"text in UTF-16. Try iconv -f UTF-16LE "}},
+      {"a b\n"s + std::string(4091, 'c') + "\0 d"s, {}, 1, {"byte 4096 is a zero"}},
+      {"a b\n\t \xC3\xA9  \n", {}, 1, {"odd, line 2, column 4: expected a second name, but"}},
+      {"a,b,1\n", {}, 1, {"Fields are separated by blanks or tabs: tr ',;|' ' ' < odd"}},
+      {"a b\x1B x1\n", {"-I", "1"}, 1, {"line 1, column 6: expected a number", "found 'x1'."}},
+      {"a b\n", {"-w", "1"}, 1, {"Runs with -w, -W or -I need a weight"}}};
+  temp_.Write("odd", "");
+  const Words before = Entries();
+  for (const Case& c : cases) {
+    temp_.Write("odd", c.contents);
+    Words arguments{"-i", "odd", "-o", "out"};
+    arguments.insert(arguments.end(), c.arguments.begin(), c.arguments.end());
+    EXPECT_EQ(Run(arguments), c.code) << out_;
+    for (const std::string& part : c.told) {
+      const std::size_t at = err_.find(part);
+      EXPECT_TRUE(at != std::string::npos && err_.find(part, at + 1) == std::string::npos)
+          << part << "\n"
+          << err_;
+    }
+    EXPECT_TRUE(c.code == 0 || Entries() == before) << c.told[0];
+    std::filesystem::remove_all(temp_.Path("out"));
+  }
+}
+
+TEST_F(Program, CutsALongWrongLine) {
+  temp_.Write("odd", std::string(1 << 20U, 'x'));
+  EXPECT_EQ(Run({"-i", "odd"}), 1);
+  EXPECT_TRUE(out_.ends_with("x... (1044480 more bytes left out)\n")) << out_.size();
+  EXPECT_LT(err_.size(), 500U);
 }
 
 TEST_F(Program, UnreadableFile) {

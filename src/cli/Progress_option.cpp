@@ -1,0 +1,47 @@
+#include "cli/Progress_option.h"
+
+#include <algorithm>
+#include <string>
+
+#include "foundation/Errors.h"
+#include "foundation/My_string_to_d.h"
+
+namespace gns {
+
+namespace {
+
+/// Takes one of the values behind "="; false if it is none.
+bool Take_value(std::string_view value, Progress_option& option) {
+  constexpr double longest = 1e6;
+  if (value == "json") {
+    option.form = Progress_option::Form::json;
+  } else if (value == "none") {
+    option.form = Progress_option::Form::none;
+  } else {
+    return stringtodouble(value, option.interval) && option.interval > 0.0 &&
+           option.interval <= longest;
+  }
+  return true;
+}
+
+}  // namespace
+
+bool Read_progress_option(std::string_view word, Progress_option& option) {
+  constexpr std::string_view name = "--progress";
+  if (!word.starts_with(name)) return false;
+  std::string_view values = word.substr(name.size());
+  if (!values.empty() && values.front() != '=') return false;
+  option = {Progress_option::Form::lines};
+  while (!values.empty()) {
+    values.remove_prefix(1);
+    const std::string_view value = values.substr(0, values.find(','));
+    if (!Take_value(value, option))
+      throw Xerror_msg("--progress takes seconds, json or none, as in --progress=5 or " +
+                       std::string("--progress=json,5; it can't be '") + std::string(value) +
+                       "'.\n");
+    values.remove_prefix(value.size());
+  }
+  return true;
+}
+
+}  // namespace gns

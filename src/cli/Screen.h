@@ -1,0 +1,22 @@
+#pragma once
+
+#include "cli/Live_display.h"
+
+namespace gns {
+
+/// A few lines at the end of a terminal that are written anew each time.
+class Screen : public Progress_view {
+ public:
+  Screen();
+  void Show(const Stopwatch& watch) override;
+  void Step_aside() override;
+  void End(const Stopwatch& watch) override;
+
+ private:
+  [[nodiscard]] std::string To_the_top() const;
+
+  std::size_t shown_ = 0;  ///< lines
+  bool coloured_;
+};
+
+}  // namespace gns

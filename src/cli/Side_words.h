@@ -1,0 +1,33 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+#include "engine/Run_parameters.h"
+#include "engine/Run_summary.h"
+#include "files/Link_file_check.h"
+
+namespace gns {
+
+/// What the program says on standard error beside the messages of a run: what went wrong where,
+/// what can't have been meant, and the way out.
+
+/// Prints a text as lines that begin with "vorlane: ". Nothing if the text is empty.
+void Tell(const std::string& text);
+
+/// True if standard output and standard error end up in the same place.
+bool Outputs_are_one();
+
+/// Where and why a run failed, and what to do; empty where the message tells all that there is.
+std::string Way_out(const std::exception& failure);
+
+/// A warning on a link file.
+std::string In_words(const Link_file_warning& warning, const std::string& file);
+
+/// Why a run has no links; empty if it has.
+std::string Why_no_links(std::size_t links, const Link_counts& counts, const std::string& file);
+
+/// Why a run has no communities though it finished; empty if that needs no words.
+std::string Why_no_communities(const Run_summary& summary, const Run_parameters& parameters);
+
+}  // namespace gns
