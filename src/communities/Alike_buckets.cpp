@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "control/Clique_find_ext_cont.h"
+
 namespace gns {
 
 namespace {
@@ -42,6 +44,7 @@ void Alike_buckets::Build(const Clique_vector& cliques, std::span<const std::uin
   unsigned column = 0;
   for (const unsigned groups : splits) {
     for (unsigned group = 0; group < groups; ++group, ++column) {
+      external_control::Check_inside_long_stage();
       for (Clique_index i = 0; i < cliques.size(); ++i)
         parts[i] = {Part_of(folds[i], groups, group), i};
       std::sort(parts.begin(), parts.end());

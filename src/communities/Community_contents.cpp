@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include "control/Clique_find_ext_cont.h"
+
 namespace gns {
 
 namespace {
@@ -49,10 +51,12 @@ void Community_contents::Append(std::span<const Clique_index> com_cliques,
   Collect_members(before);
   Collect_sources(before);
   result.coms.push_back(members_);
-  for (std::size_t i = 0; i < members_.size(); ++i)
+  for (std::size_t i = 0; i < members_.size(); ++i) {
+    external_control::Check_inside_long_stage();
     Append_links(members_[i],
                  {sources_.data() + source_starts_[i], source_starts_[i + 1] - source_starts_[i]},
                  result);
+  }
   result.com_links.Close_row();
   for (const Node_index member : members_) place_of_[member] = 0;
 }
@@ -90,6 +94,7 @@ void Community_contents::Collect_members(const Communities& before) {
 template <typename Use>
 void Community_contents::For_each_source(const Communities& before, Use use) const {
   for (const std::uint32_t part : parts_) {
+    external_control::Check_inside_long_stage();
     const std::span<const Index_pair> links = before.com_links[part];
     for (std::size_t start = 0, end = 0; start < links.size(); start = end) {
       while (end < links.size() && links[end].first == links[start].first) ++end;
@@ -98,6 +103,7 @@ void Community_contents::For_each_source(const Communities& before, Use use) con
     }
   }
   for (const Clique_index clique : new_cliques_) {
+    external_control::Check_inside_long_stage();
     const Node_span row = cliques_[clique];
     for (std::size_t i = 0; i + 1 < row.size(); ++i)
       use(row[i],

@@ -5,6 +5,7 @@
 #include <numeric>
 
 #include "communities/Coms_funcs.h"
+#include "control/Polled_resize.h"
 #include "foundation/Processor_level.h"
 
 namespace gns {
@@ -56,9 +57,10 @@ void Unclaimed_cliques::Deal_turns() {
 }
 
 void Unclaimed_cliques::Sign() {
-  short_signatures_.resize(cliques_.size());
-  long_signatures_.resize(cliques_.size());
+  external_control::Assign_zeros(short_signatures_, cliques_.size());
+  external_control::Assign_zeros(long_signatures_, cliques_.size());
   for (std::size_t clique = 0; clique < cliques_.size(); ++clique) {
+    external_control::Check_inside_long_stage();
     for (const Node_index node : cliques_[clique]) {
       short_signatures_[clique].Add(turns_[node]);
       long_signatures_[clique].Add(turns_[node]);
@@ -79,8 +81,10 @@ void Unclaimed_cliques::For_each_list_of(Clique_index clique, Use use) const {
 /// Gives each list its place, for all cliques.
 void Unclaimed_cliques::Lay_out_lists() {
   lists_.assign(std::size_t{node_limit_} + largest_ + 1 + alike_.Count(), List{});
-  for (Clique_index clique = 0; clique < cliques_.size(); ++clique)
+  for (Clique_index clique = 0; clique < cliques_.size(); ++clique) {
+    external_control::Check_inside_long_stage();
     For_each_list_of(clique, [this](List_index list) { ++lists_[list].length; });
+  }
   std::size_t start = 0;
   std::uint32_t longest = 0;
   for (List& list : lists_) {
@@ -89,18 +93,20 @@ void Unclaimed_cliques::Lay_out_lists() {
     longest = std::max(longest, list.length);
   }
   passed_.resize(longest + std::size_t{1});
-  list_signatures_.resize(start);
-  list_cliques_.resize(start);
+  external_control::Assign_zeros(list_signatures_, start);
+  external_control::Assign_zeros(list_cliques_, start);
 }
 
 void Unclaimed_cliques::Fill_lists() {
   std::vector<Clique_index> by_size(cliques_.size());
   std::iota(by_size.begin(), by_size.end(), 0U);
   std::stable_sort(by_size.begin(), by_size.end(), [this](Clique_index a, Clique_index b) {
+    external_control::Check_inside_long_stage();
     return cliques_[a].size() > cliques_[b].size();
   });
   for (List& list : lists_) list.length = 0;
   for (const Clique_index clique : by_size) {
+    external_control::Check_inside_long_stage();
     For_each_list_of(clique, [this, clique](List_index index) {
       List& list = lists_[index];
       const std::size_t place = list.start + list.length++;

@@ -3,13 +3,18 @@
 #include <algorithm>
 #include <utility>
 
+#include "control/Clique_find_ext_cont.h"
+
 namespace gns {
 
 Index_links::Index_links(const std::vector<Index_pair>& keys, std::vector<double> weights,
                          Node_index node_count)
     : rows_(node_count,
             [&](auto enter) {
-              for (const Index_pair& key : keys) enter(key.first, key.second);
+              for (const Index_pair& key : keys) {
+                external_control::Check_inside_long_stage();
+                enter(key.first, key.second);
+              }
             }),
       weights_(std::move(weights)) {}
 

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "control/Clique_find_ext_cont.h"
 #include "foundation/Errors.h"
 #include "graph/Pair_sort.h"
 
@@ -34,11 +35,14 @@ class Node_numbering {
   std::vector<std::uint32_t> name_of_;
 };
 
-/// Calls use(first, second) for each key, ascending.
+/// Calls use(first, second) for each key, ascending; polls on the way.
 template <typename Use>
 void For_each_key(const Index_links& links, Use use) {
   for (Node_index first = 1; first <= links.Node_count(); ++first)
-    for (const Node_index second : links.Row(first)) use(first, second);
+    for (const Node_index second : links.Row(first)) {
+      external_control::Check_inside_long_stage();
+      use(first, second);
+    }
 }
 
 }  // namespace
@@ -51,6 +55,7 @@ void Convert_s_links(Index_links& index_links, Node_names& node_names, const Lin
   std::vector<double> weights;
   if (links.Has_weights()) weights.reserve(links.size());
   for (std::size_t i = 0; i < links.size(); ++i) {
+    external_control::Check_inside_long_stage();
     const Node_index first = numbering.Index_of(links.Pairs()[i].first);
     const Node_index second = numbering.Index_of(links.Pairs()[i].second);
     const bool swapped = !directed && second < first;
@@ -87,6 +92,7 @@ void Dir_vtx_map_from_link_map(Dir_vertex_map& dir_vtx_map, const Index_links& i
   std::vector<Node_index> both;
   Adjacency neighs(count, [&](auto enter) {
     for (Node_index node = 1; node <= count; ++node) {
+      external_control::Check_inside_long_stage();
       both.clear();
       std::ranges::set_union(out[node], in[node], std::back_inserter(both));
       for (const Node_index neigh : both) enter(node, neigh);

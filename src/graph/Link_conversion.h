@@ -7,6 +7,8 @@
 
 namespace gns {
 
+/// What stands here polls as a long stage does.
+
 /// Numbers the nodes and turns links between names into links between indices.
 ///
 /// Indices are given from 1 on in the order in which the walk over `links` meets the names, first

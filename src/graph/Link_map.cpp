@@ -24,8 +24,12 @@ std::vector<std::uint32_t> Sort_names(Name_table& names) {
     std::uint64_t leading;
     std::uint32_t number;
   };
-  std::vector<Entry> entries(names.size());
-  for (std::uint32_t i = 0; i < names.size(); ++i) entries[i] = {Leading_bytes(names[i]), i};
+  std::vector<Entry> entries;
+  entries.reserve(names.size());
+  for (std::uint32_t i = 0; i < names.size(); ++i) {
+    external_control::Check_inside_long_stage();
+    entries.push_back({Leading_bytes(names[i]), i});
+  }
   std::sort(entries.begin(), entries.end(), [&](const Entry& a, const Entry& b) {
     external_control::Check_inside_long_stage();
     return a.leading != b.leading ? a.leading < b.leading : names[a.number] < names[b.number];
@@ -34,7 +38,10 @@ std::vector<std::uint32_t> Sort_names(Name_table& names) {
   Name_table sorted;
   sorted.Reserve(names.size(), names.Bytes());
   std::vector<std::uint32_t> new_numbers(names.size());
-  for (const Entry& entry : entries) new_numbers[entry.number] = sorted.Add(names[entry.number]);
+  for (const Entry& entry : entries) {
+    external_control::Check_inside_long_stage();
+    new_numbers[entry.number] = sorted.Add(names[entry.number]);
+  }
   names = std::move(sorted);
   return new_numbers;
 }
@@ -50,7 +57,10 @@ void Link_map_builder::Add(std::string_view first, std::string_view second, doub
 Link_map Link_map_builder::Build() {
   Name_table names = names_.Take();
   const std::vector<std::uint32_t> new_numbers = Sort_names(names);
-  for (Index_pair& pair : pairs_) pair = {new_numbers[pair.first], new_numbers[pair.second]};
+  for (Index_pair& pair : pairs_) {
+    external_control::Check_inside_long_stage();
+    pair = {new_numbers[pair.first], new_numbers[pair.second]};
+  }
   Sort_pairs(pairs_, weights_, names.size());
   Fold_equal_pairs(pairs_, weights_);
 

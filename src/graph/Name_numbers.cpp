@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Polled_resize.h"
 
 namespace gns {
 
@@ -31,7 +31,7 @@ std::uint32_t Name_numbers::Of(std::string_view name) {
 }
 
 void Name_numbers::Grow_slots() {
-  slots_.assign(std::max<std::size_t>(1024, slots_.size() * 2), 0);
+  external_control::Assign_zeros(slots_, std::max<std::size_t>(1024, slots_.size() * 2));
   const std::size_t mask = slots_.size() - 1;
   for (std::uint32_t number = 0; number < names_.size(); ++number) {
     external_control::Check_inside_long_stage();

@@ -1,29 +1,31 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
-#include <vector>
+
+#include "foundation/Growing_array.h"
 
 namespace gns {
 
-/// Texts stored one behind the other in one block, known by their number in order of adding. One
-/// that is moved from is empty.
+/// Texts stored one behind the other in one block, known by their number in order of adding.
 class Name_table {
  public:
   /// Appends a text and yields its number. Nothing is folded: the caller sees to distinctness.
   std::uint32_t Add(std::string_view name);
   [[nodiscard]] std::string_view operator[](std::uint32_t number) const {
-    return {bytes_.data() + starts_[number], starts_[number + 1] - starts_[number]};
+    const std::size_t start = number == 0 ? 0 : End_of(number - 1);
+    return {bytes_.data() + start, End_of(number) - start};
   }
-  [[nodiscard]] std::uint32_t size() const {
-    return static_cast<std::uint32_t>(starts_.empty() ? 0 : starts_.size() - 1);
-  }
+  [[nodiscard]] std::uint32_t size() const { return static_cast<std::uint32_t>(ends_.size()); }
   void Reserve(std::uint32_t names, std::size_t bytes);
   [[nodiscard]] std::size_t Bytes() const { return bytes_.size(); }
 
  private:
-  std::vector<char> bytes_;
-  std::vector<std::size_t> starts_;  ///< where each text starts, and the end; empty: no texts
+  [[nodiscard]] std::size_t End_of(std::uint32_t number) const { return ends_.data()[number]; }
+
+  Growing_array<char> bytes_;
+  Growing_array<std::size_t> ends_;
 };
 
 }  // namespace gns

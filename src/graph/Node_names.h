@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "control/Clique_find_ext_cont.h"
 #include "graph/Name_table.h"
 #include "graph/Node_set.h"
 
@@ -17,7 +18,10 @@ class Node_names {
   /// `numbers[i]` is the number in `names` of the name of node i + 1.
   Node_names(const Name_table& names, const std::vector<std::uint32_t>& numbers) {
     names_.Reserve(static_cast<std::uint32_t>(numbers.size()), names.Bytes());
-    for (const std::uint32_t number : numbers) names_.Add(names[number]);
+    for (const std::uint32_t number : numbers) {
+      external_control::Check_inside_long_stage();
+      names_.Add(names[number]);
+    }
   }
 
   /// The name of a node; the empty text for an index without one.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "control/Clique_find_ext_cont.h"
 #include "foundation/Errors.h"
 
 namespace gns {
@@ -16,7 +17,10 @@ Node_order Order_by_row_size(Node_index node_count, Row_of row_of) {
   for (Node_index node = 1; node <= node_count; ++node) ++place[row_of(node).size() + 1];
   std::partial_sum(place.begin(), place.end(), place.begin());
   Node_order order(node_count);
-  for (Node_index node = 1; node <= node_count; ++node) order[place[row_of(node).size()]++] = node;
+  for (Node_index node = 1; node <= node_count; ++node) {
+    external_control::Check_inside_long_stage();
+    order[place[row_of(node).size()]++] = node;
+  }
   return order;
 }
 

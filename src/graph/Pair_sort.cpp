@@ -11,14 +11,17 @@ namespace {
 /// One stable counting pass by the member `key` of the pairs.
 void Scatter_by(Node_index Index_pair::*key, std::vector<Index_pair>& pairs,
                 std::vector<double>& weights, std::uint32_t key_limit) {
-  external_control::Check_inside_long_stage();
   std::vector<std::size_t> place(std::size_t{key_limit} + 1, 0);
-  for (const Index_pair& pair : pairs) ++place[std::size_t{pair.*key} + 1];
+  for (const Index_pair& pair : pairs) {
+    external_control::Check_inside_long_stage();
+    ++place[std::size_t{pair.*key} + 1];
+  }
   for (std::size_t i = 1; i < place.size(); ++i) place[i] += place[i - 1];
 
   std::vector<Index_pair> sorted(pairs.size());
   std::vector<double> sorted_weights(weights.size());
   for (std::size_t i = 0; i < pairs.size(); ++i) {
+    external_control::Check_inside_long_stage();
     const std::size_t to = place[pairs[i].*key]++;
     sorted[to] = pairs[i];
     if (!weights.empty()) sorted_weights[to] = weights[i];
@@ -38,6 +41,7 @@ void Sort_pairs(std::vector<Index_pair>& pairs, std::vector<double>& weights,
 void Fold_equal_pairs(std::vector<Index_pair>& pairs, std::vector<double>& weights) {
   std::size_t kept = 0;
   for (std::size_t i = 0; i < pairs.size(); ++i) {
+    external_control::Check_inside_long_stage();
     const bool repeated = kept > 0 && pairs[i] == pairs[kept - 1];
     if (!repeated) pairs[kept++] = pairs[i];
     if (!weights.empty()) weights[kept - 1] = (repeated ? weights[kept - 1] : 0.0) + weights[i];

@@ -15,7 +15,7 @@ void Sort_pairs(std::vector<Index_pair>& pairs, std::vector<double>& weights,
                 std::uint32_t key_limit);
 
 /// Makes sorted pairs unique: the weight of a pair becomes the sum, from 0.0 on, of the weights of
-/// its occurrences in their order. `weights` is empty or parallel to `pairs`.
+/// its occurrences in their order. `weights` is empty or parallel to `pairs`. Polls likewise.
 void Fold_equal_pairs(std::vector<Index_pair>& pairs, std::vector<double>& weights);
 
 }  // namespace gns

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "control/Clique_find_ext_cont.h"
+
 namespace gns {
 
 Search_graph::Search_graph(const Adjacency& neighs, const Node_order& order)
@@ -9,9 +11,11 @@ Search_graph::Search_graph(const Adjacency& neighs, const Node_order& order)
   std::vector<std::uint32_t> rank(order.size() + 1);
   for (std::uint32_t i = 0; i < order.size(); ++i) rank[order[i]] = i;
   forward_ = Adjacency(neighs.Node_count(), [&](auto enter) {
-    for (Node_index node = 1; node <= neighs.Node_count(); ++node)
+    for (Node_index node = 1; node <= neighs.Node_count(); ++node) {
+      external_control::Check_inside_long_stage();
       for (const Node_index neigh : neighs[node])
         if (rank[node] < rank[neigh]) enter(node, neigh);
+    }
   });
 }
 
@@ -19,6 +23,7 @@ Search_graph::Search_graph(const Dir_vertex_map& dir_vtx_map, const Node_order& 
     : Search_graph(dir_vtx_map.Rows(), order) {
   directions_.reserve(forward_.size());
   for (Node_index node = 1; node <= dir_vtx_map.size(); ++node) {
+    external_control::Check_inside_long_stage();
     auto out = dir_vtx_map.Oneighs(node).begin();
     auto in = dir_vtx_map.Ineighs(node).begin();
     const auto out_end = dir_vtx_map.Oneighs(node).end();
