@@ -1,8 +1,10 @@
 #include "cli/Program_run.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <iostream>
 #include <new>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,8 +35,11 @@ class Program_run {
   Program_run(const Switch_values& values, const Progress_option& progress)
       : values_(values), progress_(progress) {}
 
-  Exit_code Run() {
-    const std::string message = Message();
+  Exit_code Run() { return Report_end(Message()); }
+
+ private:
+  /// Prints what is to be said about a run that ended with this message.
+  Exit_code Report_end(const std::string& message) const {
     std::cout << message << (message.ends_with('\n') ? "" : "\n");
     const bool stopped = message == "Process stopped by user.\n" && Stop_signal_came();
     if (message == std::bad_alloc().what())
@@ -51,12 +56,25 @@ class Program_run {
     return Exit_code::finished;
   }
 
- private:
+  /// Ends the process at the poll that found a stop, without giving memory back.
+  static void Leave() {
+    running_->display_.reset();
+    std::exit(static_cast<int>(running_->Report_end("Process stopped by user.\n")));
+  }
+
   std::string Message() {
+    running_ = this;
+    external_control::BEFORE_UNWINDING = Leave;
+    std::string message = Message_of_stages();
+    display_.reset();
+    return message;
+  }
+
+  std::string Message_of_stages() {
     try {
-      Live_display display(watch_, progress_);
+      display_.emplace(watch_, progress_);
       memory_limit_ = Limit_memory();
-      Run_stages(display);
+      Run_stages();
       return run_finished;
     } catch (const std::exception& failure) {
       way_out_ = Way_out(failure);
@@ -64,9 +82,9 @@ class Program_run {
     }
   }
 
-  void Run_stages(Live_display& display) {
+  void Run_stages() {
     Link_map links;
-    Read(links, display);
+    Read(links);
     Refuse_bad_parameters(start_.parameters);
     const std::string& output_dir = start_.parameters.output_dir;
     Refuse_own_input(start_.parameters.input_file, output_dir);
@@ -77,11 +95,11 @@ class Program_run {
   }
 
   /// Reads the links and tells what is odd about them, even if it ends in a failure.
-  void Read(Link_map& links, Live_display& display) {
+  void Read(Link_map& links) {
     Link_file_check check(true);
     const auto tell = [&] {
       for (const Link_file_warning& warning : check.Warnings())
-        display.Tell(In_words(warning, values_.input_file));
+        display_->Tell(In_words(warning, values_.input_file));
     };
     try {
       Process_input(values_, start_, links, check);
@@ -90,7 +108,7 @@ class Program_run {
       throw;
     }
     tell();
-    display.Tell(Why_no_links(links.size(), check.counts, values_.input_file));
+    display_->Tell(Why_no_links(links.size(), check.counts, values_.input_file));
   }
 
   void Explain_lack_of_memory() const {
@@ -138,6 +156,8 @@ class Program_run {
   std::string way_out_;  ///< of a failure
   Stopwatch watch_;
   std::uint64_t memory_limit_ = 0;
+  static inline Program_run* running_ = nullptr;
+  std::optional<Live_display> display_;
   Run_start start_;
   Run_summary summary_;
 };

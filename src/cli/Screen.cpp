@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "cli/Environment.h"
+#include "foundation/Environment.h"
 #include "cli/Progress_figures.h"
 
 namespace gns {

@@ -23,6 +23,7 @@ std::atomic<bool> STOP_AT_ONCE = false;
 Report_variable CURRENT_STATE_REPORT;
 Report_variable ERROR_MESSAGE;
 Report_variable JAVA_CPP_TRANSLATE_STATE_REPORT;
+std::atomic<void (*)()> BEFORE_UNWINDING = nullptr;
 Progress PROGRESS;
 
 static_assert(std::atomic<bool>::is_always_lock_free, "the flag is set from signal handlers");
@@ -54,6 +55,7 @@ void Progress::Reset() {
 
 void End_by_stop() {
   CURRENT_STATE_REPORT = std::string(" Process stopped by user.\n");
+  if (void (*const leave)() = BEFORE_UNWINDING.load(); leave != nullptr) leave();
   throw std::logic_error("Process stopped by user.\n");
 }
 

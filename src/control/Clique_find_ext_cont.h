@@ -43,6 +43,11 @@ extern Report_variable JAVA_CPP_TRANSLATE_STATE_REPORT;
 /// sorting, percolation, writing), where otherwise it waits for the next stage.
 extern std::atomic<bool> STOP_AT_ONCE;
 
+/// Called at the poll that ends a run, if it is set, in front of the exception. A program that ends
+/// with its run may leave from here: what is not unwound needs not be given back, and giving back
+/// gigabytes takes a while.
+extern std::atomic<void (*)()> BEFORE_UNWINDING;
+
 /// How far the run has come, in figures; each is kept by its stage and read from any thread.
 struct Progress {
   std::atomic<std::uint64_t> cliques_found = 0;
@@ -56,7 +61,8 @@ struct Progress {
 };
 extern Progress PROGRESS;
 
-/// Assigns the report of a stop and throws std::logic_error("Process stopped by user.\n").
+/// Assigns the report of a stop, calls BEFORE_UNWINDING and throws
+/// std::logic_error("Process stopped by user.\n").
 [[noreturn]] void End_by_stop();
 
 /// Returns while no stop is asked for; otherwise ends the run by an exception.
