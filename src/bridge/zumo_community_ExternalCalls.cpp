@@ -217,6 +217,10 @@ void Java_zumo_community_ExternalCalls_Stop_1process(JNIEnv* /*env*/, jobject /*
   gns::Stop_process();
 }
 
+void Java_zumo_community_ExternalCalls_Stop_1at_1once(JNIEnv* /*env*/, jobject /*receiver*/) {
+  gns::Stop_at_once();
+}
+
 void Java_zumo_community_ExternalCalls_Reset_1stop_1process(JNIEnv* /*env*/, jobject /*receiver*/) {
   gns::Reset_stop_process();
 }

@@ -33,6 +33,10 @@ JNIEXPORT jobject JNICALL Java_zumo_community_ExternalCalls_loadComs(JNIEnv* env
 JNIEXPORT void JNICALL Java_zumo_community_ExternalCalls_Stop_1process(JNIEnv* env,
                                                                        jobject receiver);
 
+/// The same, inside long stages too.
+JNIEXPORT void JNICALL Java_zumo_community_ExternalCalls_Stop_1at_1once(JNIEnv* env,
+                                                                        jobject receiver);
+
 /// Takes a stop request back; nothing else does.
 JNIEXPORT void JNICALL Java_zumo_community_ExternalCalls_Reset_1stop_1process(JNIEnv* env,
                                                                               jobject receiver);

@@ -37,6 +37,19 @@ public class ThreadsTest extends Fixture {
     assertEquals("Process stopped by user.\n", end.getMessage());
   }
 
+  /** A stop at once doesn't wait for what the pipe may bring. */
+  @Test
+  public void aRunThatWaitsIsStoppedAtOnce() throws Exception {
+    String pipe = path("pipe");
+    assertEquals(0, new ProcessBuilder("mkfifo", pipe).start().waitFor());
+    FutureTask<OutParams> run = start(new Run(pipe, path("out"))::findAndLoad);
+    while (!ExternalCalls.Read_state_report().equals(" Reading input ...\n")) Thread.yield();
+    Run.stop();
+    Throwable end = assertThrows(ExecutionException.class, run::get).getCause();
+    assertTrue(Run.isStop(end));
+    assertFalse(Files.exists(Path.of(path("out/graph"))));
+  }
+
   @Test
   public void reportsAreReadWhole() throws Exception {
     AtomicBoolean over = new AtomicBoolean();

@@ -52,7 +52,13 @@ public final class ExternalCalls {
    */
   public static native void Stop_process();
 
-  /** Lets runs go on again after {@link #Stop_process}. */
+  /**
+   * As {@link #Stop_process}, but the run ends inside its long stages too: within some hundredths
+   * of a second, perhaps in the middle of a file.
+   */
+  public static native void Stop_at_once();
+
+  /** Lets runs go on again after {@link #Stop_process} or {@link #Stop_at_once}. */
   public static native void Reset_stop_process();
 
   /** Tells in one or more lines what the run or reload is doing, or did last. */

@@ -107,7 +107,16 @@ public final class Run {
     return false;
   }
 
-  /** Whether a run ended with this exception because of {@link ExternalCalls#Stop_process}. */
+  /**
+   * Ends the run that is going on, within some hundredths of a second; to be called from another
+   * thread. Runs started later end at once, until {@link ExternalCalls#Reset_stop_process} is
+   * called.
+   */
+  public static void stop() {
+    ExternalCalls.Stop_at_once();
+  }
+
+  /** Whether a run ended with this exception because it was stopped. */
   public static boolean isStop(Throwable failure) {
     return STOPPED.equals(failure.getMessage());
   }

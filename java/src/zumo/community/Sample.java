@@ -62,7 +62,7 @@ public final class Sample {
   private static void stopOnSignal(CompletableFuture<Integer> exitCode) {
     Runtime.getRuntime().addShutdownHook(new Thread(() -> {
       if (exitCode.isDone()) return;
-      ExternalCalls.Stop_process();
+      Run.stop();
       Runtime.getRuntime().halt(exitCode.join());
     }));
   }
