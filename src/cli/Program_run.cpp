@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "cli/Live_display.h"
-#include "cli/Memory_limit.h"
 #include "cli/Process_input.h"
 #include "cli/Resources.h"
 #include "cli/Run_table.h"
@@ -19,6 +18,7 @@
 #include "control/Clique_find_ext_cont.h"
 #include "engine/Check_switches.h"
 #include "engine/Find_coms.h"
+#include "engine/Memory_limit.h"
 #include "engine/Own_input.h"
 #include "files/Results_directory.h"
 #include "files/Unfinished_mark.h"

@@ -5,7 +5,7 @@
 #include "Child.h"
 #include "Directory_contents.h"
 #include "Linked_groups.h"
-#include "cli/Memory_limit.h"
+#include "engine/Memory_limit.h"
 
 namespace gns {
 namespace {

@@ -1,4 +1,4 @@
-#include "cli/Memory_limit.h"
+#include "engine/Memory_limit.h"
 
 #include <gtest/gtest.h>
 

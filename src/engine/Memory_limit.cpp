@@ -1,4 +1,4 @@
-#include "cli/Memory_limit.h"
+#include "engine/Memory_limit.h"
 
 #include <sys/resource.h>
 #include <unistd.h>
