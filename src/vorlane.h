@@ -85,6 +85,7 @@
 #include "engine/Extract_coms.h"
 #include "engine/Find_coms.h"
 #include "engine/Load_coms.h"
+#include "engine/Memory_limit.h"
 #include "engine/Run_message.h"
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"

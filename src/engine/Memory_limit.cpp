@@ -90,13 +90,6 @@ std::uint64_t Physical_memory() {
   return pages * static_cast<std::uint64_t>(::sysconf(_SC_PAGE_SIZE));
 }
 
-/// A tenth, but on small machines more, stays for other programs and for what is not data.
-std::uint64_t Without_margin(std::uint64_t available) {
-  constexpr std::uint64_t tenth = 10;
-  constexpr std::uint64_t least = 256 * megabyte;
-  return available - std::max(available / tenth, std::min(least, available / 4));
-}
-
 std::uint64_t Parsed(std::string_view text) {
   std::uint64_t number = 0;
   const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -119,14 +112,23 @@ std::uint64_t Available_memory(const std::string& root) {
   return std::min(available ? *available * kilobyte : Physical_memory(), Left_in_own_groups(root));
 }
 
-std::uint64_t Limit_memory() {
+std::uint64_t Default_memory_limit(std::uint64_t available, std::uint64_t machine) {
+  constexpr std::uint64_t most_left = 2 * kilobyte * megabyte;
+  return available - std::min({machine / 4, most_left, available / 2});
+}
+
+std::uint64_t Limit_memory(std::uint64_t bytes) {
   if (!memory_is_limited) return 0;
-  const std::string_view wanted = Environment_variable("VORLANE_MEMORY_LIMIT");
   struct rlimit limit = {};
   if (::getrlimit(RLIMIT_DATA, &limit) != 0) return 0;
-  limit.rlim_cur = std::min<rlim_t>(
-      limit.rlim_cur, wanted.empty() ? Without_margin(Available_memory()) : Parsed(wanted));
+  limit.rlim_cur = std::min<rlim_t>(limit.rlim_cur, bytes);
   return ::setrlimit(RLIMIT_DATA, &limit) == 0 ? limit.rlim_cur : 0;
+}
+
+std::uint64_t Limit_memory() {
+  const std::string_view wanted = Environment_variable("VORLANE_MEMORY_LIMIT");
+  return Limit_memory(wanted.empty() ? Default_memory_limit(Available_memory(), Physical_memory())
+                                     : Parsed(wanted));
 }
 
 }  // namespace gns

@@ -4,8 +4,7 @@
 
 namespace gns {
 
-/// A variable of the environment; empty if it isn't set. Valid as long as nobody changes the
-/// environment, which nothing here does.
+/// A variable of the environment; empty if it isn't set. Valid until somebody changes it.
 std::string_view Environment_variable(const char* name);
 
 }  // namespace gns

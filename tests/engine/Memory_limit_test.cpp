@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <map>
 
 #include "Temp_dir.h"
@@ -10,6 +11,13 @@ namespace gns {
 namespace {
 
 using Files = std::map<std::string, std::string>;
+
+TEST(MemoryLimit, LeavesAQuarterOrTwoGigabytes) {
+  constexpr std::uint64_t gigabyte = std::uint64_t{1} << 30U;
+  for (const auto& [available, machine, limit] :
+       std::vector<std::array<std::uint64_t, 3>>{{60, 64, 58}, {3, 4, 2}, {20, 64, 18}, {2, 64, 1}})
+    EXPECT_EQ(Default_memory_limit(available * gigabyte, machine * gigabyte), limit * gigabyte);
+}
 
 TEST(MemoryLimit, FindsTheTightestBound) {
   constexpr std::uint64_t machine = 8000 * 1024;

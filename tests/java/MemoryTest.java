@@ -38,6 +38,15 @@ public class MemoryTest extends Fixture {
     assertTrue("resident " + (resident() - resident), resident() - resident < 8 * MEGABYTE);
   }
 
+  /** The run holds 5 million cliques at its end; a limit stops it, and later runs go on. */
+  @Test
+  public void endsARunAtItsLimit() throws Exception {
+    Run run = new Run(hardLinks(42), path("hardOut")).memoryLimit(50 * MEGABYTE);
+    Exception end = assertThrows(Exception.class, run::find);
+    assertEquals("The memory limit of the run, 52428800 bytes, was reached.\n", end.getMessage());
+    new Run(example("choir.txt"), newDir()).memoryLimit(1000 * MEGABYTE).find();
+  }
+
   /** A million members of few names fit where a million strings don't. */
   @Test
   public void holdsAMillionMembers() throws Exception {

@@ -22,6 +22,7 @@ public final class Run {
   private Double upperThreshold;
   private Integer singleK;
   private Double timeLimit;
+  private Long memoryLimit;
 
   /** A plain run; the directory must not exist yet, or be empty. */
   public Run(String linkFile, String resultsDir) {
@@ -62,6 +63,16 @@ public final class Run {
   /** Limits the processor time that the search may spend on a node at a time. */
   public Run timeLimit(double seconds) {
     timeLimit = seconds;
+    return this;
+  }
+
+  /**
+   * Limits the memory by which the process may grow during the run; a run that needs more is
+   * stopped and ends with an exception that tells so. The process is looked at some fifty times a
+   * second. Without this there is no limit.
+   */
+  public Run memoryLimit(long bytes) {
+    memoryLimit = bytes;
     return this;
   }
 
@@ -132,6 +143,17 @@ public final class Run {
   }
 
   private OutParams call(Entry entry) throws Exception {
+    if (memoryLimit == null) return callUnwatched(entry);
+    try (MemoryWatch watch = new MemoryWatch(memoryLimit)) {
+      try {
+        return callUnwatched(entry);
+      } catch (Exception failure) {
+        throw watch.hasStopped() && isStop(failure) ? watch.failure() : failure;
+      }
+    }
+  }
+
+  private OutParams callUnwatched(Entry entry) throws Exception {
     return entry.call(
         linkFile, resultsDir, directed,
         intensityThreshold != null, orZero(intensityThreshold),
