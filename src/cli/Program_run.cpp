@@ -66,6 +66,7 @@ class Program_run {
     running_ = this;
     external_control::BEFORE_UNWINDING = Leave;
     std::string message = Message_of_stages();
+    external_control::BEFORE_UNWINDING = nullptr;
     display_.reset();
     return message;
   }
