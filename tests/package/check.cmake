@@ -7,7 +7,7 @@ execute_process(COMMAND ${CMAKE_COMMAND} -S ${SOURCE}/tests/package -B ${BINARY}
 execute_process(COMMAND ${CMAKE_COMMAND} --build ${BINARY} --target consumer_code
                 COMMAND_ERROR_IS_FATAL ANY)
 
-file(STRINGS ${BINARY}/compile_commands.json commands REGEX "\"command\":")
+file(STRINGS ${BINARY}/compile_commands.json commands REGEX "\"command\":" ENCODING UTF-8)
 foreach(command IN LISTS commands)
   if(command MATCHES "consumer")
     set(options_of_ours -O -W -f -D_)
