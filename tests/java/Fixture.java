@@ -53,11 +53,22 @@ public abstract class Fixture {
   }
 
   /** A JVM for calls, each told as its name and its paths, separated by bars. */
-  static ProcessBuilder calling(List<String> options, String... calls) {
+  ProcessBuilder calling(List<String> options, String... calls) throws IOException {
     List<String> program =
         List.of("-Dvorlane.library=" + System.getProperty("vorlane.library"),
             "-cp", System.getProperty("java.class.path"), "Fixture");
-    return java(Stream.of(options, program, List.of(calls)).flatMap(List::stream).toList());
+    List<String> words =
+        Stream.of(options, program, List.of(calls)).flatMap(List::stream).toList();
+    words = linked("examples", System.getProperty("vorlane.examples"), words);
+    return java(
+        linked("built", Path.of(System.getProperty("vorlane.jar")).getParent().toString(), words));
+  }
+
+  /** The words with a link in place of a folder, so that a JVM of any locale can tell it. */
+  private List<String> linked(String name, String target, List<String> words) throws IOException {
+    Path link = Path.of(path(name));
+    if (!Files.exists(link)) Files.createSymbolicLink(link, Path.of(target));
+    return words.stream().map(word -> word.replace(target, link.toString())).toList();
   }
 
   /** Shows the output too, where a word of the JVM makes the test fail. */

@@ -20,7 +20,9 @@ public class SampleTest extends Fixture {
 
   private void check(String links, String options, String... texts) throws Exception {
     String dir = newDir();
-    String table = table((options + " " + links + " " + dir).split(" "));
+    List<String> words = new ArrayList<>(List.of(options.split(" ")));
+    words.addAll(List.of(links, dir));
+    String table = table(words.toArray(String[]::new));
     for (String text : texts) assertTrue(table, table.contains(text));
     assertEquals(table, table("--load", dir));
   }
