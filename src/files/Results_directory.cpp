@@ -1,6 +1,9 @@
 #include "files/Results_directory.h"
 
-#include <filesystem>
+#include <dirent.h>
+
+#include <cerrno>
+#include <memory>
 #include <system_error>
 
 #include "files/Results_names.h"
@@ -36,14 +39,17 @@ void Check_out_dir(const std::string& output_dir) {
 }
 
 void Check_entries(const std::string& output_dir, std::string_view allowed) {
-  std::error_code error;
-  const std::filesystem::directory_iterator end;
-  for (std::filesystem::directory_iterator entry(output_dir, error); !error && entry != end;
-       entry.increment(error))
-    if (entry->path().filename() != allowed) throw Xdir_not_empty(output_dir);
-  if (error)
+  // A directory_iterator of the standard library ends the process where it gets no memory.
+  const auto close = [](DIR* dir) { closedir(dir); };
+  const std::unique_ptr<DIR, decltype(close)> dir(opendir(output_dir.c_str()), close);
+  if (dir != nullptr) errno = 0;
+  while (const dirent* const entry = dir != nullptr ? readdir(dir.get()) : nullptr) {
+    const std::string_view name = entry->d_name;
+    if (name != "." && name != ".." && name != allowed) throw Xdir_not_empty(output_dir);
+  }
+  if (const int error = errno)
     throw Xerror_msg("ERROR: the output directory '" + output_dir +
-                     "' can't be listed: " + error.message() + ".\n");
+                     "' can't be listed: " + std::generic_category().message(error) + ".\n");
 }
 
 void Generate_alap_szoveg(std::string& run_header, const std::string& input_file,
