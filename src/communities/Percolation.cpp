@@ -13,8 +13,9 @@ Percolation::Percolation(const Clique_vector& cliques, std::uint32_t exact_cliqu
     : cliques_(cliques),
       exact_clique_count_(exact_clique_count),
       nested_(nested),
-      unclaimed_(cliques),
-      contents_(cliques) {}
+      contents_(cliques) {
+  for (std::size_t i = 0; i < cliques.size(); ++i) largest_ = std::max(largest_, cliques[i].size());
+}
 
 const Communities& Percolation::At(std::uint32_t k) {
   Claim_all(k);
@@ -32,20 +33,42 @@ const Communities& Percolation::At(std::uint32_t k) {
   return communities_;
 }
 
-/// Walks the cliques in order and opens a community at each that is unclaimed and big enough.
+void Percolation::Prepare() {
+  constexpr std::uint32_t most_of_16_bits = 65536;
+  const Node_ranks nodes(cliques_);
+  if (nodes.count <= most_of_16_bits)
+    unclaimed_.emplace<Unclaimed<std::uint16_t>>(cliques_, nodes, nested_);
+  else
+    unclaimed_.emplace<Unclaimed<std::uint32_t>>(cliques_, nodes, nested_);
+}
+
 void Percolation::Claim_all(std::uint32_t k) {
-  unclaimed_.Reset(nested_ && k > 0 ? k - 1 : k);
   claimed_.clear();
   found_.clear();
+  if (k == 0 || k > largest_) return;
+  if (std::holds_alternative<std::monostate>(unclaimed_)) Prepare();
+  if (auto* const narrow = std::get_if<Unclaimed<std::uint16_t>>(&unclaimed_))
+    Claim_all(k, *narrow);
+  else
+    Claim_all(k, std::get<Unclaimed<std::uint32_t>>(unclaimed_));
+}
+
+/// Walks the cliques in order and opens a community at each that is unclaimed and big enough.
+template <typename Rank>
+void Percolation::Claim_all(std::uint32_t k, Unclaimed<Rank>& unclaimed) {
+  unclaimed.Reset(k == 1 ? 1 : k - 1);  // cliques that share nothing never join
   for (Clique_index clique = 0; clique < cliques_.size(); ++clique)
-    if (cliques_[clique].size() >= k && unclaimed_.Is_unclaimed(clique)) Claim_community(k, clique);
+    if (cliques_[clique].size() >= k && unclaimed.Is_unclaimed(clique))
+      Claim_community(clique, unclaimed);
 }
 
 /// The depth-first walk: all unclaimed neighbours of a clique are claimed before the first of them
 /// is expanded. Each set of neighbours is a range of claimed_, so the walk's stack holds ranges.
-void Percolation::Claim_community(std::uint32_t k, Clique_index seed) {
+template <typename Rank>
+void Percolation::Claim_community(Clique_index seed, Unclaimed<Rank>& unclaimed) {
   const std::size_t first = claimed_.size();
-  std::vector<std::pair<std::size_t, std::size_t>> to_expand = {{first, Claim_neighbours(k, seed)}};
+  std::vector<std::pair<std::size_t, std::size_t>> to_expand = {
+      {first, Claim_neighbours(seed, unclaimed)}};
   if (claimed_.size() == first) return;
   while (!to_expand.empty()) {
     external_control::Check_inside_long_stage();
@@ -54,8 +77,10 @@ void Percolation::Claim_community(std::uint32_t k, Clique_index seed) {
       to_expand.pop_back();
       continue;
     }
+    const Clique_index clique = claimed_[next++];
+    if (next != end) unclaimed.Prefetch(claimed_[next], claimed_[std::min(next + 1, end - 1)]);
     const std::size_t start = claimed_.size();
-    const std::size_t stop = Claim_neighbours(k, claimed_[next++]);
+    const std::size_t stop = Claim_neighbours(clique, unclaimed);
     if (start != stop) to_expand.emplace_back(start, stop);
   }
   const auto is_approximate = [this](Clique_index clique) { return clique >= exact_clique_count_; };
@@ -64,13 +89,13 @@ void Percolation::Claim_community(std::uint32_t k, Clique_index seed) {
                                 claimed_.end(), is_approximate)});
 }
 
-/// Claims the unclaimed cliques that share at least k - 1 nodes with `clique`, ascending; the
-/// clique itself is among them if it is unclaimed. Yields the new end of claimed_.
-std::size_t Percolation::Claim_neighbours(std::uint32_t k, Clique_index clique) {
+/// Claims the unclaimed neighbours of a clique, ascending; the clique itself is among them if it is
+/// unclaimed. Yields the new end of claimed_.
+template <typename Rank>
+std::size_t Percolation::Claim_neighbours(Clique_index clique, Unclaimed<Rank>& unclaimed) {
   const std::size_t start = claimed_.size();
-  const std::uint32_t least_overlap = k == 1 ? 1 : k - 1;  // cliques that share nothing never join
-  unclaimed_.Append_neighbours(clique, least_overlap, claimed_);
-  for (std::size_t i = start; i < claimed_.size(); ++i) unclaimed_.Claim(claimed_[i]);
+  unclaimed.Append_neighbours(clique, claimed_);
+  for (std::size_t i = start; i < claimed_.size(); ++i) unclaimed.Claim(claimed_[i]);
   return claimed_.size();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <variant>
 #include <vector>
 
 #include "communities/Communities.h"
@@ -33,15 +34,27 @@ class Percolation {
     bool approximate;
   };
 
+  /// Nodes get numbers of 16 bits where these are enough.
+  template <typename Rank>
+  using Unclaimed = Unclaimed_cliques<Rank>;
+  using Any_unclaimed =
+      std::variant<std::monostate, Unclaimed<std::uint16_t>, Unclaimed<std::uint32_t>>;
+
+  void Prepare();
   void Claim_all(std::uint32_t k);
-  void Claim_community(std::uint32_t k, Clique_index seed);
-  std::size_t Claim_neighbours(std::uint32_t k, Clique_index clique);
+  template <typename Rank>
+  void Claim_all(std::uint32_t k, Unclaimed<Rank>& unclaimed);
+  template <typename Rank>
+  void Claim_community(Clique_index seed, Unclaimed<Rank>& unclaimed);
+  template <typename Rank>
+  std::size_t Claim_neighbours(Clique_index clique, Unclaimed<Rank>& unclaimed);
   void Collect(bool approximate, Communities& result);
 
   const Clique_vector& cliques_;
   std::uint32_t exact_clique_count_;
   bool nested_;
-  Unclaimed_cliques unclaimed_;
+  std::size_t largest_ = 0;  ///< size of the largest clique
+  Any_unclaimed unclaimed_;  ///< made when it is first needed
   Community_contents contents_;
   std::vector<Clique_index> claimed_;  ///< in claim order, community behind community
   std::vector<Claimed_range> found_;   ///< the communities in order of discovery

@@ -19,10 +19,14 @@ class Signature {
   static constexpr unsigned bits = words * 64;
   static constexpr unsigned positions = bits - collision_bits;
 
-  /// Adds a node by its turn: nodes that are met often should have different turns, modulo
+  /// Where a node stands, by its turn: nodes that are met often should have different turns, modulo
   /// `positions`.
-  void Add(std::size_t turn) {
-    const std::size_t position = turn % positions;
+  static constexpr std::uint8_t Position_of(std::uint32_t turn) {
+    static_assert(positions <= 256);
+    return static_cast<std::uint8_t>(turn % positions);
+  }
+
+  void Add(std::uint8_t position) {
     std::uint64_t& word = words_[position / 64];
     const std::uint64_t bit = std::uint64_t{1} << (position % 64);
     if ((word & bit) != 0) Add_collision();

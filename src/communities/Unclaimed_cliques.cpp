@@ -1,317 +1,132 @@
 #include "communities/Unclaimed_cliques.h"
 
 #include <algorithm>
-#include <iterator>
-#include <numeric>
+#include <array>
+#include <bit>
+#include <cstring>
 
-#include "communities/Coms_funcs.h"
-#include "control/Polled_resize.h"
 #include "foundation/Processor_level.h"
 
 namespace gns {
 
-namespace {
-
-Node_index Node_limit(const Clique_vector& cliques) {
-  const std::vector<Node_index>& members = cliques.Values();
-  return members.empty() ? 1 : *std::ranges::max_element(members) + 1;
-}
-
-constexpr unsigned half = 32;  ///< bits of the lower half of a choice
-
-constexpr std::uint32_t List_of(std::uint64_t choice) { return static_cast<std::uint32_t>(choice); }
-
-/// What coming to a list costs, in entries read.
-constexpr std::uint64_t price_of_a_list = 64;
-
-/// Entries to be read, with the price of coming to their lists.
-std::uint64_t Reading_cost(std::span<const std::uint64_t> choices) {
-  std::uint64_t cost = choices.size() * price_of_a_list;
-  for (const std::uint64_t choice : choices) cost += choice >> half;
-  return cost;
-}
-
-}  // namespace
-
-Unclaimed_cliques::Unclaimed_cliques(const Clique_vector& cliques)
-    : cliques_(cliques),
-      node_limit_(Node_limit(cliques)),
-      largest_(Max_clique_size_in_cl_vec(cliques)),
+template <typename Rank>
+Unclaimed_cliques<Rank>::Unclaimed_cliques(const Clique_vector& cliques, const Node_ranks& nodes,
+                                           bool nested)
+    : ranks_(cliques, nodes),
+      lists_(ranks_, nodes.count, nested),
+      claimed_(cliques.size() / word_bits + 1, 0),
       met_(cliques.size(), 0),
-      marked_(node_limit_, 0) {
-  Deal_turns();
-  Sign();
-  Lay_out_lists();
-}
+      asked_for_(nodes.count, 0),
+      marked_(nodes.count, 0) {}
 
-/// Numbers the nodes from the most frequent on.
-void Unclaimed_cliques::Deal_turns() {
-  std::vector<std::uint32_t> frequency(node_limit_, 0);
-  for (const Node_index node : cliques_.Values()) ++frequency[node];
-  std::vector<Node_index> by_frequency(node_limit_);
-  std::iota(by_frequency.begin(), by_frequency.end(), 0U);
-  std::sort(by_frequency.begin(), by_frequency.end(),
-            [&](Node_index a, Node_index b) { return frequency[a] > frequency[b]; });
-  turns_.resize(node_limit_);
-  for (std::uint32_t turn = 0; turn < node_limit_; ++turn) turns_[by_frequency[turn]] = turn;
-}
-
-void Unclaimed_cliques::Sign() {
-  external_control::Assign_zeros(short_signatures_, cliques_.size());
-  external_control::Assign_zeros(long_signatures_, cliques_.size());
-  for (std::size_t clique = 0; clique < cliques_.size(); ++clique) {
-    external_control::Check_inside_long_stage();
-    for (const Node_index node : cliques_[clique]) {
-      short_signatures_[clique].Add(turns_[node]);
-      long_signatures_[clique].Add(turns_[node]);
-    }
-  }
-}
-
-/// Calls use(index) for each list that a clique stands in.
-template <typename Use>
-void Unclaimed_cliques::For_each_list_of(Clique_index clique, Use use) const {
-  const Node_span members = cliques_[clique];
-  for (const Node_index node : members) use(node);
-  use(node_limit_ + static_cast<List_index>(members.size()));
-  if (!alike_.Built()) return;
-  for (const std::uint32_t bucket : alike_.Of(clique)) use(node_limit_ + largest_ + 1 + bucket);
-}
-
-/// Gives each list its place, for all cliques.
-void Unclaimed_cliques::Lay_out_lists() {
-  lists_.assign(std::size_t{node_limit_} + largest_ + 1 + alike_.Count(), List{});
-  for (Clique_index clique = 0; clique < cliques_.size(); ++clique) {
-    external_control::Check_inside_long_stage();
-    For_each_list_of(clique, [this](List_index list) { ++lists_[list].length; });
-  }
-  std::size_t start = 0;
-  std::uint32_t longest = 0;
-  for (List& list : lists_) {
-    list.start = start;
-    start += list.length;
-    longest = std::max(longest, list.length);
-  }
-  passed_.resize(longest + std::size_t{1});
-  external_control::Assign_zeros(list_signatures_, start);
-  external_control::Assign_zeros(list_cliques_, start);
-}
-
-void Unclaimed_cliques::Fill_lists() {
-  std::vector<Clique_index> by_size(cliques_.size());
-  std::iota(by_size.begin(), by_size.end(), 0U);
-  std::stable_sort(by_size.begin(), by_size.end(), [this](Clique_index a, Clique_index b) {
-    external_control::Check_inside_long_stage();
-    return cliques_[a].size() > cliques_[b].size();
-  });
-  for (List& list : lists_) list.length = 0;
-  for (const Clique_index clique : by_size) {
-    external_control::Check_inside_long_stage();
-    For_each_list_of(clique, [this, clique](List_index index) {
-      List& list = lists_[index];
-      const std::size_t place = list.start + list.length++;
-      list_signatures_[place] = short_signatures_[clique];
-      list_cliques_[place] = clique;
-    });
-  }
-}
-
-/// Dropping claimed cliques moves entries about among those listed, so a list keeps its bigger
-/// cliques in front as long as the least size only falls.
-void Unclaimed_cliques::Reset(std::size_t least_size) {
-  constexpr std::uint64_t dear_question = 4096;  // entries read; buckets pay from here on
-  const bool dense = entries_read_ > std::uint64_t{question_} * dear_question;
-  if (dense && !alike_.Built()) {
-    alike_.Build(cliques_, turns_);
-    Lay_out_lists();
-    least_size_ = 0;
-  }
-  if (least_size_ == 0 || least_size > least_size_) Fill_lists();
-  least_size_ = least_size;
-  question_ = 1;
-  entries_read_ = 0;
+template <typename Rank>
+void Unclaimed_cliques<Rank>::Reset(std::uint32_t overlap) {
+  overlap_ = overlap;
+  lists_.Reset(overlap);
+  std::ranges::fill(claimed_, 0U);
   std::ranges::fill(met_, 0U);
-  for (std::size_t index = 0; index < lists_.size(); ++index) {
-    List& list = lists_[index];
-    const std::size_t next =
-        index + 1 < lists_.size() ? lists_[index + 1].start : list_cliques_.size();
-    const auto first = list_cliques_.begin() + static_cast<std::ptrdiff_t>(list.start);
-    const auto last = list_cliques_.begin() + static_cast<std::ptrdiff_t>(next);
-    const auto end = std::partition_point(
-        first, last, [&](Clique_index clique) { return cliques_[clique].size() >= least_size; });
-    list.length = list.unclaimed = static_cast<std::uint32_t>(end - first);
-    list.asked_for = 0;
-  }
+  std::ranges::fill(asked_for_, 0U);
+  question_ = 1;
 }
 
-void Unclaimed_cliques::Claim(Clique_index clique) {
-  met_[clique] = claimed;
-  if (cliques_[clique].size() < least_size_) return;
-  For_each_list_of(clique, [this](List_index list) { --lists_[list].unclaimed; });
-}
-
-void Unclaimed_cliques::Append_neighbours(Clique_index clique, std::uint32_t overlap,
-                                          std::vector<Clique_index>& neighbours) {
-  const std::span<const Choice> chosen = Choose_lists(clique, overlap);
+template <typename Rank>
+void Unclaimed_cliques<Rank>::Append_neighbours(Clique_index clique,
+                                                std::vector<Clique_index>& neighbours) {
   candidates_.clear();
-  const Short_signature question = short_signatures_[clique].As_question();
-  for (const Choice choice : chosen) {
-    List& list = lists_[List_of(choice)];
-    constexpr std::uint32_t most_claimed_share = 4;  // a list is cleaned when a fourth is claimed
-    if (list.length - list.unclaimed > list.length / most_claimed_share) Drop_claimed(list);
-    Meet(list, question, overlap);
+  const Row row = ranks_[clique];
+  const Row to_read = Lists_to_read(row);
+  if (to_read.empty()) return;
+  Sign_tails(row);
+  for (const Rank& node : to_read) {
+    if (lists_.Unclaimed(node) == 0) continue;
+    Meet(lists_.Read(node, [this](Clique_index met) { return Is_unclaimed(met); }),
+         tails_[static_cast<std::size_t>(&node - row.data())].As_question());
   }
-  if (candidates_.empty()) return;
-  Keep_by_signature(clique, overlap);
-  Append_checked(clique, overlap, neighbours);
+  if (!candidates_.empty()) Append_checked(row, neighbours);
 }
 
-/// Begins a question: collects the nodes of the clique that have unclaimed cliques.
-void Unclaimed_cliques::Collect_choices(Clique_index clique) {
-  const std::uint32_t question_before = question_++;
-  std::size_t count = 0;
-  std::size_t fresh_count = 0;
-  for (const Node_index node : cliques_[clique]) {
-    List& list = lists_[node];
-    const bool fresh = list.unclaimed != 0 && list.asked_for != question_before;
-    list.asked_for = question_;
-    choices_[count] = fresh_[fresh_count] = Choice_of(node);
-    count += list.unclaimed != 0 ? 1U : 0U;
-    fresh_count += fresh ? 1U : 0U;
-  }
-  choices_.resize(count);
-  fresh_.resize(fresh_count);
-}
-
-/// Begins a question and yields the lists to be read: none if fewer than `overlap` nodes of the
-/// clique have an unclaimed clique.
-std::span<const Unclaimed_cliques::Choice> Unclaimed_cliques::Choose_lists(Clique_index clique,
-                                                                           std::uint32_t overlap) {
-  choices_.resize(cliques_[clique].size() + 1);
-  fresh_.resize(choices_.size());
-  Collect_choices(clique);
-  if (choices_.size() < overlap || fresh_.empty()) return {};
-  std::span<const Choice> chosen = fresh_;
-  const std::size_t lists = choices_.size() - overlap + 1;
-  const std::uint64_t fresh_cost = Reading_cost(fresh_);
-  if (fresh_cost > lists * price_of_a_list) {
-    const auto first = choices_.begin();
-    if (lists < choices_.size())
-      std::nth_element(first, first + static_cast<std::ptrdiff_t>(lists - 1), choices_.end());
-    const std::span<const Choice> shortest(choices_.data(), lists);
-    if (Reading_cost(shortest) < fresh_cost) chosen = shortest;
-  }
-  chosen = Choose_among_all(clique, overlap, chosen);
-  for (const Choice choice : chosen)
-    __builtin_prefetch(list_signatures_.data() + lists_[List_of(choice)].start);
-  return chosen;
-}
-
-/// Compares what was chosen, if it is dear, with the lists of sizes and buckets.
-std::span<const Unclaimed_cliques::Choice> Unclaimed_cliques::Choose_among_all(
-    Clique_index clique, std::uint32_t overlap, std::span<const Choice> chosen) {
-  constexpr std::uint64_t dear = 1024;
-  constexpr unsigned splits = std::size(Alike_buckets::splits);
-  std::uint64_t least_cost = Reading_cost(chosen);
-  if (least_cost < dear) return chosen;
-  for (unsigned split = 0; split <= splits; ++split) {
-    if (split < splits && !alike_.Built()) continue;
-    Collect_alike(clique, overlap, split);
-    const std::uint64_t cost = Reading_cost(other_);
-    if (cost >= least_cost) continue;
-    least_cost = cost;
-    best_.swap(other_);
-    chosen = best_;
-  }
-  return chosen;
-}
-
-/// Collects the buckets of a split, and the sizes of which a clique differs by too many nodes to be
-/// in a common bucket for sure; the sizes all, if there is no such split.
-void Unclaimed_cliques::Collect_alike(Clique_index clique, std::uint32_t overlap, unsigned split) {
-  other_.clear();
-  std::size_t largest_alike = 0;
-  if (split < std::size(Alike_buckets::splits)) {
-    for (const std::uint32_t bucket : alike_.Of(clique, split))
-      other_.push_back(Choice_of(node_limit_ + largest_ + 1 + bucket));
-    const std::size_t size = cliques_[clique].size();
-    const std::size_t reach = std::size_t{2} * overlap + Alike_buckets::splits[split] - 1;
-    largest_alike = reach > size ? reach - size : 0;
-  }
-  for (std::size_t size = std::max(largest_alike + 1, least_size_); size <= largest_; ++size) {
-    const List_index list = node_limit_ + static_cast<List_index>(size);
-    if (lists_[list].unclaimed != 0) other_.push_back(Choice_of(list));
-  }
-}
-
-Unclaimed_cliques::Choice Unclaimed_cliques::Choice_of(List_index list) const {
-  return (Choice{lists_[list].unclaimed} << half) | list;
-}
-
-void Unclaimed_cliques::Drop_claimed(List& list) {
-  Short_signature* const signatures = list_signatures_.data() + list.start;
-  Clique_index* const cliques = list_cliques_.data() + list.start;
-  std::uint32_t kept = 0;
-  for (std::uint32_t i = 0; i < list.length; ++i) {
-    if (!Is_unclaimed(cliques[i])) continue;
-    std::swap(cliques[i], cliques[kept]);
-    std::swap(signatures[i], signatures[kept]);
-    ++kept;
-  }
-  list.length = kept;
+/// Begins a question and yields the nodes whose lists are to be read: of the reach, those up to the
+/// last one that the clique asked for before hasn't, for that one has no unclaimed neighbour left.
+template <typename Rank>
+typename Unclaimed_cliques<Rank>::Row Unclaimed_cliques<Rank>::Lists_to_read(Row row) {
+  std::size_t reach = lists_.Reach(row.size());
+  std::size_t first = 0;
+  while (first < reach && lists_.Unclaimed(row[first]) == 0) ++first;
+  if (first == reach) return {};
+  std::size_t last_new = row.size();
+  while (last_new > 0 && asked_for_[row[last_new - 1]] == question_) --last_new;
+  ++question_;
+  for (const Rank rank : row) asked_for_[rank] = question_;
+  reach = std::min(reach, last_new);
+  return first < reach ? row.subspan(first, reach - first) : Row();
 }
 
 /// Adds the unclaimed cliques of a list to the candidates, as far as their signatures allow.
-void Unclaimed_cliques::Meet(const List& list, Short_signature question, std::uint32_t overlap) {
-  const Short_signature* const signatures = list_signatures_.data() + list.start;
-  const Clique_index* const cliques = list_cliques_.data() + list.start;
-  entries_read_ += list.length;
-  const std::uint32_t least_bound = std::min(overlap, Short_signature::bits);
-  std::uint32_t* const passed = passed_.data();
-  std::size_t count = 0;
+template <typename Rank>
+void Unclaimed_cliques<Rank>::Meet(const Entries& entries, Tail question) {
+  constexpr std::uint32_t block = 256;
+  constexpr std::uint32_t word = sizeof(std::uint64_t);  // flags looked at together
+  const std::uint32_t least_bound = std::min(overlap_, Tail::bits);
+  passed_.clear();
   Run_at_processor_level([&] {
-    const std::uint32_t length = list.length;
-    std::size_t end = 0;
-    for (std::uint32_t i = 0; i < length; ++i) {
-      passed[end] = i;
-      end += signatures[i].Shared_at_most(question) >= least_bound ? 1U : 0U;
+    alignas(64) std::array<std::uint8_t, block> buffer;
+    for (std::uint32_t start = 0; start < entries.count; start += block) {
+      const std::uint32_t count = std::min(block, entries.count - start);
+      const Tail* const __restrict tails = entries.tails + start;
+      const Clique_index* const cliques = entries.cliques + start;
+      std::uint8_t* const __restrict flags = buffer.data();
+      const Tail asked = question;
+      const std::uint32_t bound = least_bound;
+      for (std::uint32_t i = 0; i < count; ++i)
+        flags[i] = tails[i].Shared_at_most(asked) >= bound ? 1 : 0;
+      for (std::uint32_t i = count; i % word != 0; ++i) flags[i] = 0;
+      for (std::uint32_t at = 0; at < count; at += word) {
+        std::uint64_t hits = 0;
+        std::memcpy(&hits, flags + at, word);
+        for (; hits != 0; hits &= hits - 1) {
+          const Clique_index met =
+              cliques[at + static_cast<std::uint32_t>(std::countr_zero(hits)) / word];
+          if (!Is_unclaimed(met)) continue;
+          passed_.push_back(met);
+          __builtin_prefetch(&met_[met]);
+          ranks_.Prefetch_place(met);
+        }
+      }
     }
-    count = end;
   });
-  for (std::size_t i = 0; i < count; ++i) {
-    const Clique_index met = cliques[passed[i]];
-    if (met_[met] >= question_) continue;  // claimed, or met in this question before
+  for (const Clique_index met : passed_) {
+    if (met_[met] == question_) continue;
     met_[met] = question_;
     candidates_.push_back(met);
-    __builtin_prefetch(&long_signatures_[met]);
+    __builtin_prefetch(ranks_[met].data());
   }
 }
 
-void Unclaimed_cliques::Keep_by_signature(Clique_index clique, std::uint32_t overlap) {
-  const Long_signature question = long_signatures_[clique].As_question();
-  const std::uint32_t least_bound = std::min(overlap, Long_signature::bits);
-  std::size_t kept = 0;
-  Run_at_processor_level([&] {
-    for (const Clique_index candidate : candidates_) {
-      candidates_[kept] = candidate;
-      kept += long_signatures_[candidate].Shared_at_most(question) >= least_bound ? 1U : 0U;
-    }
-  });
-  candidates_.resize(kept);
+/// Forms the signatures of the clique in question from each of its nodes on.
+template <typename Rank>
+void Unclaimed_cliques<Rank>::Sign_tails(Row row) {
+  tails_.resize(row.size());
+  Tail tail;
+  for (std::size_t at = row.size(); at > 0; --at) {
+    lists_.Add_in_front(row[at - 1], tail);
+    tails_[at - 1] = tail;
+  }
 }
 
-void Unclaimed_cliques::Append_checked(Clique_index clique, std::uint32_t overlap,
-                                       std::vector<Clique_index>& neighbours) {
-  if (candidates_.empty()) return;
-  for (const Node_index node : cliques_[clique]) marked_[node] = 1;
+template <typename Rank>
+void Unclaimed_cliques<Rank>::Append_checked(Row row, std::vector<Clique_index>& neighbours) {
+  for (const Rank rank : row) marked_[rank] = 1;
   const auto first = static_cast<std::ptrdiff_t>(neighbours.size());
   for (const Clique_index candidate : candidates_) {
     std::uint32_t shared = 0;
-    for (const Node_index node : cliques_[candidate]) shared += marked_[node];
-    if (shared >= overlap) neighbours.push_back(candidate);
+    for (const Rank rank : ranks_[candidate]) shared += marked_[rank];
+    if (shared >= overlap_) neighbours.push_back(candidate);
   }
-  for (const Node_index node : cliques_[clique]) marked_[node] = 0;
+  for (const Rank rank : row) marked_[rank] = 0;
   std::sort(neighbours.begin() + first, neighbours.end());
 }
+
+template class Unclaimed_cliques<std::uint16_t>;
+template class Unclaimed_cliques<std::uint32_t>;
 
 }  // namespace gns

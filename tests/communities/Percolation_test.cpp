@@ -104,8 +104,8 @@ void Expect_like_literal(const Clique_input& input, const std::vector<std::uint3
   }
 }
 
-/// The cliques of a random graph; behind them, sets that stand for approximate cliques. Unless
-/// `nested`, no set lies inside another.
+/// The cliques of a random graph; behind them, sets that stand for approximate cliques. With
+/// `nested`, sets that lie inside others, or repeat them, stand among them.
 Clique_input Random_input(literal::Random& random, std::uint32_t seed, bool nested) {
   const literal::Graph graph = literal::Random_graph(seed);
   const auto node_count = static_cast<std::uint32_t>(graph.size());
@@ -117,6 +117,13 @@ Clique_input Random_input(literal::Random& random, std::uint32_t seed, bool nest
           return std::ranges::includes(clique, extra) || std::ranges::includes(extra, clique);
         }))
       input.cliques.push_back(extra);
+  }
+  for (std::uint32_t left = nested ? random.Below(6) : 0; left > 0 && !input.cliques.empty();
+       --left) {
+    const auto count = static_cast<std::uint32_t>(input.cliques.size());
+    Set inner = input.cliques[random.Below(count)];
+    if (inner.size() > 3 || random.Chance(30)) inner.erase(inner.begin());
+    input.cliques.insert(input.cliques.begin() + random.Below(count + 1), inner);
   }
   if (random.Chance(30))
     input.exact_count = random.Below(static_cast<std::uint32_t>(input.exact_count) + 1);
@@ -146,6 +153,19 @@ TEST(Percolation, EqualsLiteralPercolationInAnyOrderOfK) {
                              static_cast<std::uint32_t>(input.exact_count), found.exact_com_count);
     Expect_like_literal(found, input, ks.back());
     if (HasFatalFailure()) return;
+  }
+}
+
+/// So many nodes elsewhere that their ranks take more than 16 bits.
+TEST(Percolation, EqualsLiteralPercolationAmongManyNodes) {
+  constexpr Node_index triangles = 22000;
+  for (std::uint32_t seed = 0; seed < 6; ++seed) {
+    literal::Random random(seed);
+    Clique_input input = Random_input(random, seed, seed % 2 == 1);
+    for (Node_index node = 100; node < 100 + 3 * triangles; node += 3)
+      input.cliques.push_back({node, node + 1, node + 2});
+    Expect_like_literal(input, {6, 5, 4, 3}, seed % 2 == 1);
+    if (HasFatalFailure()) FAIL() << seed;
   }
 }
 

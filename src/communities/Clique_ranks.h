@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "search/Clique_vector.h"
+
+namespace gns {
+
+/// The nodes of cliques numbered by the number of cliques that hold them, rare ones first.
+struct Node_ranks {
+  explicit Node_ranks(const Clique_vector& cliques);
+
+  std::vector<std::uint32_t> rank_of;  ///< per node; means nothing where no clique holds the node
+  std::uint32_t count = 0;             ///< nodes that some clique holds
+};
+
+/// The cliques as rows of ranks, ascending, so that their rarest nodes come first. A rank is a
+/// number of 16 bits or 32.
+template <typename Rank>
+class Clique_ranks {
+ public:
+  using Row = std::span<const Rank>;
+
+  /// `cliques` must outlive the object.
+  Clique_ranks(const Clique_vector& cliques, const Node_ranks& nodes);
+
+  [[nodiscard]] std::size_t size() const { return cliques_.size(); }
+  [[nodiscard]] Row operator[](std::size_t clique) const {
+    const Node_span members = cliques_[clique];
+    const auto start = static_cast<std::size_t>(members.data() - cliques_.Values().data());
+    return {ranks_.data() + start, members.size()};
+  }
+
+  /// Has the processor fetch what tells where a row stands.
+  void Prefetch_place(std::size_t clique) const { cliques_.Prefetch(clique); }
+
+ private:
+  const Clique_vector& cliques_;
+  std::vector<Rank> ranks_;  ///< parallel to the values of the cliques
+};
+
+}  // namespace gns
