@@ -148,7 +148,8 @@ constexpr std::string_view program_notes =
     " Environment:\n"
     "   VORLANE_MEMORY_LIMIT  the most memory to be used for data: bytes, or a number\n"
     "                         with K, M or G behind it. By default what the machine\n"
-    "                         has left, less a quarter of it or 2 GB.\n"
+    "                         has left, less a quarter of its memory or 2 GB, whichever\n"
+    "                         is less.\n"
     "   VORLANE_NO_SYNC       if it isn't empty, a run doesn't wait until its results are\n"
     "                         on the disk, safe from a power failure.\n"
     "   NO_COLOR              if it isn't empty, progress is shown without colour.\n";

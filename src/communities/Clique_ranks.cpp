@@ -1,7 +1,8 @@
 #include "communities/Clique_ranks.h"
 
 #include <algorithm>
-#include <numeric>
+
+#include "control/Clique_find_ext_cont.h"
 
 namespace gns {
 
@@ -28,6 +29,7 @@ Clique_ranks<Rank>::Clique_ranks(const Clique_vector& cliques, const Node_ranks&
     ranks_.push_back(static_cast<Rank>(nodes.rank_of[node]));
   auto first = ranks_.begin();
   for (std::size_t clique = 0; clique < cliques.size(); ++clique) {
+    external_control::Check_inside_long_stage();
     const auto last = first + static_cast<std::ptrdiff_t>(cliques[clique].size());
     std::sort(first, last);
     first = last;

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "control/Clique_find_ext_cont.h"
+#include "control/Polled_resize.h"
+
 namespace gns {
 
 template <typename Rank>
@@ -45,6 +48,7 @@ void Prefix_lists<Rank>::Lay_out() {
   std::vector<std::uint32_t>& lengths = unclaimed_;
   std::ranges::fill(lengths, 0U);
   for (const Clique_index clique : by_size_) {
+    external_control::Check_inside_long_stage();
     const auto row = cliques_[clique];
     for (const Rank rank : row.first(Reach(row.size(), least_overlap_))) ++lengths[rank];
   }
@@ -55,8 +59,8 @@ void Prefix_lists<Rank>::Lay_out() {
   }
   tails_ = {};  // gives its memory back before more is taken
   list_cliques_ = {};
-  tails_.resize(start);
-  list_cliques_.resize(start);
+  external_control::Assign_zeros(tails_, start);
+  external_control::Assign_zeros(list_cliques_, start);
   overlap_ = 0;
 }
 
@@ -90,6 +94,7 @@ template <typename Rank>
 void Prefix_lists<Rank>::Enter_next_level() {
   const std::uint32_t before = overlap_--;
   for (const Clique_index clique : by_size_) {
+    external_control::Check_inside_long_stage();
     const auto row = cliques_[clique];
     if (row.size() < overlap_) break;
     const std::size_t reach = Reach(row.size());
