@@ -30,8 +30,8 @@ void Prefix_lists<Rank>::Sort_by_size() {
     ++places[size];
   }
   std::size_t place = 0;
-  for (auto size = places.rbegin(); size != places.rend(); ++size)
-    place += std::exchange(*size, place);
+  for (std::size_t size = places.size(); size > 0; --size)
+    place += std::exchange(places[size - 1], place);
   by_size_.resize(cliques_.size());
   for (Clique_index clique = 0; clique < cliques_.size(); ++clique)
     by_size_[places[cliques_[clique].size()]++] = clique;
