@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <atomic>
 
-#if defined(__x86_64__)
+#if defined(__x86_64__) && !defined(VORLANE_SANITIZED)
 #include <cpuid.h>
 #endif
 
@@ -11,7 +11,7 @@ namespace gns {
 
 namespace {
 
-#if defined(__x86_64__)
+#if defined(__x86_64__) && !defined(VORLANE_SANITIZED)
 /// clang++ 14 has no other way to ask for it.
 bool Has_lzcnt() {
   constexpr unsigned extended_features = 0x80000001;
@@ -28,7 +28,7 @@ std::atomic<Processor_level> level_in_use = Best_processor_level();
 }  // namespace
 
 Processor_level Best_processor_level() {
-#if defined(__x86_64__)
+#if defined(__x86_64__) && !defined(VORLANE_SANITIZED)
   __builtin_cpu_init();
   const bool has_bit_count = __builtin_cpu_supports("popcnt") && Has_lzcnt() &&
                              __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2") &&

@@ -12,7 +12,8 @@ enum class Processor_level : std::uint8_t {
   wide,       ///< these and AVX-512 with VPOPCNTDQ
 };
 
-/// The highest level that this processor has; always `plain` on others than x86-64.
+/// The highest level that this processor has; always `plain` on others than x86-64 and under
+/// sanitizers, which would take long to compile the versions.
 Processor_level Best_processor_level();
 
 /// The level that kernels use: the best one, unless another was set.
@@ -22,7 +23,7 @@ Processor_level Processor_level_in_use();
 /// comparisons of one level with another.
 void Set_processor_level(Processor_level level);
 
-#if defined(__x86_64__)
+#if defined(__x86_64__) && !defined(VORLANE_SANITIZED)
 
 template <typename Kernel>
 [[gnu::target("popcnt,lzcnt,bmi,bmi2,avx2"), gnu::flatten]] void Run_bit_count(
@@ -44,7 +45,7 @@ Run_wide(const Kernel& kernel) {
 /// it finds worth it and what is marked `gnu::always_inline`. So a kernel should be a whole loop.
 template <typename Kernel>
 void Run_at_processor_level(const Kernel& kernel) {
-#if defined(__x86_64__)
+#if defined(__x86_64__) && !defined(VORLANE_SANITIZED)
   switch (Processor_level_in_use()) {
     case Processor_level::wide:
       return Run_wide(kernel);
