@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <vector>
 
-#include "foundation/Environment.h"
 #include "cli/Progress_figures.h"
+#include "foundation/Environment.h"
 
 namespace gns {
 

@@ -26,8 +26,8 @@ class Unfinished_mark {
 
   /// Takes the mark away, which ends the claim: brings all that was written to the disk first, so
   /// that after a power failure too nothing looks whole that isn't. A variable of the environment,
-  /// VORLANE_NO_SYNC, leaves that out. Throws as Check(). If the disk reports a failure, or the mark
-  /// can't be removed, notes a file fault; then the mark stays.
+  /// VORLANE_NO_SYNC, leaves that out. Throws as Check(). If the disk reports a failure, or the
+  /// mark can't be removed, notes a file fault; then the mark stays.
   void Remove();
 
  private:

@@ -31,20 +31,14 @@ TEST(ModifiedUtf8, LeavesWhatIsValidAndMendsTheRest) {
   };
   const Case broken[] = {
       {"\xF4\x90\x80\x80", "????"},  // behind the last
-      {"\xF8\x88\x80\x80\x80", "?????"},
-      {"a\x80z", "a?z"},
+      {"\xF8\x88\x80\x80\x80", "?????"}, {"a\x80z", "a?z"},
       {"\xC1\xBF\xC0\x81", "????"},  // longer than need be
-      {"\xE0\x9F\xBF", "???"},
-      {"\xF0\x8F\xBF\xBF", "????"},
-      {"\xE4gypten", "?gypten"},
-      {"\xFE\xFF", "??"},
+      {"\xE0\x9F\xBF", "???"},           {"\xF0\x8F\xBF\xBF", "????"},
+      {"\xE4gypten", "?gypten"},         {"\xFE\xFF", "??"},
       {"\xE2\x82\xC3\xA4", "?\xC3\xA4"},  // as much of a sequence as there is
-      {"\xF0\x9F\x98z", "?z"},
-      {"\xF0\x9F\xF0\x9F\x98\x80", "?\xED\xA0\xBD\xED\xB8\x80"},
-      {"\xC3\xC3\xC0", "???"},
-      {{"\xC3\xA4", 1}, "?"},  // cut off, as names in tables are
-      {{"\xE2\x82\xAC", 2}, "?"},
-      {{"\xF0\x9F\x98\x80", 1}, "?"},
+      {"\xF0\x9F\x98z", "?z"},           {"\xF0\x9F\xF0\x9F\x98\x80", "?\xED\xA0\xBD\xED\xB8\x80"},
+      {"\xC3\xC3\xC0", "???"},           {{"\xC3\xA4", 1}, "?"},  // cut off, as names in tables are
+      {{"\xE2\x82\xAC", 2}, "?"},        {{"\xF0\x9F\x98\x80", 1}, "?"},
       {{"\xF0\x9F\x98\x80", 3}, "?"},
   };
   Modified_utf8 encoding;

@@ -15,8 +15,8 @@
 #include <vector>
 
 #include "Directory_contents.h"
-#include "Thrown_message.h"
 #include "Temp_dir.h"
+#include "Thrown_message.h"
 #include "foundation/File_faults.h"
 
 namespace {
