@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <optional>
 
 #include "foundation/Dir_error.h"
@@ -37,12 +38,13 @@ std::vector<std::string> Scan_dir(const std::string& path) {
     throw Xerror_msg("ERROR: List_dir() -> scandir() called on " + path + " and\n" +
                      Dir_error(error));
   }
+  const auto give_back = [count](dirent** all) {
+    for (int i = 0; i < count; ++i) std::free(all[i]);
+    std::free(all);
+  };
+  const std::unique_ptr<dirent*, decltype(give_back)> held(entries, give_back);
   std::vector<std::string> names;
-  for (int i = 0; i < count; ++i) {
-    names.emplace_back(entries[i]->d_name);
-    std::free(entries[i]);
-  }
-  std::free(entries);
+  for (int i = 0; i < count; ++i) names.emplace_back(entries[i]->d_name);
   return names;
 }
 
