@@ -41,7 +41,10 @@ void Check_out_dir(const std::string& output_dir) {
 void Check_entries(const std::string& output_dir, std::string_view allowed) {
   // A directory_iterator of the standard library ends the process where it gets no memory.
   const auto close = [](DIR* dir) { closedir(dir); };
-  const std::unique_ptr<DIR, decltype(close)> dir(opendir(output_dir.c_str()), close);
+  std::unique_ptr<DIR, decltype(close)> dir(nullptr, close);
+  do {
+    dir.reset(opendir(output_dir.c_str()));
+  } while (dir == nullptr && errno == EINTR);
   if (dir != nullptr) errno = 0;
   while (const dirent* const entry = dir != nullptr ? readdir(dir.get()) : nullptr) {
     const std::string_view name = entry->d_name;

@@ -38,14 +38,14 @@ int Open_output_dir(const std::string& output_dir) {
   const std::string resolved = Resolved_path(output_dir);
   if (Is_there_such_dir(resolved)) Check_entries(resolved);
   Dir_prepare(output_dir, "keep");
-  const int directory = ::open(output_dir.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  const int directory = Open_file(output_dir, O_RDONLY | O_DIRECTORY);
   if (directory < 0) throw Not_writable(output_dir, errno);
   return directory;
 }
 
 int Make_mark(int directory) {
   constexpr mode_t mode = 0666;
-  return ::openat(directory, mark_name, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode);
+  return Open_file(mark_name, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode, directory);
 }
 
 /// Makes the mark of a directory that holds nothing.
@@ -90,7 +90,7 @@ void Unfinished_mark::Check() const {
       ::lstat(Unfinished_mark_of(output_dir_).c_str(), &found) == 0 &&
       ours.st_dev == found.st_dev && ours.st_ino == found.st_ino)
     return;
-  const Descriptor replacement(::open(output_dir_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const Descriptor replacement(Open_file(output_dir_, O_RDONLY | O_DIRECTORY));
   if (replacement.Is_open()) const Descriptor mark(Make_mark(replacement.Number()));
   throw Xerror_msg("ERROR: the output directory '" + output_dir_ +
                    "' was moved or deleted during the run.\n");

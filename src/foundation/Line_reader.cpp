@@ -12,6 +12,7 @@
 #include <system_error>
 #include <utility>
 
+#include "foundation/Descriptor.h"
 #include "foundation/Errors.h"
 
 namespace gns {
@@ -27,7 +28,7 @@ constexpr int milliseconds_between_polls = 20;
 /// writes to must not block: the wait would meet no poll.
 int Open_for_reading(const std::string& path, Line_reader::Source source, struct stat& status) {
   const bool regular_only = source == Line_reader::Source::regular_file;
-  const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  const int file = Open_file(path, O_RDONLY | O_NONBLOCK);
   if (file < 0 || ::fstat(file, &status) != 0) return file;
   if (regular_only ? S_ISREG(status.st_mode) : !S_ISDIR(status.st_mode)) return file;
   ::close(file);

@@ -7,13 +7,14 @@
 #include <charconv>
 #include <utility>
 
+#include "foundation/Descriptor.h"
 #include "foundation/File_faults.h"
 
 namespace gns {
 
 Text_writer::Text_writer(std::string path) : path_(std::move(path)), buffer_(new char[capacity]) {
   constexpr mode_t mode = 0666;
-  file_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, mode);
+  file_ = Open_file(path_, O_WRONLY | O_CREAT | O_TRUNC, mode);
   if (file_ < 0) Fail("open");
 }
 
