@@ -59,6 +59,7 @@ class Program_run {
   /// Ends the process at the poll that found a stop, without giving memory back.
   static void Leave() {
     running_->display_.reset();
+    // No other thread ends the process. NOLINTNEXTLINE(concurrency-mt-unsafe)
     std::exit(static_cast<int>(running_->Report_end("Process stopped by user.\n")));
   }
 

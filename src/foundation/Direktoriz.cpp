@@ -44,6 +44,7 @@ std::vector<std::string> Scan_dir(const std::string& path) {
   };
   const std::unique_ptr<dirent*, decltype(give_back)> held(entries, give_back);
   std::vector<std::string> names;
+  names.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) names.emplace_back(entries[i]->d_name);
   return names;
 }
