@@ -136,16 +136,25 @@ def add_network_options(parser):
                         help="networks to leave out (default: %(default)s)")
 
 
-def prepared_networks(options, folder):
-    """The networks that the options name, ready in folder, the smallest first."""
+def named_files(options):
+    """The link files that the options name."""
     files = []
     for source in options.networks:
         files += sorted(source.glob("*.txt*")) if source.is_dir() else [source]
-    files = [file for file in files if not any(name in file.name for name in options.skip)]
-    networks = [prepare(file, folder) for file in files]
-    networks = [network for network in networks if network.links > options.more_than]
+    return [file for file in files if not any(name in file.name for name in options.skip)]
+
+
+def end_without(networks):
+    """Ends the benchmark if there are none."""
     if not networks:
         sys.exit("No networks: name link files or a directory of them, or set VORLANE_NETWORKS.")
+
+
+def prepared_networks(options, folder):
+    """The networks that the options name, ready in folder, the smallest first."""
+    networks = [prepare(file, folder) for file in named_files(options)]
+    networks = [network for network in networks if network.links > options.more_than]
+    end_without(networks)
     return sorted(networks, key=lambda network: network.links)
 
 
