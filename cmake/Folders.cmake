@@ -59,10 +59,13 @@ function(vorlane_program name)
 endfunction()
 
 # A shared library for Java to load: src/bridge/module/ has what only it needs, and exports.map
-# there names its exports.
+# there names its exports. Lasting variables would keep counters from being written.
 function(vorlane_java_library name output_name)
   set(module ${PROJECT_SOURCE_DIR}/src/bridge/module)
-  add_library(${name} MODULE ${module}/Lasting_variables.cpp $<TARGET_OBJECTS:folder_bridge>)
+  add_library(${name} MODULE $<TARGET_OBJECTS:folder_bridge>)
+  if(NOT VORLANE_COVERAGE)
+    target_sources(${name} PRIVATE ${module}/Lasting_variables.cpp)
+  endif()
   target_link_libraries(${name} PRIVATE vorlane_engine Threads::Threads)
   target_link_options(${name} PRIVATE LINKER:--version-script=${module}/exports.map
                       LINKER:--no-undefined)
