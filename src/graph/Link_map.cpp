@@ -49,12 +49,26 @@ std::vector<std::uint32_t> Sort_names(Name_table& names) {
 }  // namespace
 
 void Link_map_builder::Add(std::string_view first, std::string_view second, double weight) {
-  const std::uint32_t from = names_.Of(first);
-  pairs_.push_back({from, names_.Of(second)});
+  if (waiting_.Is_full()) Number_waiting_names();
+  waiting_.Add(first, names_);
+  waiting_.Add(second, names_);
   if (weighted_) weights_.push_back(weight);
 }
 
+void Link_map_builder::Number_waiting_names() {
+  static_assert(Name_queue::most % 2 == 0, "links must not be cut in two");
+  bool is_first = true;
+  waiting_.Take_numbers(names_, [&](std::uint32_t number) {
+    if (is_first)
+      pairs_.push_back({number, 0});
+    else
+      pairs_.back().second = number;
+    is_first = !is_first;
+  });
+}
+
 Link_map Link_map_builder::Build() {
+  Number_waiting_names();
   Name_table names = names_.Take();
   const std::vector<std::uint32_t> new_numbers = Sort_names(names);
   for (Index_pair& pair : pairs_) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "graph/Name_numbers.h"
+#include "graph/Name_queue.h"
 #include "graph/Name_table.h"
 #include "graph/Node_set.h"
 
@@ -56,8 +57,11 @@ class Link_map_builder {
   Link_map Build();
 
  private:
+  void Number_waiting_names();
+
   bool weighted_;
   Name_numbers names_;
+  Name_queue waiting_;  ///< first and second names of the last links added
   std::vector<Index_pair> pairs_;
   std::vector<double> weights_;
 };

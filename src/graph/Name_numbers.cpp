@@ -14,9 +14,8 @@ constexpr std::uint64_t hash_half = 0xFFFFFFFF00000000U;
 
 }  // namespace
 
-std::uint32_t Name_numbers::Of(std::string_view name) {
+std::uint32_t Name_numbers::Of(std::string_view name, std::uint64_t hash) {
   if (names_.size() >= slots_.size() / 2) Grow_slots();
-  const std::uint64_t hash = Name_hash(name, key_);
   const std::size_t mask = slots_.size() - 1;
   for (std::size_t at = hash & mask;; at = (at + 1) & mask) {
     const std::uint64_t slot = slots_[at];
