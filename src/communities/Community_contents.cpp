@@ -55,7 +55,7 @@ void Community_contents::Append(std::span<const Clique_index> com_cliques,
     external_control::Check_inside_long_stage();
     Append_links(members_[i],
                  {sources_.data() + source_starts_[i], source_starts_[i + 1] - source_starts_[i]},
-                 result);
+                 before, result);
   }
   result.com_links.Close_row();
   for (const Node_index member : members_) place_of_[member] = 0;
@@ -96,18 +96,20 @@ void Community_contents::For_each_source(const Communities& before, Use use) con
   for (const std::uint32_t part : parts_) {
     external_control::Check_inside_long_stage();
     const std::span<const Index_pair> links = before.com_links[part];
+    const auto offset = static_cast<std::size_t>(links.data() - before.com_links.Values().data());
     for (std::size_t start = 0, end = 0; start < links.size(); start = end) {
-      while (end < links.size() && links[end].first == links[start].first) ++end;
-      use(links[start].first,
-          Source{links.data() + start, nullptr, static_cast<std::uint32_t>(end - start)});
+      const std::size_t most_end = std::min(links.size(), start + Source::most);
+      while (end < most_end && links[end].first == links[start].first) ++end;
+      use(links[start].first, Source(true, offset + start, end - start));
     }
   }
   for (const Clique_index clique : new_cliques_) {
     external_control::Check_inside_long_stage();
     const Node_span row = cliques_[clique];
-    for (std::size_t i = 0; i + 1 < row.size(); ++i)
-      use(row[i],
-          Source{nullptr, row.data() + i + 1, static_cast<std::uint32_t>(row.size() - i - 1)});
+    const auto offset = static_cast<std::size_t>(row.data() - cliques_.Values().data());
+    for (std::size_t i = 1; i < row.size(); ++i)
+      for (std::size_t at = i; at < row.size(); at += Source::most)
+        use(row[i - 1], Source(false, offset + at, std::min(row.size() - at, Source::most)));
   }
 }
 
@@ -124,16 +126,20 @@ void Community_contents::Collect_sources(const Communities& before) {
 }
 
 void Community_contents::Append_links(Node_index member, std::span<const Source> sources,
-                                      Communities& result) {
+                                      const Communities& before, Communities& result) {
+  const Node_index* const nodes = cliques_.Values().data();
+  const Index_pair* const pairs = before.com_links.Values().data();
   met_.clear();
   const auto meet = [&](Node_index node) {
     if (met_by_[node] == member) return;
     met_by_[node] = member;
     met_.push_back(node);
   };
-  for (const Source& source : sources) {
-    for (std::uint32_t i = 0; i < source.size; ++i)
-      meet(source.pairs != nullptr ? source.pairs[i].second : source.nodes[i]);
+  for (const Source source : sources) {
+    if (source.Are_pairs())
+      for (std::size_t i = source.Start(); i < source.End(); ++i) meet(pairs[i].second);
+    else
+      for (std::size_t i = source.Start(); i < source.End(); ++i) meet(nodes[i]);
   }
   if (sources.size() > 1) std::sort(met_.begin(), met_.end());
   for (const Node_index node : met_) {

@@ -29,11 +29,23 @@ class Community_contents {
   void Forget_communities();
 
  private:
-  /// Where links that begin at a member come from: `size` pairs or, from a clique, nodes.
-  struct Source {
-    const Index_pair* pairs;
-    const Node_index* nodes;
-    std::uint32_t size;
+  /// Where links that begin at a member come from: some of the pairs of communities or, from a
+  /// clique, of the nodes of cliques. There are as many as cliques have members, so they are small.
+  class Source {
+   public:
+    static constexpr unsigned size_bits = 23;
+    static constexpr std::size_t most = (std::size_t{1} << size_bits) - 1;
+
+    Source() = default;
+    /// `size` is at most `most`.
+    Source(bool are_pairs, std::size_t start, std::size_t size)
+        : packed_(start << (size_bits + 1) | size << 1U | (are_pairs ? 1U : 0U)) {}
+    [[nodiscard]] bool Are_pairs() const { return (packed_ & 1U) != 0; }
+    [[nodiscard]] std::size_t Start() const { return packed_ >> (size_bits + 1); }
+    [[nodiscard]] std::size_t End() const { return Start() + (packed_ >> 1U & most); }
+
+   private:
+    std::uint64_t packed_ = 0;
   };
 
   void Sort_out(std::span<const Clique_index> com_cliques);
@@ -41,7 +53,8 @@ class Community_contents {
   void Collect_sources(const Communities& before);
   template <typename Use>
   void For_each_source(const Communities& before, Use use) const;
-  void Append_links(Node_index member, std::span<const Source> sources, Communities& result);
+  void Append_links(Node_index member, std::span<const Source> sources, const Communities& before,
+                    Communities& result);
 
   static constexpr std::uint32_t none = ~std::uint32_t{0};
 
