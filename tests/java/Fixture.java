@@ -2,6 +2,7 @@ import static java.nio.charset.StandardCharsets.ISO_8859_1;
 
 import java.io.IOException;
 import java.nio.file.*;
+import java.util.ArrayList;
 import java.util.List;
 import java.util.stream.Stream;
 import org.junit.*;
@@ -54,21 +55,28 @@ public abstract class Fixture {
 
   /** A JVM for calls, each told as its name and its paths, separated by bars. */
   ProcessBuilder calling(List<String> options, String... calls) throws IOException {
+    List<String> classPath = new ArrayList<>();
+    for (String jar : System.getProperty("java.class.path").split(":")) classPath.add(copied(jar));
+    String library = copied(System.getProperty("vorlane.library"));
     List<String> program =
-        List.of("-Dvorlane.library=" + System.getProperty("vorlane.library"),
-            "-cp", System.getProperty("java.class.path"), "Fixture");
-    List<String> words =
-        Stream.of(options, program, List.of(calls)).flatMap(List::stream).toList();
-    words = linked("examples", System.getProperty("vorlane.examples"), words);
-    return java(
-        linked("built", Path.of(System.getProperty("vorlane.jar")).getParent().toString(), words));
+        List.of("-Dvorlane.library=" + library, "-cp", String.join(":", classPath), "Fixture");
+    List<String> words = new ArrayList<>();
+    for (String call : calls) words.add(withLinkedExamples(call));
+    return java(Stream.of(options, program, words).flatMap(List::stream).toList());
   }
 
-  /** The words with a link in place of a folder, so that a JVM of any locale can tell it. */
-  private List<String> linked(String name, String target, List<String> words) throws IOException {
-    Path link = Path.of(path(name));
-    if (!Files.exists(link)) Files.createSymbolicLink(link, Path.of(target));
-    return words.stream().map(word -> word.replace(target, link.toString())).toList();
+  /** A JVM finds no class behind a path that its locale can't tell, be it through a link. */
+  private String copied(String file) throws IOException {
+    Path copy = Path.of(path(Path.of(file).getFileName().toString()));
+    if (!Files.exists(copy)) Files.copy(Path.of(file), copy);
+    return copy.toString();
+  }
+
+  private String withLinkedExamples(String call) throws IOException {
+    Path link = Path.of(path("examples"));
+    String examples = System.getProperty("vorlane.examples");
+    if (!Files.exists(link)) Files.createSymbolicLink(link, Path.of(examples));
+    return call.replace(examples, link.toString());
   }
 
   /** Shows the output too, where a word of the JVM makes the test fail. */
