@@ -7,7 +7,7 @@
 namespace gns {
 
 Node_ranks::Node_ranks(const Clique_vector& cliques) {
-  const std::vector<Node_index>& members = cliques.Values();
+  const Node_span members = cliques.Values();
   if (members.empty()) return;
   std::vector<std::uint32_t> frequency(*std::ranges::max_element(members) + std::size_t{1}, 0);
   for (const Node_index node : members) ++frequency[node];

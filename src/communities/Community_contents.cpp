@@ -19,7 +19,7 @@ void Append_all_pairs(Node_span members, Communities& result) {
 
 Community_contents::Community_contents(const Clique_vector& cliques)
     : cliques_(cliques), community_of_(cliques.size(), none) {
-  const std::vector<Node_index>& members = cliques.Values();
+  const Node_span members = cliques.Values();
   const std::size_t nodes =
       members.empty() ? 1 : std::size_t{*std::ranges::max_element(members)} + 1;
   place_of_.assign(nodes, 0);

@@ -11,7 +11,7 @@ namespace gns {
 namespace {
 
 std::size_t Node_limit(const Row_array<Node_index>& coms) {
-  const std::vector<Node_index>& members = coms.Values();
+  const Node_span members = coms.Values();
   return members.empty() ? 0 : std::size_t{*std::ranges::max_element(members)} + 1;
 }
 

@@ -2,7 +2,8 @@
 
 #include <cstddef>
 #include <span>
-#include <vector>
+
+#include "foundation/Growing_array.h"
 
 namespace gns {
 
@@ -12,37 +13,38 @@ class Row_array {
  public:
   using Row = std::span<const Value>;
 
-  [[nodiscard]] std::size_t size() const { return starts_.empty() ? 0 : starts_.size() - 1; }
+  [[nodiscard]] std::size_t size() const { return starts_.size() == 0 ? 0 : starts_.size() - 1; }
   [[nodiscard]] bool empty() const { return size() == 0; }
   [[nodiscard]] Row operator[](std::size_t row) const {
-    return {values_.data() + starts_[row], starts_[row + 1] - starts_[row]};
+    const std::size_t* const start = starts_.data() + row;
+    return {values_.data() + start[0], start[1] - start[0]};
   }
   /// Has the processor fetch what tells where a row stands.
   void Prefetch(std::size_t row) const { __builtin_prefetch(starts_.data() + row); }
   /// Values of all rows, in order.
-  [[nodiscard]] const std::vector<Value>& Values() const { return values_; }
+  [[nodiscard]] Row Values() const { return {values_.data(), values_.size()}; }
 
   void push_back(Row row) {
-    values_.insert(values_.end(), row.begin(), row.end());
+    values_.append(row.data(), row.size());
     Close_row();
   }
   /// Appends to the row under construction, which Close_row() then adds.
   void Append(const Value& value) { values_.push_back(value); }
   void Close_row() {
-    if (starts_.empty()) starts_.push_back(0);
+    if (starts_.size() == 0) starts_.push_back(0);
     starts_.push_back(values_.size());
   }
 
   /// Drops all rows from `row` on.
   void Truncate(std::size_t row) {
-    values_.resize(row == 0 ? 0 : starts_[row]);
-    starts_.resize(row == 0 ? 0 : row + 1);
+    values_.Cut(row == 0 ? 0 : starts_.data()[row]);
+    starts_.Cut(row == 0 ? 0 : row + 1);
   }
   void clear() { *this = Row_array(); }
 
  private:
-  std::vector<Value> values_;
-  std::vector<std::size_t> starts_;  ///< where each row starts, and the end; empty: no rows
+  Growing_array<Value> values_;
+  Growing_array<std::size_t> starts_;  ///< where each row starts, and the end; empty: no rows
 };
 
 }  // namespace gns

@@ -6,7 +6,7 @@
 namespace gns {
 
 Inclusion_index::Inclusion_index(const Sets& sets) : sets_(sets) {
-  const std::vector<Node_index>& members = sets.Values();
+  const Node_span members = sets.Values();
   const Node_index greatest = members.empty() ? 0 : *std::ranges::max_element(members);
   starts_.assign(std::size_t{greatest} + 2, 0);
   for (const Node_index node : members) ++starts_[std::size_t{node} + 1];

@@ -5,7 +5,7 @@
 namespace gns {
 
 void Overlap_matrix::Make_index() {
-  const std::vector<Node_index>& members = cliques_->Values();
+  const Node_span members = cliques_->Values();
   const Node_index greatest = members.empty() ? 0 : *std::ranges::max_element(members);
   starts_.assign(std::size_t{greatest} + 2, 0);
   for (const Node_index node : members) ++starts_[std::size_t{node} + 1];
