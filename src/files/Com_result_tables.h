@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <map>
 #include <tuple>
-#include <utility>
 
 #include "files/Index_list.h"
 #include "files/Name_list.h"
 #include "files/Name_pairs.h"
+#include "files/Overlap_table.h"
 #include "files/Table_by_index.h"
 
 namespace gns {
@@ -21,8 +21,6 @@ namespace gns {
 using Names_by_index = Table_by_index<Name_list>;
 using Links_by_index = Table_by_index<Name_pairs>;
 using Indices_by_index = Table_by_index<Index_list>;
-/// Two community indices -> how many nodes they share.
-using Overlap_table = std::map<std::pair<std::int32_t, std::int32_t>, std::uint32_t>;
 /// Value -> how often it occurs.
 using Distribution_table = std::map<std::uint32_t, std::uint32_t>;
 

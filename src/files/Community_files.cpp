@@ -165,8 +165,9 @@ void Kiir_com_graph_VL_ret(const Com_graph& com_graph, std::uint32_t exact_com_c
     Write_index(file, overlap.second, exact_com_count);
     file << ' ' << overlap.shared << '\n';
     if (entry.Get() != nullptr)
-      (*entry.Get())[{Signed_index(overlap.first, exact_com_count),
-                      Signed_index(overlap.second, exact_com_count)}] = overlap.shared;
+      entry.Get()->Set({Signed_index(overlap.first, exact_com_count),
+                        Signed_index(overlap.second, exact_com_count)},
+                       overlap.shared);
   }
   entry.Complete();
 }

@@ -15,21 +15,6 @@ namespace gns {
 
 namespace {
 
-/// Sets entries of a map; fast where keys come in ascending or descending order.
-template <typename Map>
-class Entries {
- public:
-  explicit Entries(Map& map) : map_(map), last_(map.end()) {}
-
-  void Set(const typename Map::key_type& key, typename Map::mapped_type value) {
-    last_ = map_.insert_or_assign(last_, key, std::move(value));
-  }
-
- private:
-  Map& map_;
-  typename Map::iterator last_;
-};
-
 /// The loop of the line forms: `take(line)` reads a record off its cut line.
 template <typename Take>
 void Read_lines(const std::string& file_name, Take take) {
@@ -97,26 +82,25 @@ void Read_data(Name_pairs& pairs, const std::string& file_name) {
 }
 
 void Read_data(Overlap_table& table, const std::string& file_name) {
-  Entries entries(table);
+  const Filling filling(&table);
   Read_lines(file_name, [&](std::string_view line) {
     std::string_view rest = line;
     Overlap_table::key_type pair;
     std::uint32_t shared_nodes = 0;
     if (!Extract_pair(rest, pair)) throw Failed_pair();
     if (!Extract_integer(rest, shared_nodes)) throw Xep_wrong_line(std::string(line), file_name);
-    entries.Set(pair, shared_nodes);
+    table.Set(pair, shared_nodes);
   });
 }
 
 void Read_data(Distribution_table& table, const std::string& file_name) {
-  Entries entries(table);
   Read_lines(file_name, [&](std::string_view line) {
     std::string_view rest = line;
     std::uint32_t value = 0;
     std::uint32_t count = 0;
     if (!Extract_integer(rest, value) || !Extract_integer(rest, count))
       throw Xep_wrong_line(std::string(line), file_name);
-    entries.Set(value, count);
+    table.insert_or_assign(table.end(), value, count);
   });
 }
 

@@ -3,13 +3,14 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <initializer_list>
 #include <iterator>
 #include <optional>
 #include <stdexcept>
 #include <utility>
 #include <vector>
+
+#include "files/Sorted_entries.h"
 
 namespace gns {
 
@@ -49,14 +50,7 @@ class Table_by_index {
   void Finish() {
     Close();
     values_.Shrink_to_fit();
-    if (std::ranges::adjacent_find(entries_, std::ranges::greater_equal(), &Entry::key) ==
-        entries_.end())
-      return;
-    std::ranges::stable_sort(entries_, {}, &Entry::key);
-    // Of rows with the same key the last one counts.
-    const auto same_key = [](const Entry& a, const Entry& b) { return a.key == b.key; };
-    const auto replaced = std::unique(entries_.rbegin(), entries_.rend(), same_key);
-    entries_.erase(entries_.begin(), replaced.base());
+    Sort_entries(entries_, &Entry::key);
   }
 
   class Iterator {
