@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "foundation/Delimiter_places.h"
 #include "foundation/Words.h"
 
 namespace gns {
@@ -45,16 +46,61 @@ void Name_list::push_back(std::string_view name) {
   ++count_.value;
 }
 
+/// Words with one delimiter between two take as much room as in the text: the length of each stands
+/// in place of the delimiter in front of it. Yields where the first word begins that stands
+/// otherwise, or is a long one, or the last.
+std::size_t Name_list::Pack_plain(std::string_view text, char delimiter, char* to) {
+  std::memcpy(to + 1, text.data(), text.size());
+  Delimiter_places delimiters(text, Equal_to(delimiter));
+  std::size_t start = 0;
+  for (;;) {
+    const std::size_t end = delimiters.Next();
+    if (end == text.size() || !Name_row::Is_short(end - start)) return start;
+    to[start] = static_cast<char>(end - start);
+    ++count_.value;
+    start = end + 1;
+  }
+}
+
 void Name_list::Append_words(std::string_view text, const Character_set& delimiters) {
+  Skip_delimiters(text, delimiters);
   // A length takes the byte of the delimiter, and one more at most for every `more` bytes.
   const std::size_t most = text.size() + text.size() / Name_row::more + 1;
   char* const from = packed_.Room_for(most);
-  char* to = from;
-  For_each_word(text, delimiters, [&](std::string_view word) {
+  const std::size_t plain = delimiters.size() == 1 ? Pack_plain(text, delimiters.Only(), from) : 0;
+  char* to = from + plain;
+  For_each_word(text.substr(plain), delimiters, [&](std::string_view word) {
     to = Copy(word, Name_row::Write_length(word.size(), to));
     ++count_.value;
   });
   packed_.Grew(static_cast<std::size_t>(to - from));
+}
+
+std::size_t Name_list::Append_pair_lines(std::string_view text) {
+  constexpr std::size_t at_once = 32;
+  char* const from = packed_.Room_for(text.size() + 1);
+  const char* const at = text.data();
+  Delimiter_places blanks(text, Up_to_blank());
+  std::size_t start = 0;
+  std::size_t lines = 0;
+  while (start + at_once <= text.size()) {
+    const std::size_t middle = blanks.Next();
+    const std::size_t end = blanks.Next();
+    if (end == text.size() || at[middle] != ' ' || at[end] != '\n' || at[start] == '#' ||
+        at[end - 1] == ':' || !Name_row::Is_short(middle - start) ||
+        !Name_row::Is_short(end - middle - 1))
+      break;
+    // Mostly one step; what is copied too much is overwritten by the next line.
+    std::memcpy(from + start + 1, at + start, at_once);
+    if (end - start > at_once) std::memcpy(from + start + 1, at + start, end - start);
+    from[start] = static_cast<char>(middle - start);
+    from[middle + 1] = static_cast<char>(end - middle - 1);
+    start = end + 1;
+    ++lines;
+  }
+  packed_.Grew(start);
+  count_.value += 2 * lines;
+  return start;
 }
 
 void Name_list::Append(const Name_list& names) {

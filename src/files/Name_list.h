@@ -64,6 +64,8 @@ class Name_row {
   static constexpr unsigned bits_per_byte = 7;
   static constexpr unsigned char more = 1U << bits_per_byte;
 
+  /// True of the lengths of names that take one byte.
+  static constexpr bool Is_short(std::size_t length) { return length - 1 < more - 1U; }
   static std::size_t Take_length(const char*& at) {
     const auto first = static_cast<unsigned char>(*at++);
     return first < more ? first : Take_long_length(at, first);
@@ -98,6 +100,11 @@ class Name_list {
   void Append(const Name_list& names);
   /// Appends the words of `text`, which any number of delimiters may separate and enclose.
   void Append_words(std::string_view text, const Character_set& delimiters);
+  /// Appends the names of the lines of two words at the front of `text`, and yields the size of
+  /// these lines. Words are parted by a blank and of fewer than 128 bytes; the first doesn't begin
+  /// with '#', the second doesn't end with ':'. A line of another form, and any near the end of the
+  /// text, may end the taking.
+  std::size_t Append_pair_lines(std::string_view text);
 
   [[nodiscard]] std::size_t size() const { return count_.value; }
   [[nodiscard]] bool empty() const { return count_.value == 0; }
@@ -120,6 +127,8 @@ class Name_list {
   void Shrink_to_fit() { packed_.Shrink_to_fit(); }
 
  private:
+  std::size_t Pack_plain(std::string_view text, char delimiter, char* to);
+
   Growing_array<char> packed_;
   Moving_count count_;
 };

@@ -73,6 +73,8 @@ class Name_pairs {
     names_.push_back(first);
     names_.push_back(second);
   }
+  /// Appends lines of two words as a Name_list does.
+  std::size_t Append_lines(std::string_view text) { return names_.Append_pair_lines(text); }
   void Append(const Name_pairs& pairs) { names_.Append(pairs.names_); }
 
   [[nodiscard]] std::size_t size() const { return names_.size() / 2; }

@@ -60,6 +60,12 @@ bool Extract_pair(std::string_view& text, std::pair<std::int32_t, std::int32_t>&
   return Extract(text, pair);
 }
 
+void Take_plain_lines(Line_reader& reader, Name_pairs& pairs) {
+  const std::size_t held = pairs.size();
+  const std::size_t taken = pairs.Append_lines(reader.Held());
+  reader.Take(taken, pairs.size() - held);
+}
+
 Xerror_msg Failed_pair() { return Xerror_msg("ERROR: failed to read pair.\n"); }
 
 }  // namespace gns

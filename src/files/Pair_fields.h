@@ -8,6 +8,7 @@
 
 #include "files/Name_pairs.h"
 #include "foundation/Errors.h"
+#include "foundation/Line_reader.h"
 
 namespace gns {
 
@@ -25,6 +26,10 @@ bool Convert_from_string(std::string_view text, std::pair<std::string, std::stri
 /// nothing changed, where formatted input fails.
 bool Extract_pair(std::string_view& text, Name_pairs::value_type& pair);
 bool Extract_pair(std::string_view& text, std::pair<std::int32_t, std::int32_t>& pair);
+
+/// Takes lines of two names off what the reader holds, as far as they are plain: Name_list says
+/// which are.
+void Take_plain_lines(Line_reader& reader, Name_pairs& pairs);
 
 /// What the extractions of a pair throw.
 Xerror_msg Failed_pair();

@@ -66,19 +66,28 @@ void Read_records(Table& table, const std::string& file_name, const Delimiters& 
 }  // namespace
 
 void Read_data(Name_pairs& pairs, const std::string& file_name) {
-  const Name_pairs held = std::exchange(pairs, {});
-  const auto take = [&](std::string_view line) {
-    Name_pairs::value_type pair;
-    if (!Extract_pair(line, pair)) throw Failed_pair();
-    pairs.push_back(pair.first, pair.second);
+  Line_reader reader(file_name, Line_reader::Source::regular_file);
+  Name_pairs read;
+  read.Reserve_for_text(reader.File_size());
+  const auto read_all = [&] {
+    for (std::string_view line; Next_cut_line(reader, line); Take_plain_lines(reader, read)) {
+      Name_pairs::value_type pair;
+      if (!Extract_pair(line, pair)) throw Failed_pair();
+      read.push_back(pair.first, pair.second);
+    }
+  };
+  const auto finish = [&] {
+    read.Append(pairs);
+    read.Shrink_to_fit();
+    pairs = std::move(read);
   };
   try {
-    Read_lines(file_name, take);
+    read_all();
   } catch (...) {
-    pairs.Append(held);
+    finish();
     throw;
   }
-  pairs.Append(held);
+  finish();
 }
 
 void Read_data(Overlap_table& table, const std::string& file_name) {

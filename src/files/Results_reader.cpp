@@ -139,7 +139,7 @@ void Read_com_links(Links_by_index& table, const std::string& file_name) {
   Name_pairs& links = table.Add(0);
   std::size_t held = links.size();
   try {
-    for (std::string_view line; reader.Next(line);) {
+    for (std::string_view line; reader.Next(line); Take_plain_lines(reader, links)) {
       if (line.empty() || line.front() == '#') continue;
       if (line.back() != ':') {
         Take_link(line, links);

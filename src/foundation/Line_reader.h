@@ -37,6 +37,14 @@ class Line_reader {
   /// the next call. Throws Xerror_msg if reading fails.
   std::string_view Peek(std::size_t size);
 
+  /// What has been read of the file, but not taken yet. Valid until the next call.
+  [[nodiscard]] std::string_view Held() const { return {buffer_.get() + start_, end_ - start_}; }
+  /// Takes the front of what is held: `size` bytes, which are `lines` whole lines.
+  void Take(std::size_t size, std::size_t lines) {
+    start_ += size;
+    lines_taken_ += lines;
+  }
+
   /// How many lines have been taken.
   [[nodiscard]] std::size_t Lines_taken() const { return lines_taken_; }
 

@@ -1,10 +1,15 @@
 #pragma once
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <string_view>
 #include <type_traits>
+
+#include "foundation/Delimiter_places.h"
 
 namespace gns {
 
@@ -32,27 +37,48 @@ bool Convert_plain(std::string_view text, Integer& number) {
   return true;
 }
 
+/// Converts the `length` characters in front of `end`, 1 to 8, if all are digits; false otherwise.
+/// Reads eight characters in front of `end`, whatever the length.
+inline bool Convert_digits(const char* end, std::size_t length, std::int32_t& number) {
+  if constexpr (std::endian::native != std::endian::little)
+    return Convert_plain({end - length, length}, number);
+  constexpr std::uint64_t ones = 0x0101010101010101;
+  std::uint64_t digits = 0;
+  std::memcpy(&digits, end - sizeof digits, sizeof digits);
+  // What stands in front of the number becomes zeros; digits become their values.
+  const auto in_front = 8 * static_cast<unsigned>(sizeof digits - length);
+  digits = ((digits ^ ('0' * ones)) >> in_front) << in_front;
+  if (((digits | (digits + (0x7F - 9) * ones)) & (0x80 * ones)) != 0) return false;
+  // Pairs of digits become one number, then pairs of those, then these two.
+  digits = (digits * 10 + (digits >> 8U)) & 0x00FF00FF00FF00FF;
+  digits = (digits * 100 + (digits >> 16U)) & 0x0000FFFF0000FFFF;
+  number = static_cast<std::int32_t>((digits * 10'000 + (digits >> 32U)) & 0xFFFFFFFF);
+  return true;
+}
+
 /// Takes integers in their plain form off the front of `text` while one comes behind the other with
 /// delimiters between, and calls use(number) for each. What is left is empty or begins with a word
 /// of another form. Takes nothing if the delimiter is a digit.
 template <typename Use>
 void Chop_plain(std::string_view& text, char delimiter, Use use) {
-  constexpr std::ptrdiff_t most_digits = std::numeric_limits<std::int32_t>::digits10;
+  constexpr std::size_t eight = 8;
   if (delimiter >= '0' && delimiter <= '9') return;
-  const char* at = text.data();
-  const char* const end = at + text.size();
-  for (;;) {
-    while (at != end && *at == delimiter) ++at;
-    text = {at, end};
-    const bool negative = at != end && *at == '-';
-    if (negative) ++at;
-    const char* const digits = at;
-    std::uint32_t size = 0;
-    for (; at != end && *at >= '0' && *at <= '9'; ++at)
-      size = 10 * size + static_cast<std::uint32_t>(*at - '0');
-    if (at == digits || at - digits > most_digits || (at != end && *at != delimiter)) return;
-    use(static_cast<std::int32_t>(negative ? 0U - size : size));
+  Delimiter_places delimiters(text, Equal_to(delimiter));
+  std::size_t start = 0;
+  while (start < text.size()) {
+    const std::size_t end = delimiters.Next();
+    const std::size_t length = end - start;
+    std::int32_t number = 0;
+    if (length > 0) {
+      const bool taken = length <= eight && end >= eight
+                             ? Convert_digits(text.data() + end, length, number)
+                             : Convert_plain(text.substr(start, length), number);
+      if (!taken && !Convert_plain(text.substr(start, length), number)) break;
+      use(number);
+    }
+    start = std::min(end + 1, text.size());
   }
+  text.remove_prefix(start);
 }
 
 }  // namespace gns

@@ -53,11 +53,37 @@ TEST(ReadData, EqualsThePlainReadersOnRandomText) {
   const std::vector<std::string> pieces = {
       "\n", "\n\n", ":",  "::", " ",  " ",  ";",  ";;",  "#",  "a",        "1",         "2",
       "-",  "+",    "b ", "\t", " 7", "3 ", "\r", "\0"s, "0x", "\n4 5 6 ", "\n8: 9 1 ", "\n-2:\n"};
+  // What is taken many bytes at a time, with lengths and forms around the bounds of that.
+  const std::vector<std::string> long_pieces = {"ab cd\n",
+                                                "e 12:f\n",
+                                                "\n7: ",
+                                                "12345678 ",
+                                                "123456789 ",
+                                                "1234567890 ",
+                                                "-7 ",
+                                                "12/45 ",
+                                                "1:345678 ",
+                                                "\n-8:\n",
+                                                "\x80\xa0 \xff\n",
+                                                "#a b\n",
+                                                "a b:\n",
+                                                "a\tb\n",
+                                                "a  b\n",
+                                                " a b\n",
+                                                "a b \n",
+                                                "a b c\n",
+                                                "gh"s + "\0 i\n"s,
+                                                "jklm nopq\n",
+                                                std::string(31, 'r') + " ",
+                                                std::string(127, 's') + " t\n",
+                                                std::string(128, 'u') + " ",
+                                                "v " + std::string(128, 'w') + "\n"};
   const std::vector<std::string> delimiters = {"\n:", ":;", "; ", " 1-e."};
   for (std::uint32_t seed = 0; seed < 3000; ++seed) {
     std::mt19937 random(seed);
     std::string text;
-    for (auto left = random() % 30; left > 0; --left) text += pieces[random() % pieces.size()];
+    const auto& choice = seed % 2 == 0 ? pieces : long_pieces;
+    for (auto left = random() % 30; left > 0; --left) text += choice[random() % choice.size()];
     const std::string path = temp.Write("file", text);
     ASSERT_EQ(Read(path, Name_pairs()), literal::Pairs(text)) << text;
     ASSERT_EQ(Read(path, Overlap_table()), literal::Overlaps(text)) << text;
@@ -67,10 +93,12 @@ TEST(ReadData, EqualsThePlainReadersOnRandomText) {
         << text;
 
     literal::Records plain;
+    if (seed % 4 == 1) plain = {"\n", ":", " ", " "};
     std::vector<Character_set> sets;
     for (std::string* set : {&plain.line, &plain.head, &plain.key, &plain.value}) {
-      const std::string& choice = delimiters[sets.size()];
-      for (auto left = random() % 3; left > 0; --left) *set += choice[random() % choice.size()];
+      const std::string& of_set = delimiters[sets.size()];
+      for (auto left = seed % 4 == 1 ? 0 : random() % 3; left > 0; --left)
+        *set += of_set[random() % of_set.size()];
       sets.emplace_back();
       for (const char c : *set) sets.back().insert(c);
     }

@@ -66,6 +66,22 @@ TEST(Extractions, EqualFormattedInput) {
   }
 }
 
+TEST(ConvertDigits, LooksAtEachCharacterOfTheNumberAndAtNoOther) {
+  for (std::size_t place = 0; place < 8; ++place) {
+    for (int byte = 0; byte < 256; ++byte) {
+      std::string text = "90817263";
+      text[place] = static_cast<char>(byte);
+      for (std::size_t length = 1; length <= text.size(); ++length) {
+        const std::string word = text.substr(text.size() - length);
+        const bool good = word.find_first_not_of("0123456789") == std::string::npos;
+        std::int32_t number = -1;
+        ASSERT_EQ(Convert_digits(text.data() + text.size(), length, number), good) << word;
+        ASSERT_EQ(number, good ? std::stoi(word) : -1);
+      }
+    }
+  }
+}
+
 TEST(GRound, HalvesGoUp) {
   const std::vector<std::pair<double, int>> cases{{2.5, 3}, {-2.5, -2}, {0.5, 1},   {-0.5, 0},
                                                   {2.4, 2}, {-2.6, -3}, {-0.6, -1}, {2.6, 3}};
