@@ -4,8 +4,10 @@
 #include <cstdint>
 #include <initializer_list>
 #include <span>
+#include <string_view>
 
 #include "foundation/Growing_array.h"
+#include "foundation/My_string_to_i.h"
 
 namespace gns {
 
@@ -20,6 +22,13 @@ class Index_list {
   }
 
   void push_back(std::int32_t index) { indices_.push_back(index); }
+  /// Takes indices off the front of a text and appends them, as far as Chop_plain() does.
+  void Append_plain(std::string_view& text, char delimiter) {
+    std::int32_t* const from = indices_.Room_for(text.size() / 2 + 1);
+    std::int32_t* to = from;
+    Chop_plain(text, delimiter, [&to](std::int32_t index) { *to++ = index; });
+    indices_.Grew(static_cast<std::size_t>(to - from));
+  }
   void Append(const Index_list& indices) {
     indices_.append(indices.indices_.data(), indices.indices_.size());
   }

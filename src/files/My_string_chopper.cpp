@@ -5,7 +5,6 @@
 #include <iostream>
 
 #include "foundation/My_convert_from_string.h"
-#include "foundation/My_string_to_i.h"
 #include "foundation/Words.h"
 
 namespace gns {
@@ -68,8 +67,7 @@ std::string_view& operator>>(std::string_view& text, Name_list& values) {
 std::string_view& operator>>(std::string_view& text, Index_list& values) {
   const Character_set& delimiters = my_string_chopper_class::delimeters;
   std::string_view rest = text;
-  if (delimiters.size() == 1)
-    Chop_plain(rest, delimiters.Only(), [&](std::int32_t value) { values.push_back(value); });
+  if (delimiters.size() == 1) values.Append_plain(rest, delimiters.Only());
   For_each_word(rest, delimiters, [&](std::string_view word) {
     values.push_back(Convert_word(word, refused_in_list, suspicious_in_list));
   });

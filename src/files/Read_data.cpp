@@ -30,14 +30,37 @@ struct Delimiters {
   const Character_set& value;
 };
 
-template <typename Values>
-void Take_record(std::string_view record, const Delimiters& delimiters,
-                 Table_by_index<Values>& table) {
+bool Is_digit(char c) { return c >= '0' && c <= '9'; }
+
+/// Takes a key that is told as a plain number right in front of the head's delimiter, as nearly all
+/// are; false, with nothing taken, for others.
+bool Take_plain_head(std::string_view& record, const Delimiters& delimiters, std::int32_t& key) {
+  for (const Character_set* set : {&delimiters.head, &delimiters.key})
+    if (set->size() != 1 || Is_digit(set->Only())) return false;
+  std::size_t digits = 0;
+  while (digits < record.size() && Is_digit(record[digits])) ++digits;
+  if (digits == record.size() || record[digits] != delimiters.head.Only() ||
+      !Convert_plain(record.substr(0, digits), key))
+    return false;
+  record.remove_prefix(digits);
+  Skip_delimiters(record, delimiters.head);
+  return true;
+}
+
+std::int32_t Take_head(std::string_view& record, const Delimiters& delimiters) {
+  std::int32_t key = 0;
+  if (Take_plain_head(record, delimiters, key)) return key;
   my_string_chopper_class::Set_delims(delimiters.head);
   std::string_view head = Chop_word(record, delimiters.head);
   my_string_chopper_class::Set_delims(delimiters.key);
-  std::int32_t key = 0;
   head >> key;
+  return key;
+}
+
+template <typename Values>
+void Take_record(std::string_view record, const Delimiters& delimiters,
+                 Table_by_index<Values>& table) {
+  const std::int32_t key = Take_head(record, delimiters);
   my_string_chopper_class::Set_delims(delimiters.value);
   Values& values = table.Add(key);
   const std::size_t held = values.size();
