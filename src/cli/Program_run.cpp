@@ -23,6 +23,7 @@
 #include "files/Results_directory.h"
 #include "files/Unfinished_mark.h"
 #include "foundation/File_faults.h"
+#include "foundation/Free_space.h"
 #include "foundation/Total_path.h"
 
 namespace gns {
@@ -92,8 +93,16 @@ class Program_run {
     Refuse_own_input(start_.parameters.input_file, output_dir);
     Check_out_dir(output_dir);
     Open_results(start_);
+    start_.tell_bound = [this](const Results_bound& bound) { Warn_of_great_results(bound); };
     bool approximation_needed = false;
     Run_from_links(start_, links, approximation_needed, summary_);
+  }
+
+  void Warn_of_great_results(const Results_bound& bound) {
+    const Run_parameters& parameters = start_.parameters;
+    if (const auto space = Free_space_at(parameters.output_dir))
+      display_->Tell(
+          Of_great_results(bound, *space, Get_total_path(parameters.output_dir), parameters));
   }
 
   /// Reads the links and tells what is odd about them, even if it ends in a failure.

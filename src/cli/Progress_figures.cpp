@@ -1,12 +1,14 @@
 #include "cli/Progress_figures.h"
 
 #include <algorithm>
+#include <cmath>
 #include <initializer_list>
 #include <limits>
 #include <string_view>
 
 #include "cli/State_lines.h"
 #include "control/Clique_find_ext_cont.h"
+#include "control/Work_done.h"
 #include "foundation/My_double2string.h"
 
 namespace gns {
@@ -27,6 +29,33 @@ std::string First_that_fits(std::initializer_list<std::string> texts, std::size_
   return "";
 }
 
+/// "8 s", "7 min", "2.5 h".
+std::string In_time(double seconds) {
+  constexpr double minute = 60;
+  constexpr double hour = 60 * minute;
+  if (seconds < 2 * minute) return double2string(std::ceil(seconds), 0) + " s";
+  if (seconds < 2 * hour) return double2string(std::ceil(seconds / minute), 0) + " min";
+  return double2string(seconds / hour, 1) + " h";
+}
+
+std::string Work_that_fits(const Progress_figures& figures, std::size_t width) {
+  constexpr double hundred = 100;
+  if (figures.share_done <= 0.0) return "";
+  const std::string done = double2string(figures.share_done * hundred, 1) + "%";
+  if (!figures.seconds_left) return First_that_fits({"work done: " + done, done}, width);
+  const std::string left = In_time(*figures.seconds_left) + " left";
+  return First_that_fits({"work done: " + done + ", about " + left, done + ", " + left, done},
+                         width);
+}
+
+std::string Bound_in_json(const Progress_figures& figures) {
+  if (figures.files == 0) return "null";
+  return "{\"entries\":" + std::to_string(figures.entries) +
+         ",\"files\":" + std::to_string(figures.files) +
+         ",\"bytes\":" + std::to_string(figures.bytes) +
+         ",\"pair_bytes\":" + std::to_string(figures.pair_bytes) + "}";
+}
+
 std::string In_quotes(const std::string& text) {
   std::string quoted = "\"";
   for (const char c : text) {
@@ -38,15 +67,26 @@ std::string In_quotes(const std::string& text) {
 
 }  // namespace
 
-Progress_figures Current_figures(const Stopwatch& watch) {
+Progress_figures Current_figures(const Stopwatch& watch, Time_left& time_left) {
   const external_control::Progress& progress = external_control::PROGRESS;
-  return {State_lines(),
-          progress.cliques_found.load(),
-          progress.k_cliques_found.load(),
-          progress.nodes_left.load(),
-          progress.failed_in_a_row.load(),
-          watch.Seconds(),
-          Peak_memory()};
+  const external_control::Output_bound& bound = external_control::OUTPUT_BOUND;
+  const external_control::Work_done::Share work = external_control::WORK_DONE.Now();
+  Progress_figures figures;
+  figures.report = State_lines();
+  figures.seconds = watch.Seconds();
+  if (work.total > 0)
+    figures.share_done = static_cast<double>(work.done) / static_cast<double>(work.total);
+  figures.seconds_left = time_left.At(figures.seconds, work);
+  figures.files = bound.files;
+  figures.entries = bound.entries;
+  figures.bytes = bound.bytes;
+  figures.pair_bytes = bound.pair_bytes;
+  figures.cliques = progress.cliques_found;
+  figures.k_cliques = progress.k_cliques_found;
+  figures.nodes_left = progress.nodes_left;
+  figures.failed_in_a_row = progress.failed_in_a_row;
+  figures.peak_memory = Peak_memory();
+  return figures;
 }
 
 std::vector<std::string> In_lines(const Progress_figures& figures, std::size_t width) {
@@ -68,6 +108,11 @@ std::vector<std::string> In_lines(const Progress_figures& figures, std::size_t w
   }
   add_count("cliques", figures.cliques);
   add_count("k-cliques", figures.k_cliques);
+  add(Work_that_fits(figures, width));
+  if (figures.files > 0) {
+    const std::string size = std::to_string(figures.files) + " files, " + In_units(figures.bytes);
+    add(First_that_fits({"to write at most: " + size, size}, width));
+  }
   const std::string time = double2string(figures.seconds, 2) + " s";
   const std::string memory = In_megabytes(figures.peak_memory);
   add(First_that_fits({time + ", peak memory " + memory, time + ", " + memory, time}, width));
@@ -94,7 +139,10 @@ std::string In_json(const Progress_figures& figures) {
          ",\"k_cliques\":" + std::to_string(figures.k_cliques) +
          ",\"nodes_left\":" + std::to_string(figures.nodes_left) +
          ",\"failed_in_a_row\":" + std::to_string(figures.failed_in_a_row) +
-         ",\"peak_memory\":" + std::to_string(figures.peak_memory) + "}";
+         ",\"peak_memory\":" + std::to_string(figures.peak_memory) +
+         ",\"work_done\":" + double2string(figures.share_done, 4) + ",\"seconds_left\":" +
+         (figures.seconds_left ? double2string(*figures.seconds_left, 1) : "null") +
+         ",\"bound\":" + Bound_in_json(figures) + "}";
 }
 
 }  // namespace gns

@@ -10,7 +10,7 @@
 namespace gns {
 
 void Progress_lines::Show(const Stopwatch& watch) {
-  const Progress_figures figures = Current_figures(watch);
+  const Progress_figures figures = Current_figures(watch, time_left_);
   const std::string line = (json_ ? In_json(figures) : "vorlane: " + In_one_line(figures)) + "\n";
   // A pipe that nobody reads would hold up the end of the run; the line is left out instead.
   struct pollfd ready = {STDERR_FILENO, POLLOUT, 0};

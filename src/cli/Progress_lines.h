@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/Live_display.h"
+#include "cli/Time_left.h"
 
 namespace gns {
 
@@ -13,6 +14,7 @@ class Progress_lines : public Progress_view {
   void End(const Stopwatch& watch) override;
 
  private:
+  Time_left time_left_;
   bool json_;
   bool asked_for_;
 };

@@ -36,7 +36,7 @@ Screen::Screen() : coloured_(Environment_variable("NO_COLOR").empty()) {}
 
 void Screen::Show(const Stopwatch& watch) {
   const auto [height, width] = Terminal_size();
-  std::vector<std::string> lines = In_lines(Current_figures(watch), width - 2);
+  std::vector<std::string> lines = In_lines(Current_figures(watch, time_left_), width - 2);
   lines.resize(std::min<std::size_t>(lines.size(), height - 1));
   std::string text = To_the_top();
   for (std::size_t i = 0; i < lines.size(); ++i) {

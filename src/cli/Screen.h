@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/Live_display.h"
+#include "cli/Time_left.h"
 
 namespace gns {
 
@@ -15,6 +16,7 @@ class Screen : public Progress_view {
  private:
   [[nodiscard]] std::string To_the_top() const;
 
+  Time_left time_left_;
   std::size_t shown_ = 0;  ///< lines
   bool coloured_;
 };

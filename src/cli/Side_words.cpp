@@ -10,6 +10,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "cli/Resources.h"
 #include "files/Link_file_kind.h"
 #include "files/Link_file_reader.h"
 #include "files/Results_directory.h"
@@ -122,6 +123,19 @@ std::string Why_no_links(std::size_t links, const Link_counts& counts, const std
   if (counts.outside == 0) return all + " each is one of a node with itself";
   return all + " none is within the thresholds; the weights go from " +
          Plain_number(counts.least_outside) + " to " + Plain_number(counts.greatest_outside);
+}
+
+std::string Of_great_results(const Results_bound& bound, const Free_space& space,
+                             const std::string& dir, const Run_parameters& parameters) {
+  constexpr std::uint64_t much = std::uint64_t{10} << 30U;
+  const std::uint64_t taken = bound.On_disk(space.block_size);
+  if (taken <= space.bytes && taken <= much) return "";
+  const std::string cure = parameters.use_intensity
+                               ? "a higher threshold (-I) leaves fewer k-cliques"
+                               : "a greater k (-k) leaves fewer cliques";
+  return "warning: the results may take up to " + In_units(taken) + ", and " + dir + " has " +
+         In_units(space.bytes) + " free; " +
+         (parameters.use_single_k ? cure : "-k K writes those of a single k only");
 }
 
 std::string Why_no_communities(const Run_summary& summary, const Run_parameters& parameters) {

@@ -3,9 +3,11 @@
 #include <exception>
 #include <string>
 
+#include "engine/Results_bound.h"
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
 #include "files/Link_file_check.h"
+#include "foundation/Free_space.h"
 
 namespace gns {
 
@@ -26,6 +28,11 @@ std::string In_words(const Link_file_warning& warning, const std::string& file);
 
 /// Why a run has no links; empty if it has.
 std::string Why_no_links(std::size_t links, const Link_counts& counts, const std::string& file);
+
+/// A warning where the results may not find the space, or take more than 10 GB; else empty. The
+/// results go to `dir`.
+std::string Of_great_results(const Results_bound& bound, const Free_space& space,
+                             const std::string& dir, const Run_parameters& parameters);
 
 /// Why a run has no communities though it finished; empty if that needs no words.
 std::string Why_no_communities(const Run_summary& summary, const Run_parameters& parameters);

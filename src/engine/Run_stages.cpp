@@ -1,7 +1,11 @@
 #include "engine/Run_stages.h"
 
+#include <utility>
+#include <vector>
+
 #include "communities/Coms_funcs.h"
 #include "control/Clique_find_ext_cont.h"
+#include "control/Work_done.h"
 #include "engine/Extract_coms.h"
 #include "files/Graph_and_clique_files.h"
 #include "files/Link_file_reader.h"
@@ -25,18 +29,66 @@ void Summarize(const Clique_vector& cliques, std::uint32_t exact_clique_count,
   summary.approximate_cliques = cliques.size() - exact_clique_count;
 }
 
+constexpr std::uint32_t least_k = 3;  ///< of a run over all k
+
+/// Tells, while it lives, how much of the work on the levels is done. A level is as much as it has
+/// cliques: nearly all of the time goes into their neighbours, which percolation asks for clique by
+/// clique.
+class Work_of_levels {
+ public:
+  Work_of_levels(std::vector<std::size_t> cliques_of_size, std::uint32_t largest_k,
+                 std::uint32_t smallest_k)
+      : cliques_from_(std::move(cliques_of_size)) {
+    for (std::size_t size = cliques_from_.size(); size > 1; --size)
+      cliques_from_[size - 2] += cliques_from_[size - 1];
+    std::uint64_t total = 0;
+    for (std::size_t k = smallest_k; k <= largest_k && k < cliques_from_.size(); ++k)
+      total += cliques_from_[k];
+    external_control::WORK_DONE.Begin(total);
+  }
+  ~Work_of_levels() { external_control::WORK_DONE.Begin(0); }
+  Work_of_levels(const Work_of_levels&) = delete;
+  Work_of_levels& operator=(const Work_of_levels&) = delete;
+
+  void End_level(std::uint32_t k) {
+    done_ += cliques_from_[k];
+    external_control::WORK_DONE.Set(done_);
+  }
+
+ private:
+  std::vector<std::size_t> cliques_from_;  ///< [n]: cliques of n nodes or more
+  std::uint64_t done_ = 0;
+};
+
+void Tell_bound(const Run_start& start, const Extraction_input& input) {
+  if (!start.tell_bound) return;
+  const bool single = start.parameters.use_single_k;
+  const std::uint32_t k = start.parameters.single_k;
+  const Results_bound bound =
+      Bound_of_results(input, single ? k : input.max_clique_size, single ? k : least_k);
+  external_control::Output_bound& told = external_control::OUTPUT_BOUND;
+  told.entries = bound.entries;
+  told.files = bound.files;
+  told.bytes = bound.bytes;
+  told.pair_bytes = bound.pair_bytes;
+  start.tell_bound(bound);
+}
+
 void Extract_all(const Run_parameters& parameters, const Unfinished_mark& mark,
                  const Extraction_input& input, Run_summary& summary) {
   Extraction extraction(input);
   if (parameters.use_single_k) {
+    Work_of_levels work(summary.cliques_of_size, parameters.single_k, parameters.single_k);
     mark.Check();
     summary.extractions.push_back(extraction.At(parameters.single_k));
     return;
   }
-  for (std::uint32_t k = input.max_clique_size; k >= 3; --k) {
+  Work_of_levels work(summary.cliques_of_size, input.max_clique_size, least_k);
+  for (std::uint32_t k = input.max_clique_size; k >= least_k; --k) {
     Check_for_stop_signal();
     mark.Check();
     summary.extractions.push_back(extraction.At(k));
+    work.End_level(k);
   }
 }
 
@@ -126,11 +178,20 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
   CURRENT_STATE_REPORT = " done.\n";
   Check_for_stop_signal();
 
-  Extract_all(parameters, *start.mark,
-              {cliques, exact_clique_count, start.com_flag, start.run_header, parameters.output_dir,
-               node_names, vertex_count, index_links, Max_clique_size_in_cl_vec(cliques),
-               parameters.use_intensity, parameters.intensity_threshold, tables},
-              summary);
+  const Extraction_input input = {cliques,
+                                  exact_clique_count,
+                                  start.com_flag,
+                                  start.run_header,
+                                  parameters.output_dir,
+                                  node_names,
+                                  vertex_count,
+                                  index_links,
+                                  Max_clique_size_in_cl_vec(cliques),
+                                  parameters.use_intensity,
+                                  parameters.intensity_threshold,
+                                  tables};
+  Tell_bound(start, input);
+  Extract_all(parameters, *start.mark, input, summary);
   if (File_faults().empty()) start.mark->Remove();
 }
 

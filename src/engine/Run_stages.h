@@ -1,8 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
+#include "engine/Results_bound.h"
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
 #include "files/Com_result_tables.h"
@@ -21,6 +23,8 @@ struct Run_start {
   std::string run_header;
   Clock clock = Processor_seconds;        ///< what a time limit is measured by
   std::unique_ptr<Unfinished_mark> mark;  ///< of the results directory, once it is open
+  /// Is told, if it is set, what the levels take at most, before the first of them.
+  std::function<void(const Results_bound&)> tell_bound;
 };
 
 /// What follows from the parameters alone. The header has its first three lines.

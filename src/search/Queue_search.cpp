@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "control/Clique_find_ext_cont.h"
+#include "control/Work_done.h"
 #include "foundation/Errors.h"
 #include "foundation/My_double2string.h"
 #include "search/Clique_reports.h"
@@ -104,6 +105,40 @@ void Note_progress(std::size_t cliques, std::uint32_t nodes_left, std::uint32_t 
   progress.failed_in_a_row.store(failed_in_a_row, std::memory_order_relaxed);
 }
 
+/// Passes everything on, and tells the work that is done: the candidates of a node are its
+/// neighbours behind it in the order, and the work is about the square of their number.
+class Told_search : public Node_search {
+ public:
+  Told_search(Node_search& search, const Adjacency& neighs, const Node_order& order)
+      : search_(search), work_(std::size_t{neighs.Node_count()} + 1, 0) {
+    std::vector<std::uint32_t> place(work_.size(), 0);
+    for (std::uint32_t i = 0; i < order.size(); ++i) place[order[i]] = i;
+    std::uint64_t total = 0;
+    for (const Node_index node : order) {
+      const auto candidates = static_cast<std::uint64_t>(std::ranges::count_if(
+          neighs[node], [&](Node_index other) { return place[other] > place[node]; }));
+      work_[node] = 1 + candidates * candidates;
+      total += work_[node];
+    }
+    external_control::WORK_DONE.Begin(total);
+  }
+  ~Told_search() override { external_control::WORK_DONE.Begin(0); }
+  Told_search(const Told_search&) = delete;
+  Told_search& operator=(const Told_search&) = delete;
+
+  void Find(Node_index node, Attempt& attempt, Clique_vector& cliques) override {
+    search_.Find(node, attempt, cliques);
+  }
+  void Finish(Node_index node) override {
+    search_.Finish(node);
+    external_control::WORK_DONE.Add(work_[node]);
+  }
+
+ private:
+  Node_search& search_;
+  std::vector<std::uint64_t> work_;  ///< per node
+};
+
 }  // namespace
 
 void Refuse_more_than(std::size_t most_cliques, const Clique_vector& cliques) {
@@ -147,7 +182,8 @@ Left_map Search_all(Node_search& search, const Adjacency& neighs, const Node_ord
                     const Search_kind& kind, const Time_limit* limit, Clique_vector& cliques,
                     Overlap_matrix& overlap_matrix) {
   overlap_matrix = Overlap_matrix(cliques);  // stays right as the cliques come, up to a stop
-  return Spanned_by(Search_queue(search, order, kind, limit, cliques), neighs);
+  Told_search told(search, neighs, order);
+  return Spanned_by(Search_queue(told, order, kind, limit, cliques), neighs);
 }
 
 }  // namespace gns

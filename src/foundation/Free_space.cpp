@@ -1,0 +1,13 @@
+#include "foundation/Free_space.h"
+
+#include <sys/statvfs.h>
+
+namespace gns {
+
+std::optional<Free_space> Free_space_at(const std::string& path) {
+  struct statvfs found {};
+  if (::statvfs(path.c_str(), &found) != 0 || found.f_frsize == 0) return std::nullopt;
+  return Free_space{std::uint64_t{found.f_bavail} * found.f_frsize, found.f_frsize};
+}
+
+}  // namespace gns
