@@ -29,6 +29,7 @@ Joined_cliques::Joined_cliques(const Clique_vector& cliques, std::uint32_t exact
       exact_clique_count_(exact_clique_count),
       partner_of_(cliques.size()),
       levels_(cliques.size()),
+      shared_(cliques.size()),
       leads_to_(cliques.size()),
       groups_(cliques.size()) {
   for (std::size_t i = 0; i < cliques.size(); ++i)
@@ -69,6 +70,7 @@ void Joined_cliques::Count_in_graph(const Index_links& index_links) {
       largest_of[node] = std::max(largest_of[node], size);
       names += {1, name_bytes_[node]};
     }
+    groups_[i].nodes = names;
     if (i >= exact_clique_count_) links_[size] += Links_among(names);
   }
   for (Node_index node = 1; node < name_bytes_.size(); ++node)
@@ -93,6 +95,9 @@ void Joined_cliques::Find_partners() {
     partner_of_[i] = partner.clique;
     if (partner.shared == 0) continue;
     const std::size_t smaller = std::min(cliques_[i].size(), cliques_[partner.clique].size());
+    partners.For_each_shared(cliques_[i], partner, [&](Node_index node) {
+      shared_[i] += {1, name_bytes_[node]};
+    });
     levels_[i] = static_cast<std::uint32_t>(std::min(partner.shared + std::size_t{1}, smaller));
   }
   of_level_ = Adjacency(largest_, [&](auto enter) {
@@ -116,7 +121,6 @@ const Level_counts& Joined_cliques::At(std::uint32_t k) {
 void Joined_cliques::Enter(Clique_index clique) {
   Check_inside_long_stage();
   Group& group = groups_[clique];
-  for (const Node_index node : cliques_[clique]) group.nodes += {1, name_bytes_[node]};
   group.links = Links_among(group.nodes);
   leads_to_[clique] = clique;
   representatives_.push_back(clique);
@@ -130,10 +134,7 @@ void Joined_cliques::Join(Clique_index clique, Clique_index earlier) {
   const Clique_index into = Representative(clique);
   const Clique_index from = Representative(earlier);
   if (into == from) return;
-  Amount shared;
-  For_each_shared(cliques_[clique], cliques_[earlier], [&](Node_index node) {
-    shared += {1, name_bytes_[node]};
-  });
+  const Amount& shared = shared_[clique];
   groups_[into].nodes += groups_[from].nodes;
   groups_[into].nodes -= shared;
   groups_[into].links += groups_[from].links;

@@ -73,6 +73,7 @@ class Joined_cliques {
   std::vector<Amount> links_;
   std::vector<Clique_index> partner_of_;  ///< per clique: an earlier one
   std::vector<std::uint32_t> levels_;     ///< per clique: where it joins that; 0: nowhere
+  std::vector<Amount> shared_;            ///< per clique: nodes that it shares with that
   Adjacency of_level_;                    ///< level -> cliques
   std::uint32_t reached_;                 ///< the smallest size and level that counts
   std::vector<Clique_index> leads_to_;    ///< per clique: another of its group, or itself

@@ -14,7 +14,8 @@ double Subsets(double nodes, double k) {
   if (k > nodes || k < 0) return 0.0;
   k = std::min(k, nodes - k);  // and as many of the others
   double count = 1.0;
-  for (double i = 1; i <= k && count < K_clique_counts::most; ++i) count *= (nodes - k + i) / i;
+  for (std::uint32_t i = 1; i <= k && count < K_clique_counts::most; ++i)
+    count *= (nodes - k + i) / i;
   return std::min(count, K_clique_counts::most);
 }
 
@@ -34,14 +35,13 @@ K_clique_counts::K_clique_counts(const Clique_vector& cliques, const Node_names&
     double all_bytes = 0.0;
     for (const Node_index node : cliques[i])
       all_bytes += static_cast<double>(node_names[node].size() + 1);
-    double shared_bytes = 0.0;
     const Clique_partners::Partner partner = partners.Of(i, cliques[i]);
-    std::size_t shared = 0;
+    double shared_bytes = 0.0;
     if (partner.shared > 0)
-      shared = For_each_shared(cliques[i], cliques[partner.clique], [&](Node_index node) {
+      partners.For_each_shared(cliques[i], partner, [&](Node_index node) {
         shared_bytes += static_cast<double>(node_names[node].size() + 1);
       });
-    Kind& kind = kinds_[{cliques[i].size(), shared}];
+    Kind& kind = kinds_[{cliques[i].size(), partner.shared}];
     kind.cliques += 1;
     kind.name_bytes += all_bytes;
     kind.shared_bytes += shared_bytes;

@@ -105,21 +105,15 @@ void Note_progress(std::size_t cliques, std::uint32_t nodes_left, std::uint32_t 
   progress.failed_in_a_row.store(failed_in_a_row, std::memory_order_relaxed);
 }
 
-/// Passes everything on, and tells the work that is done: the candidates of a node are its
-/// neighbours behind it in the order, and the work is about the square of their number.
+/// Passes everything on, and tells the work that is done. The work on a node is taken to be the
+/// square of the number of its candidates: its neighbours that have more neighbours than it, or as
+/// many and a greater index.
 class Told_search : public Node_search {
  public:
   Told_search(Node_search& search, const Adjacency& neighs, const Node_order& order)
-      : search_(search), work_(std::size_t{neighs.Node_count()} + 1, 0) {
-    std::vector<std::uint32_t> place(work_.size(), 0);
-    for (std::uint32_t i = 0; i < order.size(); ++i) place[order[i]] = i;
+      : search_(search), neighs_(neighs) {
     std::uint64_t total = 0;
-    for (const Node_index node : order) {
-      const auto candidates = static_cast<std::uint64_t>(std::ranges::count_if(
-          neighs[node], [&](Node_index other) { return place[other] > place[node]; }));
-      work_[node] = 1 + candidates * candidates;
-      total += work_[node];
-    }
+    for (const Node_index node : order) total += Work_on(node);
     external_control::WORK_DONE.Begin(total);
   }
   ~Told_search() override { external_control::WORK_DONE.Begin(0); }
@@ -131,12 +125,22 @@ class Told_search : public Node_search {
   }
   void Finish(Node_index node) override {
     search_.Finish(node);
-    external_control::WORK_DONE.Add(work_[node]);
+    external_control::WORK_DONE.Add(Work_on(node));
   }
 
  private:
+  [[nodiscard]] std::uint64_t Work_on(Node_index node) const {
+    const std::size_t degree = neighs_[node].size();
+    std::uint64_t candidates = 0;
+    for (const Node_index other : neighs_[node]) {
+      const std::size_t degree_of_other = neighs_[other].size();
+      if (degree_of_other > degree || (degree_of_other == degree && other > node)) ++candidates;
+    }
+    return 1 + candidates * candidates;
+  }
+
   Node_search& search_;
-  std::vector<std::uint64_t> work_;  ///< per node
+  const Adjacency& neighs_;
 };
 
 }  // namespace
