@@ -66,7 +66,7 @@ class Files_of_levels {
   }
 
   void Add_file(double entries, double body) {
-    constexpr double longest_title = 200;  // with the remark on approximate communities
+    constexpr double longest_title = 100;  // with the remark on approximate communities
     entries_ += entries;
     bytes_ += body + longest_title + static_cast<double>(input_.run_header.size());
     files_ += 1;

@@ -69,7 +69,7 @@ TEST(ResultsBound, NoRunWritesMore) {
     p.input_file = temp.Write("links", Links_of(random, links));
     p.directed = seed % 4 == 1;
     p.use_intensity = seed % 4 == 2;
-    p.intensity_threshold = random.Between(1, 6);
+    p.intensity_threshold = random.Below(5);
     p.use_time_limit = seed % 4 == 3;
     p.time_limit = 1.0;
     if (random.Chance(30)) {
