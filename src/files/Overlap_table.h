@@ -40,7 +40,7 @@ class Overlap_table {
   [[nodiscard]] bool contains(const key_type& pair) const { return find(pair) != end(); }
   /// Throws std::out_of_range if there is no such pair.
   [[nodiscard]] mapped_type at(const key_type& pair) const {
-    const const_iterator found = find(pair);
+    const auto found = find(pair);
     if (found == end()) throw std::out_of_range("no overlap of these communities");
     return found->second;
   }
