@@ -1,6 +1,5 @@
 #include "communities/Coms_funcs.h"
 
-#include <algorithm>
 #include <string>
 
 #include "communities/Percolation.h"
@@ -21,12 +20,6 @@ void Coms_from_appr_ovlp_matr(Row_array<Node_index>& coms, Row_array<Index_pair>
   com_links = found.com_links;
   com_cliques = found.com_cliques;
   exact_com_count = found.exact_com_count;
-}
-
-std::uint32_t Max_clique_size_in_cl_vec(const Clique_vector& cliques) {
-  std::size_t largest = 0;
-  for (std::size_t i = 0; i < cliques.size(); ++i) largest = std::max(largest, cliques[i].size());
-  return static_cast<std::uint32_t>(largest);
 }
 
 namespace Coms_report_sub {

@@ -17,9 +17,6 @@ void Coms_from_appr_ovlp_matr(Row_array<Node_index>& coms, Row_array<Index_pair>
                               const Overlap_matrix& overlap_matrix, std::uint32_t k,
                               std::uint32_t exact_clique_count, std::uint32_t& exact_com_count);
 
-/// Size of the largest clique, 0 for an empty vector.
-std::uint32_t Max_clique_size_in_cl_vec(const Clique_vector& cliques);
-
 namespace Coms_report_sub {
 
 /// Appends the report of the percolation at k: a rule and a line with the share of the k done.

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "communities/Coms_funcs.h"
+#include "search/Clique_vector.h"
 
 namespace gns {
 

@@ -3,7 +3,6 @@
 #include <utility>
 #include <vector>
 
-#include "communities/Coms_funcs.h"
 #include "control/Clique_find_ext_cont.h"
 #include "control/Work_done.h"
 #include "engine/Extract_coms.h"
@@ -13,6 +12,7 @@
 #include "foundation/File_faults.h"
 #include "graph/Link_conversion.h"
 #include "search/Clique_find.h"
+#include "search/Clique_vector.h"
 
 namespace gns {
 
