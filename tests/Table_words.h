@@ -3,10 +3,10 @@
 #include <sstream>
 #include <string>
 
-#include "files/Com_result_tables.h"
 #include "files/Read_data.h"
 #include "foundation/Errors.h"
 #include "graph/Link_map.h"
+#include "results/Com_result_tables.h"
 
 namespace gns {
 

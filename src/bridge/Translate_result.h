@@ -2,7 +2,7 @@
 
 #include <jni.h>
 
-#include "files/Com_result_tables.h"
+#include "results/Com_result_tables.h"
 
 namespace gns {
 

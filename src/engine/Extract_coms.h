@@ -9,9 +9,9 @@
 #include "communities/Percolation.h"
 #include "communities/Weighted_cliques.h"
 #include "engine/Run_summary.h"
-#include "files/Com_result_tables.h"
 #include "graph/Index_links.h"
 #include "graph/Node_names.h"
+#include "results/Com_result_tables.h"
 #include "search/Clique_vector.h"
 #include "search/Overlap_matrix.h"
 

@@ -6,7 +6,7 @@
 #include "engine/Run_message.h"
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
-#include "files/Com_result_tables.h"
+#include "results/Com_result_tables.h"
 
 namespace gns {
 

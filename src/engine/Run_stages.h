@@ -7,10 +7,10 @@
 #include "engine/Results_bound.h"
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
-#include "files/Com_result_tables.h"
 #include "files/Link_file_check.h"
 #include "files/Unfinished_mark.h"
 #include "graph/Link_map.h"
+#include "results/Com_result_tables.h"
 #include "search/Attempt.h"
 
 namespace gns {

@@ -5,10 +5,10 @@
 
 #include "communities/Community_statistics.h"
 #include "communities/K_clique_communities.h"
-#include "files/Com_result_tables.h"
 #include "graph/Index_links.h"
 #include "graph/Node_names.h"
 #include "graph/Row_array.h"
+#include "results/Com_result_tables.h"
 #include "search/Clique_vector.h"
 
 namespace gns {

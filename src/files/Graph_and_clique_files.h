@@ -4,9 +4,9 @@
 #include <string>
 
 #include "communities/K_cliques.h"
-#include "files/Com_result_tables.h"
 #include "graph/Link_map.h"
 #include "graph/Node_names.h"
+#include "results/Com_result_tables.h"
 #include "search/Clique_vector.h"
 
 namespace gns {

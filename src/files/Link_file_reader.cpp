@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "control/Clique_find_ext_cont.h"
-#include "files/Cut_lines.h"
 #include "files/Link_file_kind.h"
+#include "foundation/Cut_lines.h"
 #include "foundation/Errors.h"
 #include "foundation/Line_reader.h"
 #include "foundation/My_string_to_d.h"

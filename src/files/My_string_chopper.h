@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-#include "files/Index_list.h"
-#include "files/Name_list.h"
 #include "foundation/Character_set.h"
 #include "foundation/Errors.h"
+#include "results/Index_list.h"
+#include "results/Name_list.h"
 
 namespace gns {
 

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <utility>
 
-#include "files/Name_pairs.h"
 #include "foundation/Errors.h"
 #include "foundation/Line_reader.h"
+#include "results/Name_pairs.h"
 
 namespace gns {
 

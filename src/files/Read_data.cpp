@@ -3,9 +3,9 @@
 #include <string_view>
 #include <utility>
 
-#include "files/Cut_lines.h"
 #include "files/My_string_chopper.h"
 #include "files/Pair_fields.h"
+#include "foundation/Cut_lines.h"
 #include "foundation/Errors.h"
 #include "foundation/Line_reader.h"
 #include "foundation/My_string_to_i.h"

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "files/Com_result_tables.h"
 #include "foundation/Character_set.h"
+#include "results/Com_result_tables.h"
 
 namespace gns {
 

@@ -4,10 +4,10 @@
 #include <utility>
 
 #include "control/Clique_find_ext_cont.h"
-#include "files/Com_result_tables.h"
 #include "foundation/Text_writer.h"
 #include "graph/Node_names.h"
 #include "graph/Node_set.h"
+#include "results/Com_result_tables.h"
 
 namespace gns {
 

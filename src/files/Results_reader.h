@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "files/Com_result_tables.h"
+#include "results/Com_result_tables.h"
 
 namespace gns {
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "communities/Community_statistics.h"
-#include "files/Com_result_tables.h"
+#include "results/Com_result_tables.h"
 
 namespace gns {
 

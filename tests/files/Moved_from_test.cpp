@@ -3,12 +3,12 @@
 #include <utility>
 
 #include "communities/K_cliques.h"
-#include "files/Com_result_tables.h"
 #include "graph/Index_links.h"
 #include "graph/Link_map.h"
 #include "graph/Node_names.h"
 #include "graph/Row_array.h"
 #include "graph/Vertex_map.h"
+#include "results/Com_result_tables.h"
 
 namespace gns {
 namespace {

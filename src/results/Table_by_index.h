@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "files/Sorted_entries.h"
+#include "results/Sorted_entries.h"
 
 namespace gns {
 

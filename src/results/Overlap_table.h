@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "files/Sorted_entries.h"
+#include "results/Sorted_entries.h"
 
 namespace gns {
 

@@ -1,4 +1,4 @@
-#include "files/Name_list.h"
+#include "results/Name_list.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -4,11 +4,11 @@
 #include <map>
 #include <tuple>
 
-#include "files/Index_list.h"
-#include "files/Name_list.h"
-#include "files/Name_pairs.h"
-#include "files/Overlap_table.h"
-#include "files/Table_by_index.h"
+#include "results/Index_list.h"
+#include "results/Name_list.h"
+#include "results/Name_pairs.h"
+#include "results/Overlap_table.h"
+#include "results/Table_by_index.h"
 
 namespace gns {
 

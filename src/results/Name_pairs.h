@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "files/Name_list.h"
+#include "results/Name_list.h"
 
 namespace gns {
 
