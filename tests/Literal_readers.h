@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "foundation/My_convert_from_string.h"
+#include "foundation/text/My_convert_from_string.h"
 
 /// The readers of link files and result files told step by step, with the formatted input of the
 /// standard library. Each yields the table in words and how the reading failed, as Words_after()

@@ -18,7 +18,7 @@
 #include "engine/Find_coms.h"
 #include "engine/Load_coms.h"
 #include "foundation/Errors.h"
-#include "foundation/File_faults.h"
+#include "foundation/io/File_faults.h"
 
 namespace gns {
 

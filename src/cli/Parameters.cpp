@@ -6,7 +6,7 @@
 #include <variant>
 
 #include "engine/Check_switches.h"
-#include "foundation/My_convert_from_string.h"
+#include "foundation/text/My_convert_from_string.h"
 
 namespace gns {
 

@@ -3,7 +3,7 @@
 #include "cli/Switches.h"
 #include "cli/Unheeded_words.h"
 #include "cli/Usage.h"
-#include "foundation/My_double2string.h"
+#include "foundation/text/My_double2string.h"
 
 namespace gns {
 

@@ -22,9 +22,9 @@
 #include "engine/Own_input.h"
 #include "files/Results_directory.h"
 #include "files/Unfinished_mark.h"
-#include "foundation/File_faults.h"
-#include "foundation/Free_space.h"
-#include "foundation/Total_path.h"
+#include "foundation/io/File_faults.h"
+#include "foundation/paths/Free_space.h"
+#include "foundation/paths/Total_path.h"
 
 namespace gns {
 

@@ -9,7 +9,7 @@
 #include "cli/State_lines.h"
 #include "control/Clique_find_ext_cont.h"
 #include "control/Work_done.h"
-#include "foundation/My_double2string.h"
+#include "foundation/text/My_double2string.h"
 
 namespace gns {
 

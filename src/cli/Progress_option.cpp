@@ -4,7 +4,7 @@
 #include <string>
 
 #include "foundation/Errors.h"
-#include "foundation/My_string_to_d.h"
+#include "foundation/text/My_string_to_d.h"
 
 namespace gns {
 

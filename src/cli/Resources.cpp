@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "foundation/My_double2string.h"
+#include "foundation/text/My_double2string.h"
 
 namespace gns {
 

@@ -15,12 +15,12 @@
 #include "files/Link_file_reader.h"
 #include "files/Results_directory.h"
 #include "files/Unfinished_mark.h"
-#include "foundation/Direktoriz.h"
 #include "foundation/Errors.h"
-#include "foundation/My_double2string.h"
-#include "foundation/Shown_text.h"
-#include "foundation/Text_fields.h"
-#include "foundation/Total_path.h"
+#include "foundation/paths/Direktoriz.h"
+#include "foundation/paths/Total_path.h"
+#include "foundation/text/My_double2string.h"
+#include "foundation/text/Shown_text.h"
+#include "foundation/text/Text_fields.h"
 
 namespace gns {
 

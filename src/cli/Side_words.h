@@ -7,7 +7,7 @@
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
 #include "files/Link_file_check.h"
-#include "foundation/Free_space.h"
+#include "foundation/paths/Free_space.h"
 
 namespace gns {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "control/Clique_find_ext_cont.h"
-#include "foundation/Text_fields.h"
+#include "foundation/text/Text_fields.h"
 
 namespace gns {
 

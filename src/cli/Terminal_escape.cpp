@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/Shown_text.h"
+#include "foundation/text/Shown_text.h"
 
 namespace gns {
 

@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "cli/Parameters.h"
-#include "foundation/My_string_to_d.h"
-#include "foundation/Shown_text.h"
+#include "foundation/text/My_string_to_d.h"
+#include "foundation/text/Shown_text.h"
 
 namespace gns {
 

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "communities/Percolation.h"
-#include "foundation/My_double2string.h"
-#include "foundation/My_int2string.h"
+#include "foundation/text/My_double2string.h"
+#include "foundation/text/My_int2string.h"
 
 namespace gns {
 

@@ -8,7 +8,7 @@
 
 #include "communities/Shared_subsets.h"
 #include "control/Clique_find_ext_cont.h"
-#include "foundation/My_double2string.h"
+#include "foundation/text/My_double2string.h"
 #include "search/Clique_reports.h"
 
 namespace gns {

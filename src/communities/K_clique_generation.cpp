@@ -11,7 +11,7 @@
 #include "communities/K_clique_search.h"
 #include "control/Clique_find_ext_cont.h"
 #include "foundation/Errors.h"
-#include "foundation/My_double2string.h"
+#include "foundation/text/My_double2string.h"
 #include "search/Clique_reports.h"
 
 namespace gns {

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "foundation/Moving_count.h"
+#include "foundation/memory/Moving_count.h"
 #include "graph/Node_set.h"
 
 namespace gns {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "control/Clique_find_ext_cont.h"
-#include "foundation/Huge_pages.h"
+#include "foundation/memory/Huge_pages.h"
 
 namespace external_control {
 

@@ -5,7 +5,7 @@
 
 #include "control/Clique_find_ext_cont.h"
 #include "engine/Clique_partners.h"
-#include "foundation/Decimal_digits.h"
+#include "foundation/text/Decimal_digits.h"
 
 namespace gns {
 

@@ -4,7 +4,7 @@
 #include <system_error>
 
 #include "foundation/Errors.h"
-#include "foundation/Total_path.h"
+#include "foundation/paths/Total_path.h"
 
 namespace gns {
 

@@ -6,7 +6,7 @@
 
 #include "engine/Joined_cliques.h"
 #include "engine/K_clique_counts.h"
-#include "foundation/Decimal_digits.h"
+#include "foundation/text/Decimal_digits.h"
 
 namespace gns {
 

@@ -9,7 +9,7 @@
 #include "files/Graph_and_clique_files.h"
 #include "files/Link_file_reader.h"
 #include "files/Results_directory.h"
-#include "foundation/File_faults.h"
+#include "foundation/io/File_faults.h"
 #include "graph/Link_conversion.h"
 #include "search/Clique_find.h"
 #include "search/Clique_vector.h"

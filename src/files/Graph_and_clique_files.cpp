@@ -3,8 +3,8 @@
 #include "control/Clique_find_ext_cont.h"
 #include "files/Result_lines.h"
 #include "files/Results_names.h"
-#include "foundation/Dir_prepare.h"
-#include "foundation/Text_writer.h"
+#include "foundation/io/Text_writer.h"
+#include "foundation/paths/Dir_prepare.h"
 
 namespace gns {
 

@@ -4,9 +4,9 @@
 #include <array>
 
 #include "files/Link_file_kind.h"
-#include "foundation/My_string_to_d.h"
-#include "foundation/Shown_text.h"
-#include "foundation/Text_fields.h"
+#include "foundation/text/My_string_to_d.h"
+#include "foundation/text/Shown_text.h"
+#include "foundation/text/Text_fields.h"
 
 namespace gns {
 

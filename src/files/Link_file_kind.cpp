@@ -4,7 +4,7 @@
 #include <array>
 #include <utility>
 
-#include "foundation/Shown_text.h"
+#include "foundation/text/Shown_text.h"
 
 namespace gns {
 

@@ -5,12 +5,12 @@
 
 #include "control/Clique_find_ext_cont.h"
 #include "files/Link_file_kind.h"
-#include "foundation/Cut_lines.h"
 #include "foundation/Errors.h"
-#include "foundation/Line_reader.h"
-#include "foundation/My_string_to_d.h"
-#include "foundation/Shown_text.h"
-#include "foundation/Text_fields.h"
+#include "foundation/io/Cut_lines.h"
+#include "foundation/io/Line_reader.h"
+#include "foundation/text/My_string_to_d.h"
+#include "foundation/text/Shown_text.h"
+#include "foundation/text/Text_fields.h"
 
 namespace gns {
 

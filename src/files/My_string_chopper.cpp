@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <iostream>
 
-#include "foundation/My_convert_from_string.h"
-#include "foundation/Words.h"
+#include "foundation/text/My_convert_from_string.h"
+#include "foundation/text/Words.h"
 
 namespace gns {
 

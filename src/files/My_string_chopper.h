@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/Character_set.h"
 #include "foundation/Errors.h"
+#include "foundation/text/Character_set.h"
 #include "results/Index_list.h"
 #include "results/Name_list.h"
 

@@ -1,7 +1,7 @@
 #include "files/Pair_fields.h"
 
-#include "foundation/My_string_to_i.h"
-#include "foundation/Text_fields.h"
+#include "foundation/text/My_string_to_i.h"
+#include "foundation/text/Text_fields.h"
 
 namespace gns {
 

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "foundation/Errors.h"
-#include "foundation/Line_reader.h"
+#include "foundation/io/Line_reader.h"
 #include "results/Name_pairs.h"
 
 namespace gns {

@@ -5,11 +5,11 @@
 
 #include "files/My_string_chopper.h"
 #include "files/Pair_fields.h"
-#include "foundation/Cut_lines.h"
 #include "foundation/Errors.h"
-#include "foundation/Line_reader.h"
-#include "foundation/My_string_to_i.h"
-#include "foundation/Words.h"
+#include "foundation/io/Cut_lines.h"
+#include "foundation/io/Line_reader.h"
+#include "foundation/text/My_string_to_i.h"
+#include "foundation/text/Words.h"
 
 namespace gns {
 

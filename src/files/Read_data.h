@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "foundation/Character_set.h"
+#include "foundation/text/Character_set.h"
 #include "results/Com_result_tables.h"
 
 namespace gns {

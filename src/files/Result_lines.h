@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "control/Clique_find_ext_cont.h"
-#include "foundation/Text_writer.h"
+#include "foundation/io/Text_writer.h"
 #include "graph/Node_names.h"
 #include "graph/Node_set.h"
 #include "results/Com_result_tables.h"

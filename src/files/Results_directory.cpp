@@ -7,12 +7,12 @@
 #include <system_error>
 
 #include "files/Results_names.h"
-#include "foundation/Dir_prepare.h"
-#include "foundation/Direktoriz.h"
 #include "foundation/Errors.h"
-#include "foundation/My_double2string.h"
-#include "foundation/Text_writer.h"
-#include "foundation/Total_path.h"
+#include "foundation/io/Text_writer.h"
+#include "foundation/paths/Dir_prepare.h"
+#include "foundation/paths/Direktoriz.h"
+#include "foundation/paths/Total_path.h"
+#include "foundation/text/My_double2string.h"
 
 namespace gns {
 

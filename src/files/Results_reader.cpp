@@ -7,10 +7,10 @@
 #include "files/Pair_fields.h"
 #include "files/Read_data.h"
 #include "files/Results_names.h"
-#include "foundation/Direktoriz.h"
 #include "foundation/Errors.h"
-#include "foundation/Line_reader.h"
-#include "foundation/My_convert_from_string.h"
+#include "foundation/io/Line_reader.h"
+#include "foundation/paths/Direktoriz.h"
+#include "foundation/text/My_convert_from_string.h"
 
 namespace gns {
 

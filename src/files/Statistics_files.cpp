@@ -1,8 +1,8 @@
 #include "files/Statistics_files.h"
 
 #include "files/Results_names.h"
-#include "foundation/Dir_prepare.h"
-#include "foundation/Text_writer.h"
+#include "foundation/io/Text_writer.h"
+#include "foundation/paths/Dir_prepare.h"
 
 namespace gns {
 

@@ -10,12 +10,12 @@
 #include <system_error>
 
 #include "files/Results_directory.h"
-#include "foundation/Dir_prepare.h"
-#include "foundation/Direktoriz.h"
 #include "foundation/Environment.h"
 #include "foundation/Errors.h"
-#include "foundation/File_faults.h"
-#include "foundation/Total_path.h"
+#include "foundation/io/File_faults.h"
+#include "foundation/paths/Dir_prepare.h"
+#include "foundation/paths/Direktoriz.h"
+#include "foundation/paths/Total_path.h"
 
 namespace gns {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "foundation/Descriptor.h"
+#include "foundation/io/Descriptor.h"
 
 namespace gns {
 

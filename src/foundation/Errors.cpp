@@ -3,7 +3,7 @@
 #include <string_view>
 #include <utility>
 
-#include "foundation/Shown_text.h"
+#include "foundation/text/Shown_text.h"
 
 namespace gns {
 

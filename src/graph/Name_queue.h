@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "foundation/Growing_array.h"
+#include "foundation/memory/Growing_array.h"
 #include "graph/Name_numbers.h"
 
 namespace gns {

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "foundation/Growing_array.h"
+#include "foundation/memory/Growing_array.h"
 
 namespace gns {
 

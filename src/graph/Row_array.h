@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <span>
 
-#include "foundation/Growing_array.h"
+#include "foundation/memory/Growing_array.h"
 
 namespace gns {
 

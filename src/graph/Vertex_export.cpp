@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "foundation/My_int2string.h"
+#include "foundation/text/My_int2string.h"
 
 namespace gns {
 

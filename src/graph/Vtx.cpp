@@ -1,7 +1,7 @@
 #include "graph/Vtx.h"
 
 #include "foundation/Errors.h"
-#include "foundation/My_int2string.h"
+#include "foundation/text/My_int2string.h"
 
 namespace gns {
 

@@ -6,8 +6,8 @@
 #include <span>
 #include <string_view>
 
-#include "foundation/Growing_array.h"
-#include "foundation/My_string_to_i.h"
+#include "foundation/memory/Growing_array.h"
+#include "foundation/text/My_string_to_i.h"
 
 namespace gns {
 

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <cstring>
 
-#include "foundation/Delimiter_places.h"
-#include "foundation/Words.h"
+#include "foundation/text/Delimiter_places.h"
+#include "foundation/text/Words.h"
 
 namespace gns {
 

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <utility>
 
-#include "foundation/Character_set.h"
-#include "foundation/Growing_array.h"
-#include "foundation/Moving_count.h"
+#include "foundation/memory/Growing_array.h"
+#include "foundation/memory/Moving_count.h"
+#include "foundation/text/Character_set.h"
 
 namespace gns {
 

@@ -4,8 +4,8 @@
 #include <sstream>
 #include <utility>
 
-#include "foundation/My_double2string.h"
-#include "foundation/My_int2string.h"
+#include "foundation/text/My_double2string.h"
+#include "foundation/text/My_int2string.h"
 
 namespace gns {
 

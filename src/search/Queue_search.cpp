@@ -10,7 +10,7 @@
 #include "control/Clique_find_ext_cont.h"
 #include "control/Work_done.h"
 #include "foundation/Errors.h"
-#include "foundation/My_double2string.h"
+#include "foundation/text/My_double2string.h"
 #include "search/Clique_reports.h"
 #include "search/Hard_cliques.h"
 

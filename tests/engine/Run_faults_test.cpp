@@ -14,7 +14,7 @@
 #include "control/Clique_find_ext_cont.h"
 #include "engine/Find_coms.h"
 #include "files/Unfinished_mark.h"
-#include "foundation/File_faults.h"
+#include "foundation/io/File_faults.h"
 
 namespace gns {
 namespace {

@@ -13,7 +13,7 @@
 #include "control/Clique_find_ext_cont.h"
 #include "engine/Find_coms.h"
 #include "engine/Run_stages.h"
-#include "foundation/File_faults.h"
+#include "foundation/io/File_faults.h"
 
 namespace gns {
 namespace {

@@ -17,7 +17,7 @@
 #include "Directory_contents.h"
 #include "Temp_dir.h"
 #include "Thrown_message.h"
-#include "foundation/File_faults.h"
+#include "foundation/io/File_faults.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "foundation/Line_reader.h"
+#include "foundation/io/Line_reader.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

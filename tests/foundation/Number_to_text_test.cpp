@@ -8,8 +8,8 @@
 #include <tuple>
 #include <vector>
 
-#include "foundation/My_double2string.h"
-#include "foundation/My_int2string.h"
+#include "foundation/text/My_double2string.h"
+#include "foundation/text/My_int2string.h"
 
 namespace gns {
 namespace {

@@ -12,11 +12,11 @@
 
 #include "Temp_dir.h"
 #include "Thrown_message.h"
-#include "foundation/Deleting.h"
-#include "foundation/Dir_error.h"
-#include "foundation/Dir_prepare.h"
-#include "foundation/Direktoriz.h"
-#include "foundation/Renaming.h"
+#include "foundation/paths/Deleting.h"
+#include "foundation/paths/Dir_error.h"
+#include "foundation/paths/Dir_prepare.h"
+#include "foundation/paths/Direktoriz.h"
+#include "foundation/paths/Renaming.h"
 
 namespace gns {
 namespace {

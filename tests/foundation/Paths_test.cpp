@@ -11,9 +11,9 @@
 
 #include "Temp_dir.h"
 #include "Thrown_message.h"
-#include "foundation/Dir_error.h"
-#include "foundation/Direktoriz.h"
-#include "foundation/Total_path.h"
+#include "foundation/paths/Dir_error.h"
+#include "foundation/paths/Direktoriz.h"
+#include "foundation/paths/Total_path.h"
 
 /// In place of the system's: a file "goes" is deleted in front of the first look at it.
 extern "C" int stat(const char* path, struct stat* status) noexcept {

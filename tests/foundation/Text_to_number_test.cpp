@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "foundation/My_convert_from_string.h"
-#include "foundation/My_string_to_d.h"
-#include "foundation/My_string_to_i.h"
-#include "foundation/Text_fields.h"
+#include "foundation/text/My_convert_from_string.h"
+#include "foundation/text/My_string_to_d.h"
+#include "foundation/text/My_string_to_i.h"
+#include "foundation/text/Text_fields.h"
 
 namespace gns {
 namespace {

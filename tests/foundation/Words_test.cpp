@@ -1,4 +1,4 @@
-#include "foundation/Words.h"
+#include "foundation/text/Words.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "foundation/Shown_text.h"
+#include "foundation/text/Shown_text.h"
 
 #include <algorithm>
 

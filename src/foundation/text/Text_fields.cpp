@@ -1,4 +1,4 @@
-#include "foundation/Text_fields.h"
+#include "foundation/text/Text_fields.h"
 
 namespace gns {
 

@@ -1,4 +1,4 @@
-#include "foundation/Text_writer.h"
+#include "foundation/io/Text_writer.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -7,8 +7,8 @@
 #include <charconv>
 #include <utility>
 
-#include "foundation/Descriptor.h"
-#include "foundation/File_faults.h"
+#include "foundation/io/Descriptor.h"
+#include "foundation/io/File_faults.h"
 
 namespace gns {
 

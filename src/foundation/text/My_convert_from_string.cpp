@@ -1,11 +1,11 @@
-#include "foundation/My_convert_from_string.h"
+#include "foundation/text/My_convert_from_string.h"
 
 #include <algorithm>
 #include <array>
 #include <limits>
 
-#include "foundation/My_string_to_d.h"
-#include "foundation/My_string_to_i.h"
+#include "foundation/text/My_string_to_d.h"
+#include "foundation/text/My_string_to_i.h"
 
 namespace gns {
 

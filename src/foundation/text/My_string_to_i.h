@@ -9,7 +9,7 @@
 #include <string_view>
 #include <type_traits>
 
-#include "foundation/Delimiter_places.h"
+#include "foundation/text/Delimiter_places.h"
 
 namespace gns {
 

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "foundation/Line_reader.h"
-#include "foundation/Text_fields.h"
+#include "foundation/io/Line_reader.h"
+#include "foundation/text/Text_fields.h"
 
 namespace gns {
 

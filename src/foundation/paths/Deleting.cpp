@@ -1,4 +1,4 @@
-#include "foundation/Deleting.h"
+#include "foundation/paths/Deleting.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -6,12 +6,12 @@
 #include <cerrno>
 #include <vector>
 
-#include "foundation/Dir_error.h"
-#include "foundation/Direktoriz.h"
 #include "foundation/Errors.h"
-#include "foundation/Path_flags.h"
-#include "foundation/Prompts.h"
-#include "foundation/Renaming.h"
+#include "foundation/paths/Dir_error.h"
+#include "foundation/paths/Direktoriz.h"
+#include "foundation/paths/Path_flags.h"
+#include "foundation/paths/Prompts.h"
+#include "foundation/paths/Renaming.h"
 
 namespace gns {
 

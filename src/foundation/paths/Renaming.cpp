@@ -1,9 +1,9 @@
-#include "foundation/Renaming.h"
+#include "foundation/paths/Renaming.h"
 
-#include "foundation/Direktoriz.h"
 #include "foundation/Errors.h"
-#include "foundation/Path_flags.h"
-#include "foundation/Prompts.h"
+#include "foundation/paths/Direktoriz.h"
+#include "foundation/paths/Path_flags.h"
+#include "foundation/paths/Prompts.h"
 
 namespace gns {
 

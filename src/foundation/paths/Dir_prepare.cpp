@@ -1,10 +1,10 @@
-#include "foundation/Dir_prepare.h"
+#include "foundation/paths/Dir_prepare.h"
 
-#include "foundation/Deleting.h"
-#include "foundation/Direktoriz.h"
 #include "foundation/Errors.h"
-#include "foundation/Prompts.h"
-#include "foundation/Renaming.h"
+#include "foundation/paths/Deleting.h"
+#include "foundation/paths/Direktoriz.h"
+#include "foundation/paths/Prompts.h"
+#include "foundation/paths/Renaming.h"
 
 namespace gns {
 

@@ -1,4 +1,4 @@
-#include "foundation/My_string_to_d.h"
+#include "foundation/text/My_string_to_d.h"
 
 #include <charconv>
 #include <locale>
@@ -6,7 +6,7 @@
 #include <string>
 #include <system_error>
 
-#include "foundation/Text_fields.h"
+#include "foundation/text/Text_fields.h"
 
 namespace gns {
 

@@ -1,10 +1,10 @@
-#include "foundation/My_string_to_i.h"
+#include "foundation/text/My_string_to_i.h"
 
 #include <charconv>
 #include <limits>
 #include <system_error>
 
-#include "foundation/Text_fields.h"
+#include "foundation/text/Text_fields.h"
 
 namespace gns {
 

@@ -1,4 +1,4 @@
-#include "foundation/Dir_error.h"
+#include "foundation/paths/Dir_error.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "foundation/Total_path.h"
+#include "foundation/paths/Total_path.h"
 
 #include <unistd.h>
 
@@ -7,8 +7,8 @@
 #include <system_error>
 #include <utility>
 
-#include "foundation/Dir_error.h"
 #include "foundation/Errors.h"
+#include "foundation/paths/Dir_error.h"
 
 namespace gns {
 

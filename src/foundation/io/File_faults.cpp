@@ -1,4 +1,4 @@
-#include "foundation/File_faults.h"
+#include "foundation/io/File_faults.h"
 
 #include <mutex>
 #include <system_error>

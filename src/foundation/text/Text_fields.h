@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/Character_set.h"
+#include "foundation/text/Character_set.h"
 
 namespace gns {
 

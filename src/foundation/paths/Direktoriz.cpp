@@ -1,4 +1,4 @@
-#include "foundation/Direktoriz.h"
+#include "foundation/paths/Direktoriz.h"
 
 #include <dirent.h>
 #include <sys/stat.h>
@@ -10,8 +10,8 @@
 #include <memory>
 #include <optional>
 
-#include "foundation/Dir_error.h"
 #include "foundation/Errors.h"
+#include "foundation/paths/Dir_error.h"
 
 namespace gns {
 

@@ -1,4 +1,4 @@
-#include "foundation/Line_reader.h"
+#include "foundation/io/Line_reader.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -12,8 +12,8 @@
 #include <system_error>
 #include <utility>
 
-#include "foundation/Descriptor.h"
 #include "foundation/Errors.h"
+#include "foundation/io/Descriptor.h"
 
 namespace gns {
 

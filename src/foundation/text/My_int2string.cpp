@@ -1,4 +1,4 @@
-#include "foundation/My_int2string.h"
+#include "foundation/text/My_int2string.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "foundation/Free_space.h"
+#include "foundation/paths/Free_space.h"
 
 #include <sys/statvfs.h>
 

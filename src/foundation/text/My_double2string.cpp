@@ -1,4 +1,4 @@
-#include "foundation/My_double2string.h"
+#include "foundation/text/My_double2string.h"
 
 #include <charconv>
 #include <limits>

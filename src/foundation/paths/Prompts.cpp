@@ -1,4 +1,4 @@
-#include "foundation/Prompts.h"
+#include "foundation/paths/Prompts.h"
 
 #include <iostream>
 
