@@ -35,10 +35,10 @@
 #include "graph/Node_order.h"
 #include "graph/Node_set.h"
 #include "graph/Row_array.h"
-#include "graph/Vertex_export.h"
 #include "graph/Vertex_map.h"
-#include "graph/Vtx.h"
-#include "graph/Vtxd.h"
+#include "graph/records/Vertex_export.h"
+#include "graph/records/Vtx.h"
+#include "graph/records/Vtxd.h"
 
 // search: maximal cliques
 #include "search/Clique_find.h"

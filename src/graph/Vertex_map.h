@@ -5,8 +5,8 @@
 #include "graph/Adjacency.h"
 #include "graph/Index_links.h"
 #include "graph/Node_set.h"
-#include "graph/Vtx.h"
-#include "graph/Vtxd.h"
+#include "graph/records/Vtx.h"
+#include "graph/records/Vtxd.h"
 
 namespace gns {
 

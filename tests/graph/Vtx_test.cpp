@@ -1,4 +1,4 @@
-#include "graph/Vtx.h"
+#include "graph/records/Vtx.h"
 
 #include <gtest/gtest.h>
 
@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "Thrown_message.h"
-#include "graph/Vertex_export.h"
-#include "graph/Vtxd.h"
+#include "graph/records/Vertex_export.h"
+#include "graph/records/Vtxd.h"
 
 namespace gns {
 namespace {

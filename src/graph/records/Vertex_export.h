@@ -4,8 +4,8 @@
 #include <string>
 
 #include "graph/Node_set.h"
-#include "graph/Vtx.h"
-#include "graph/Vtxd.h"
+#include "graph/records/Vtx.h"
+#include "graph/records/Vtxd.h"
 
 namespace gns {
 

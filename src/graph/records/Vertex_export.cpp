@@ -1,4 +1,4 @@
-#include "graph/Vertex_export.h"
+#include "graph/records/Vertex_export.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "graph/Vtx.h"
+#include "graph/records/Vtx.h"
 
 #include "foundation/Errors.h"
 #include "foundation/text/My_int2string.h"

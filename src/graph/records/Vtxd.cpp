@@ -1,4 +1,4 @@
-#include "graph/Vtxd.h"
+#include "graph/records/Vtxd.h"
 
 #include <algorithm>
 #include <iterator>

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "graph/Vtx.h"
+#include "graph/records/Vtx.h"
 
 namespace gns {
 
