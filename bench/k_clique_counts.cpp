@@ -7,11 +7,11 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "communities/Coms_funcs.h"
-#include "communities/K_clique_generation.h"
 #include "control/Clique_find_ext_cont.h"
 #include "files/Link_file_reader.h"
 #include "graph/Link_conversion.h"
+#include "intensity/K_clique_generation.h"
+#include "percolation/Coms_funcs.h"
 #include "search/Undirected_search.h"
 
 namespace {

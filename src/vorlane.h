@@ -53,12 +53,12 @@
 // communities: percolation, the intensity method, statistics
 #include "communities/Communities.h"
 #include "communities/Community_statistics.h"
-#include "communities/Coms_funcs.h"
-#include "communities/K_clique_communities.h"
-#include "communities/K_clique_generation.h"
-#include "communities/K_cliques.h"
-#include "communities/Percolation.h"
-#include "communities/Weighted_cliques.h"
+#include "intensity/K_clique_communities.h"
+#include "intensity/K_clique_generation.h"
+#include "intensity/K_cliques.h"
+#include "intensity/Weighted_cliques.h"
+#include "percolation/Coms_funcs.h"
+#include "percolation/Percolation.h"
 
 // files: link files and results directories
 #include "files/Community_files.h"

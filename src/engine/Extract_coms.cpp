@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <sstream>
 
-#include "communities/Coms_funcs.h"
-#include "communities/K_clique_communities.h"
-#include "communities/K_clique_generation.h"
 #include "control/Clique_find_ext_cont.h"
 #include "files/Community_files.h"
 #include "files/Graph_and_clique_files.h"
 #include "files/Statistics_files.h"
+#include "intensity/K_clique_communities.h"
+#include "intensity/K_clique_generation.h"
+#include "percolation/Coms_funcs.h"
 
 namespace gns {
 

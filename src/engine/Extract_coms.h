@@ -5,12 +5,12 @@
 #include <string>
 
 #include "communities/Community_statistics.h"
-#include "communities/K_cliques.h"
-#include "communities/Percolation.h"
-#include "communities/Weighted_cliques.h"
 #include "engine/Run_summary.h"
 #include "graph/Index_links.h"
 #include "graph/Node_names.h"
+#include "intensity/K_cliques.h"
+#include "intensity/Weighted_cliques.h"
+#include "percolation/Percolation.h"
 #include "results/Com_result_tables.h"
 #include "search/Clique_vector.h"
 #include "search/Overlap_matrix.h"

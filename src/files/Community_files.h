@@ -4,10 +4,10 @@
 #include <string>
 
 #include "communities/Community_statistics.h"
-#include "communities/K_clique_communities.h"
 #include "graph/Index_links.h"
 #include "graph/Node_names.h"
 #include "graph/Row_array.h"
+#include "intensity/K_clique_communities.h"
 #include "results/Com_result_tables.h"
 #include "search/Clique_vector.h"
 

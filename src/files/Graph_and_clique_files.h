@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <string>
 
-#include "communities/K_cliques.h"
 #include "graph/Link_map.h"
 #include "graph/Node_names.h"
+#include "intensity/K_cliques.h"
 #include "results/Com_result_tables.h"
 #include "search/Clique_vector.h"
 

@@ -2,12 +2,12 @@
 
 #include <utility>
 
-#include "communities/K_cliques.h"
 #include "graph/Index_links.h"
 #include "graph/Link_map.h"
 #include "graph/Node_names.h"
 #include "graph/Row_array.h"
 #include "graph/Vertex_map.h"
+#include "intensity/K_cliques.h"
 #include "results/Com_result_tables.h"
 
 namespace gns {

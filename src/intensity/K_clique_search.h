@@ -4,10 +4,10 @@
 #include <span>
 #include <vector>
 
-#include "communities/K_clique_bounds.h"
-#include "communities/K_cliques.h"
-#include "communities/Sub_links.h"
-#include "communities/Weighted_cliques.h"
+#include "intensity/K_clique_bounds.h"
+#include "intensity/K_cliques.h"
+#include "intensity/Sub_links.h"
+#include "intensity/Weighted_cliques.h"
 
 namespace gns {
 

@@ -1,4 +1,4 @@
-#include "communities/K_clique_generation.h"
+#include "intensity/K_clique_generation.h"
 
 #include <algorithm>
 #include <limits>
@@ -8,10 +8,10 @@
 #include <utility>
 #include <vector>
 
-#include "communities/K_clique_search.h"
 #include "control/Clique_find_ext_cont.h"
 #include "foundation/Errors.h"
 #include "foundation/text/My_double2string.h"
+#include "intensity/K_clique_search.h"
 #include "search/Clique_reports.h"
 
 namespace gns {

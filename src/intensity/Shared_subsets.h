@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "communities/K_cliques.h"
+#include "intensity/K_cliques.h"
 
 namespace gns {
 

@@ -4,9 +4,9 @@
 #include <limits>
 #include <vector>
 
-#include "communities/Sub_links.h"
 #include "graph/Adjacency.h"
 #include "graph/Index_links.h"
+#include "intensity/Sub_links.h"
 #include "search/Clique_vector.h"
 
 namespace gns {

@@ -1,4 +1,4 @@
-#include "communities/Weighted_cliques.h"
+#include "intensity/Weighted_cliques.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "communities/Sub_links.h"
+#include "intensity/Sub_links.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "communities/Clique_ranks.h"
+#include "percolation/Clique_ranks.h"
 
 #include <algorithm>
 

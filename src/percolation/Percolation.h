@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "communities/Communities.h"
-#include "communities/Community_contents.h"
-#include "communities/Unclaimed_cliques.h"
+#include "percolation/Community_contents.h"
+#include "percolation/Unclaimed_cliques.h"
 #include "search/Clique_vector.h"
 
 namespace gns {

@@ -2,11 +2,11 @@
 
 #include <cstdint>
 
-#include "communities/K_cliques.h"
-#include "communities/Sub_links.h"
 #include "control/Clique_find_ext_cont.h"
 #include "graph/Node_set.h"
 #include "graph/Row_array.h"
+#include "intensity/K_cliques.h"
+#include "intensity/Sub_links.h"
 
 namespace gns {
 

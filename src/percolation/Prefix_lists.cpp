@@ -1,4 +1,4 @@
-#include "communities/Prefix_lists.h"
+#include "percolation/Prefix_lists.h"
 
 #include <algorithm>
 #include <utility>

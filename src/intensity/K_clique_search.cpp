@@ -1,4 +1,4 @@
-#include "communities/K_clique_search.h"
+#include "intensity/K_clique_search.h"
 
 #include <algorithm>
 #include <cmath>

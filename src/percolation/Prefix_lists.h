@@ -5,8 +5,8 @@
 #include <span>
 #include <vector>
 
-#include "communities/Clique_ranks.h"
-#include "communities/Signature.h"
+#include "percolation/Clique_ranks.h"
+#include "percolation/Signature.h"
 
 namespace gns {
 

@@ -1,10 +1,10 @@
-#include "communities/Coms_funcs.h"
+#include "percolation/Coms_funcs.h"
 
 #include <string>
 
-#include "communities/Percolation.h"
 #include "foundation/text/My_double2string.h"
 #include "foundation/text/My_int2string.h"
+#include "percolation/Percolation.h"
 
 namespace gns {
 

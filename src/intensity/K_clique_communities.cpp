@@ -1,4 +1,4 @@
-#include "communities/K_clique_communities.h"
+#include "intensity/K_clique_communities.h"
 
 #include <algorithm>
 #include <memory>
@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "communities/Shared_subsets.h"
 #include "control/Clique_find_ext_cont.h"
 #include "foundation/text/My_double2string.h"
+#include "intensity/Shared_subsets.h"
 #include "search/Clique_reports.h"
 
 namespace gns {

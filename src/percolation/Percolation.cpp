@@ -1,4 +1,4 @@
-#include "communities/Percolation.h"
+#include "percolation/Percolation.h"
 
 #include <algorithm>
 #include <span>

@@ -1,4 +1,4 @@
-#include "communities/Unclaimed_cliques.h"
+#include "percolation/Unclaimed_cliques.h"
 
 #include <algorithm>
 #include <array>

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "communities/K_cliques.h"
-#include "communities/Weighted_cliques.h"
+#include "intensity/K_cliques.h"
+#include "intensity/Weighted_cliques.h"
 
 namespace gns {
 

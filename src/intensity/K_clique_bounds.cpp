@@ -1,4 +1,4 @@
-#include "communities/K_clique_bounds.h"
+#include "intensity/K_clique_bounds.h"
 
 #include <algorithm>
 #include <functional>

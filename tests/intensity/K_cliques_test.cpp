@@ -11,9 +11,9 @@
 
 #include "Literal_intensity.h"
 #include "Thrown_message.h"
-#include "communities/K_clique_communities.h"
-#include "communities/K_clique_generation.h"
 #include "control/Clique_find_ext_cont.h"
+#include "intensity/K_clique_communities.h"
+#include "intensity/K_clique_generation.h"
 
 namespace gns {
 namespace {

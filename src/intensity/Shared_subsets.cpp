@@ -1,4 +1,4 @@
-#include "communities/Shared_subsets.h"
+#include "intensity/Shared_subsets.h"
 
 #include <algorithm>
 #include <bit>

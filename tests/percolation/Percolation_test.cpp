@@ -1,4 +1,4 @@
-#include "communities/Percolation.h"
+#include "percolation/Percolation.h"
 
 #include <gtest/gtest.h>
 
@@ -14,8 +14,8 @@
 #include "Odd_stream.h"
 #include "Processor_level_turn.h"
 #include "Random_graphs.h"
-#include "communities/Coms_funcs.h"
 #include "control/Clique_find_ext_cont.h"
+#include "percolation/Coms_funcs.h"
 
 namespace gns {
 namespace {

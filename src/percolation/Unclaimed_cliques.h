@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "communities/Clique_ranks.h"
-#include "communities/Prefix_lists.h"
+#include "percolation/Clique_ranks.h"
+#include "percolation/Prefix_lists.h"
 #include "search/Clique_vector.h"
 
 namespace gns {

@@ -1,4 +1,4 @@
-#include "communities/Community_contents.h"
+#include "percolation/Community_contents.h"
 
 #include <algorithm>
 #include <numeric>
