@@ -8,8 +8,8 @@
 #include <iostream>
 
 #include "control/Clique_find_ext_cont.h"
-#include "files/Link_file_reader.h"
 #include "graph/Link_conversion.h"
+#include "input/Link_file_reader.h"
 #include "intensity/K_clique_generation.h"
 #include "percolation/Coms_funcs.h"
 #include "search/Undirected_search.h"

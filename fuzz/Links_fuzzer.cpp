@@ -6,7 +6,7 @@
 #include "Literal_readers.h"
 #include "Reader_input.h"
 #include "Table_words.h"
-#include "files/Link_file_reader.h"
+#include "input/Link_file_reader.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;

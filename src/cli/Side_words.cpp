@@ -11,8 +11,6 @@
 #include <system_error>
 
 #include "cli/Resources.h"
-#include "files/Link_file_kind.h"
-#include "files/Link_file_reader.h"
 #include "files/Results_directory.h"
 #include "files/Unfinished_mark.h"
 #include "foundation/Errors.h"
@@ -21,6 +19,8 @@
 #include "foundation/text/My_double2string.h"
 #include "foundation/text/Shown_text.h"
 #include "foundation/text/Text_fields.h"
+#include "input/Link_file_kind.h"
+#include "input/Link_file_reader.h"
 
 namespace gns {
 

@@ -6,8 +6,8 @@
 #include "engine/Results_bound.h"
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
-#include "files/Link_file_check.h"
 #include "foundation/paths/Free_space.h"
+#include "input/Link_file_check.h"
 
 namespace gns {
 

@@ -7,10 +7,10 @@
 #include "control/Work_done.h"
 #include "engine/Extract_coms.h"
 #include "files/Graph_and_clique_files.h"
-#include "files/Link_file_reader.h"
 #include "files/Results_directory.h"
 #include "foundation/io/File_faults.h"
 #include "graph/Link_conversion.h"
+#include "input/Link_file_reader.h"
 #include "search/Clique_find.h"
 #include "search/Clique_vector.h"
 

@@ -7,9 +7,9 @@
 #include "engine/Results_bound.h"
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
-#include "files/Link_file_check.h"
 #include "files/Unfinished_mark.h"
 #include "graph/Link_map.h"
+#include "input/Link_file_check.h"
 #include "results/Com_result_tables.h"
 #include "search/Attempt.h"
 

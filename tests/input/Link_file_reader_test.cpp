@@ -1,4 +1,4 @@
-#include "files/Link_file_reader.h"
+#include "input/Link_file_reader.h"
 
 #include <gtest/gtest.h>
 

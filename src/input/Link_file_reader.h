@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "files/Link_file_check.h"
 #include "graph/Link_map.h"
+#include "input/Link_file_check.h"
 
 namespace gns {
 

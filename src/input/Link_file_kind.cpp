@@ -1,4 +1,4 @@
-#include "files/Link_file_kind.h"
+#include "input/Link_file_kind.h"
 
 #include <algorithm>
 #include <array>

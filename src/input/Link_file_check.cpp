@@ -1,12 +1,12 @@
-#include "files/Link_file_check.h"
+#include "input/Link_file_check.h"
 
 #include <algorithm>
 #include <array>
 
-#include "files/Link_file_kind.h"
 #include "foundation/text/My_string_to_d.h"
 #include "foundation/text/Shown_text.h"
 #include "foundation/text/Text_fields.h"
+#include "input/Link_file_kind.h"
 
 namespace gns {
 

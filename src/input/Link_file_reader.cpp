@@ -1,16 +1,16 @@
-#include "files/Link_file_reader.h"
+#include "input/Link_file_reader.h"
 
 #include <algorithm>
 #include <string_view>
 
 #include "control/Clique_find_ext_cont.h"
-#include "files/Link_file_kind.h"
 #include "foundation/Errors.h"
 #include "foundation/io/Cut_lines.h"
 #include "foundation/io/Line_reader.h"
 #include "foundation/text/My_string_to_d.h"
 #include "foundation/text/Shown_text.h"
 #include "foundation/text/Text_fields.h"
+#include "input/Link_file_kind.h"
 
 namespace gns {
 
