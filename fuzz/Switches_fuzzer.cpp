@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "Reader_input.h"
-#include "cli/Parameters.h"
-#include "cli/Switches.h"
+#include "cli/options/Parameters.h"
+#include "cli/options/Switches.h"
 
 namespace {
 

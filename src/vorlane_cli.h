@@ -5,8 +5,8 @@
 ///
 /// Process_input() is the one to begin with.
 
-#include "cli/Parameters.h"
 #include "cli/Process_input.h"
-#include "cli/Switches.h"
-#include "cli/Usage.h"
-#include "cli/gmap.h"
+#include "cli/options/Parameters.h"
+#include "cli/options/Switches.h"
+#include "cli/options/Usage.h"
+#include "cli/options/gmap.h"

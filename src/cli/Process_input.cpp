@@ -1,8 +1,8 @@
 #include "cli/Process_input.h"
 
-#include "cli/Switches.h"
-#include "cli/Unheeded_words.h"
-#include "cli/Usage.h"
+#include "cli/options/Switches.h"
+#include "cli/options/Unheeded_words.h"
+#include "cli/options/Usage.h"
 #include "foundation/text/My_double2string.h"
 
 namespace gns {

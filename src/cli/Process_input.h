@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/Parameters.h"
+#include "cli/options/Parameters.h"
 #include "engine/Run_stages.h"
 #include "foundation/Errors.h"
 #include "graph/Link_map.h"

@@ -8,13 +8,13 @@
 #include <string>
 #include <vector>
 
-#include "cli/Live_display.h"
 #include "cli/Process_input.h"
-#include "cli/Resources.h"
 #include "cli/Run_table.h"
 #include "cli/Side_words.h"
-#include "cli/State_lines.h"
-#include "cli/Stop_signals.h"
+#include "cli/terminal/Live_display.h"
+#include "cli/terminal/Resources.h"
+#include "cli/terminal/State_lines.h"
+#include "cli/terminal/Stop_signals.h"
 #include "control/Clique_find_ext_cont.h"
 #include "engine/Check_switches.h"
 #include "engine/Find_coms.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/Progress_option.h"
+#include "cli/options/Progress_option.h"
 
 namespace gns {
 

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "cli/Resources.h"
+#include "cli/terminal/Resources.h"
 #include "files/Results_directory.h"
 #include "files/Unfinished_mark.h"
 #include "foundation/Errors.h"

@@ -10,9 +10,9 @@
 
 #include "cli/Program_run.h"
 #include "cli/Side_words.h"
-#include "cli/Stop_signals.h"
-#include "cli/Terminal_escape.h"
-#include "cli/Usage.h"
+#include "cli/options/Usage.h"
+#include "cli/terminal/Stop_signals.h"
+#include "cli/terminal/Terminal_escape.h"
 #include "foundation/Errors.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "cli/Progress_figures.h"
+#include "cli/terminal/Progress_figures.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "cli/Switches.h"
+#include "cli/options/Switches.h"
 
 #include <gtest/gtest.h>
 
-#include "cli/Parameters.h"
-#include "cli/gmap.h"
+#include "cli/options/Parameters.h"
+#include "cli/options/gmap.h"
 #include "foundation/Errors.h"
 
 namespace gns {

@@ -1,8 +1,8 @@
-#include "cli/Unheeded_words.h"
+#include "cli/options/Unheeded_words.h"
 
 #include <gtest/gtest.h>
 
-#include "cli/Switches.h"
+#include "cli/options/Switches.h"
 
 namespace gns {
 namespace {

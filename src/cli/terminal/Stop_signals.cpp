@@ -1,4 +1,4 @@
-#include "cli/Stop_signals.h"
+#include "cli/terminal/Stop_signals.h"
 
 #include <atomic>
 #include <csignal>

@@ -1,4 +1,4 @@
-#include "cli/Terminal_escape.h"
+#include "cli/terminal/Terminal_escape.h"
 
 #include <unistd.h>
 

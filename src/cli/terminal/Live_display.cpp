@@ -1,13 +1,13 @@
-#include "cli/Live_display.h"
+#include "cli/terminal/Live_display.h"
 
 #include <unistd.h>
 
 #include <chrono>
 #include <new>
 
-#include "cli/Progress_lines.h"
-#include "cli/Screen.h"
 #include "cli/Side_words.h"
+#include "cli/terminal/Progress_lines.h"
+#include "cli/terminal/Screen.h"
 #include "foundation/Environment.h"
 
 namespace gns {

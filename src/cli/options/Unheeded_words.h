@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/gmap.h"
+#include "cli/options/gmap.h"
 
 namespace gns {
 

@@ -1,4 +1,4 @@
-#include "cli/Resources.h"
+#include "cli/terminal/Resources.h"
 
 #include <sys/resource.h>
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <thread>
 
-#include "cli/Progress_option.h"
-#include "cli/Resources.h"
+#include "cli/options/Progress_option.h"
+#include "cli/terminal/Resources.h"
 
 namespace gns {
 

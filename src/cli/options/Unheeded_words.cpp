@@ -1,11 +1,11 @@
-#include "cli/Unheeded_words.h"
+#include "cli/options/Unheeded_words.h"
 
 #include <algorithm>
 #include <array>
 #include <numeric>
 #include <string_view>
 
-#include "cli/Parameters.h"
+#include "cli/options/Parameters.h"
 #include "foundation/text/My_string_to_d.h"
 #include "foundation/text/Shown_text.h"
 

@@ -1,4 +1,4 @@
-#include "cli/Time_left.h"
+#include "cli/terminal/Time_left.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "cli/gmap.h"
+#include "cli/options/gmap.h"
 
 namespace gns {
 

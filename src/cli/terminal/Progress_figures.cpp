@@ -1,4 +1,4 @@
-#include "cli/Progress_figures.h"
+#include "cli/terminal/Progress_figures.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,7 +6,7 @@
 #include <limits>
 #include <string_view>
 
-#include "cli/State_lines.h"
+#include "cli/terminal/State_lines.h"
 #include "control/Clique_find_ext_cont.h"
 #include "control/Work_done.h"
 #include "foundation/text/My_double2string.h"

@@ -1,4 +1,4 @@
-#include "cli/Progress_option.h"
+#include "cli/options/Progress_option.h"
 
 #include <algorithm>
 #include <string>

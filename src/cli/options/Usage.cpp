@@ -1,4 +1,4 @@
-#include "cli/Usage.h"
+#include "cli/options/Usage.h"
 
 #include <iostream>
 #include <string_view>

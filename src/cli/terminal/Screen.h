@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/Live_display.h"
-#include "cli/Time_left.h"
+#include "cli/terminal/Live_display.h"
+#include "cli/terminal/Time_left.h"
 
 namespace gns {
 

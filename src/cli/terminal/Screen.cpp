@@ -1,4 +1,4 @@
-#include "cli/Screen.h"
+#include "cli/terminal/Screen.h"
 
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "cli/Progress_figures.h"
+#include "cli/terminal/Progress_figures.h"
 #include "foundation/Environment.h"
 
 namespace gns {

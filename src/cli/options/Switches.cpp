@@ -1,4 +1,4 @@
-#include "cli/Switches.h"
+#include "cli/options/Switches.h"
 
 #include "foundation/Errors.h"
 

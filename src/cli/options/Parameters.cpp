@@ -1,4 +1,4 @@
-#include "cli/Parameters.h"
+#include "cli/options/Parameters.h"
 
 #include <algorithm>
 #include <array>

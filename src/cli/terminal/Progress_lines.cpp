@@ -1,11 +1,11 @@
-#include "cli/Progress_lines.h"
+#include "cli/terminal/Progress_lines.h"
 
 #include <poll.h>
 #include <unistd.h>
 
 #include <new>
 
-#include "cli/Progress_figures.h"
+#include "cli/terminal/Progress_figures.h"
 
 namespace gns {
 

@@ -1,4 +1,4 @@
-#include "cli/State_lines.h"
+#include "cli/terminal/State_lines.h"
 
 #include <algorithm>
 #include <string_view>

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "cli/Resources.h"
-#include "cli/Time_left.h"
+#include "cli/terminal/Resources.h"
+#include "cli/terminal/Time_left.h"
 
 namespace gns {
 
