@@ -1,4 +1,4 @@
-# One object library per folder of src/. The objects of a folder and of all folders above it make
+# One object library per folder of src/, rooms inside it included. The objects of a folder and of all folders above it make
 # a trial program: if a folder uses one that stands below it, that program does not link.
 
 set(VORLANE_FOLDERS "" CACHE INTERNAL "folders declared so far, from the ground up")
@@ -12,20 +12,23 @@ function(vorlane_objects out name)
   set(${out} ${objects} PARENT_SCOPE)
 endfunction()
 
-# vorlane_folder(NAME [BESIDE FOLDER...]): it may use the folders declared before, but for those
-# that it stands beside.
+# vorlane_folder(NAME [BESIDE FOLDER...] [IN DIRECTORY]): it may use the folders declared before, but
+# for those that it stands beside. A directory of the project other than src/NAME has to be told.
 function(vorlane_folder name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" BESIDE)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "IN" "BESIDE")
+  if(NOT arg_IN)
+    set(arg_IN src/${name})
+  endif()
   set(used ${VORLANE_FOLDERS})
   if(arg_BESIDE)
     list(REMOVE_ITEM used ${arg_BESIDE})
   endif()
   set(VORLANE_USED_BY_${name} ${used} CACHE INTERNAL "")
 
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${name}/*.cpp)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${arg_IN}/*.cpp)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$|/module/")
   add_library(folder_${name} OBJECT ${sources})
-  target_include_directories(folder_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_include_directories(folder_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR})
   target_compile_definitions(folder_${name} PRIVATE VORLANE_VERSION="${PROJECT_VERSION}")
 
   set(VORLANE_FOLDERS ${VORLANE_FOLDERS} ${name} CACHE INTERNAL "")
@@ -58,11 +61,11 @@ function(vorlane_program name)
   target_link_libraries(${name} PRIVATE vorlane_cli)
 endfunction()
 
-# A shared library for Java to load: src/bridge/module/ has what only it needs, and exports.map
-# there names its exports. Lasting variables would keep counters from being written.
+# A shared library for Java to load: native/module/ has what only it needs, and exports.map there
+# names its exports. Lasting variables would keep counters from being written.
 function(vorlane_java_library name output_name)
-  set(module ${PROJECT_SOURCE_DIR}/src/bridge/module)
-  add_library(${name} MODULE $<TARGET_OBJECTS:folder_bridge>)
+  set(module ${PROJECT_SOURCE_DIR}/bindings/java/native/module)
+  add_library(${name} MODULE $<TARGET_OBJECTS:folder_java>)
   if(NOT VORLANE_COVERAGE)
     target_sources(${name} PRIVATE ${module}/Lasting_variables.cpp)
   endif()

@@ -1,9 +1,9 @@
 # cmake -DSOURCE=... -P Architecture.cmake: fails unless docs/architecture.md names every unit of src/
-# and java/, in backquotes.
+# and bindings/, in backquotes.
 cmake_minimum_required(VERSION 3.25)
 file(READ ${SOURCE}/docs/architecture.md map)
-file(GLOB files ${SOURCE}/src/*/*.h ${SOURCE}/src/*/*.cpp ${SOURCE}/src/*/*/*.cpp
-                ${SOURCE}/java/src/*/*/*.java)
+file(GLOB_RECURSE files ${SOURCE}/src/*/*.h ${SOURCE}/src/*/*.cpp ${SOURCE}/bindings/java/native/*.h
+     ${SOURCE}/bindings/java/native/*.cpp ${SOURCE}/bindings/java/src/*.java)
 foreach(file IN LISTS files)
   cmake_path(GET file STEM LAST_ONLY unit)
   string(FIND "${map}" "`${unit}`" place)

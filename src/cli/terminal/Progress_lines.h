@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/terminal/Live_display.h"
+#include "cli/terminal/Progress_view.h"
 #include "cli/terminal/Time_left.h"
 
 namespace gns {

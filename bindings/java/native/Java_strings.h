@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "bridge/Local_ref.h"
-#include "bridge/Modified_utf8.h"
+#include "bindings/java/native/Local_ref.h"
+#include "bindings/java/native/Modified_utf8.h"
 
 namespace gns {
 

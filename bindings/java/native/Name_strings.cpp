@@ -1,8 +1,8 @@
-#include "bridge/Name_strings.h"
+#include "bindings/java/native/Name_strings.h"
 
 #include <utility>
 
-#include "bridge/Java_errors.h"
+#include "bindings/java/native/Java_errors.h"
 
 namespace gns {
 

@@ -1,4 +1,4 @@
-#include "bridge/Translate_result.h"
+#include "bindings/java/native/Translate_result.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -7,9 +7,9 @@
 #include <string>
 #include <utility>
 
-#include "bridge/Java_strings.h"
-#include "bridge/Name_strings.h"
-#include "bridge/Result_classes.h"
+#include "bindings/java/native/Java_strings.h"
+#include "bindings/java/native/Name_strings.h"
+#include "bindings/java/native/Result_classes.h"
 #include "control/Clique_find_ext_cont.h"
 
 namespace gns {

@@ -1,4 +1,4 @@
-#include "bridge/zumo_community_ExternalCalls.h"
+#include "bindings/java/native/zumo_community_ExternalCalls.h"
 
 #include <atomic>
 #include <cstdint>
@@ -9,10 +9,10 @@
 #include <utility>
 #include <vector>
 
-#include "bridge/Java_class.h"
-#include "bridge/Java_errors.h"
-#include "bridge/Java_strings.h"
-#include "bridge/Translate_result.h"
+#include "bindings/java/native/Java_class.h"
+#include "bindings/java/native/Java_errors.h"
+#include "bindings/java/native/Java_strings.h"
+#include "bindings/java/native/Translate_result.h"
 #include "control/Clique_find_ext_cont.h"
 #include "control/Sole_call.h"
 #include "engine/Find_coms.h"

@@ -1,8 +1,8 @@
-#include "bridge/Java_strings.h"
+#include "bindings/java/native/Java_strings.h"
 
 #include <exception>
 
-#include "bridge/Java_errors.h"
+#include "bindings/java/native/Java_errors.h"
 
 namespace gns {
 

@@ -9,8 +9,8 @@
 
 #include "Fake_jvm.h"
 #include "Temp_dir.h"
-#include "bridge/Java_errors.h"
-#include "bridge/zumo_community_ExternalCalls.h"
+#include "bindings/java/native/Java_errors.h"
+#include "bindings/java/native/zumo_community_ExternalCalls.h"
 
 namespace gns {
 

@@ -2,8 +2,8 @@
 
 #include <jni.h>
 
-#include "bridge/Java_errors.h"
-#include "bridge/Local_ref.h"
+#include "bindings/java/native/Java_errors.h"
+#include "bindings/java/native/Local_ref.h"
 
 namespace gns {
 

@@ -1,9 +1,9 @@
-#include "bridge/Java_errors.h"
+#include "bindings/java/native/Java_errors.h"
 
 #include <exception>
 
-#include "bridge/Local_ref.h"
-#include "bridge/Modified_utf8.h"
+#include "bindings/java/native/Local_ref.h"
+#include "bindings/java/native/Modified_utf8.h"
 
 namespace gns {
 

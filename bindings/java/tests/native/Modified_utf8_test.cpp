@@ -1,4 +1,4 @@
-#include "bridge/Modified_utf8.h"
+#include "bindings/java/native/Modified_utf8.h"
 
 #include <gtest/gtest.h>
 

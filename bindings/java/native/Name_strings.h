@@ -6,7 +6,7 @@
 #include <functional>
 #include <string_view>
 
-#include "bridge/Local_ref.h"
+#include "bindings/java/native/Local_ref.h"
 #include "graph/Name_numbers.h"
 
 namespace gns {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bridge/Java_class.h"
+#include "bindings/java/native/Java_class.h"
 
 namespace gns {
 

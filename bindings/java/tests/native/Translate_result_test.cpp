@@ -1,4 +1,4 @@
-#include "bridge/Translate_result.h"
+#include "bindings/java/native/Translate_result.h"
 
 #include <gtest/gtest.h>
 
