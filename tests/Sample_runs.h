@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Temp_dir.h"
+#include "control/Clique_find_ext_cont.h"
 #include "engine/Find_coms.h"
 #include "engine/Run_stages.h"
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "foundation/memory/Huge_pages.h"
 
 namespace external_control {

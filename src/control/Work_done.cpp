@@ -4,9 +4,6 @@
 
 namespace external_control {
 
-Work_done WORK_DONE;
-Output_bound OUTPUT_BOUND;
-
 void Work_done::Begin(std::uint64_t total) {
   ++stage_;
   done_ = 0;

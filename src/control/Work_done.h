@@ -27,7 +27,6 @@ class Work_done {
   std::atomic<std::uint64_t> done_ = 0;
   std::atomic<std::uint64_t> total_ = 0;
 };
-extern Work_done WORK_DONE;
 
 /// What the levels of a run are about to write at most, see Results_bound; all 0 before it is
 /// known.
@@ -37,6 +36,5 @@ struct Output_bound {
   std::atomic<std::uint64_t> bytes = 0;
   std::atomic<std::uint64_t> pair_bytes = 0;
 };
-extern Output_bound OUTPUT_BOUND;
 
 }  // namespace external_control

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "files/Community_files.h"
 #include "files/Graph_and_clique_files.h"
 #include "files/Statistics_files.h"
@@ -16,7 +16,7 @@ namespace gns {
 namespace {
 
 using external_control::Check_for_stop_signal;
-using external_control::CURRENT_STATE_REPORT;
+using external_control::Report_state;
 
 /// The four distributions of a set of communities.
 struct Statistics {
@@ -51,9 +51,9 @@ Extraction::Extraction(const Extraction_input& input) : input_(input) {
 K_summary Extraction::At(std::uint32_t k) {
   const Communities& communities = Find_communities(k);
   Check_for_stop_signal();
-  CURRENT_STATE_REPORT = " Writing commmunities to disk...\n";
+  Report_state(" Writing commmunities to disk...\n");
   Write_communities(k, communities);
-  CURRENT_STATE_REPORT = " done.\n";
+  Report_state(" done.\n");
   Check_for_stop_signal();
 
   Com_graph com_graph;
@@ -61,7 +61,7 @@ K_summary Extraction::At(std::uint32_t k) {
   Kiir_com_graph_VL_ret(com_graph, communities.exact_com_count, input_.output_dir, k,
                         input_.com_flag, input_.run_header, input_.tables.com_graphs);
   Check_for_stop_signal();
-  CURRENT_STATE_REPORT = " Calculating statistics...\n";
+  Report_state(" Calculating statistics...\n");
   const Distribution membership = Write_statistics(k, communities, com_graph);
 
   K_summary summary;
@@ -80,7 +80,7 @@ const Communities& Extraction::Find_communities(std::uint32_t k) {
 const Communities& Extraction::Find_by_intensity(std::uint32_t k) {
   auto& [cliques, k_cliques, com_k_cliques, communities] = *by_intensity_;
   Generate_k_cls_from_cls_ec(cliques, k_cliques, k, input_.intensity_threshold);
-  CURRENT_STATE_REPORT = "__________________________\n Writing k-clques to disk.\n";
+  Report_state("__________________________\n Writing k-clques to disk.\n");
   Kiir_k_cliques_VL_ret(input_.output_dir, k_cliques, k, input_.node_names, input_.run_header,
                         input_.tables.k_cliques);
   Intensity_coms_from_k_cliques_ec(k_cliques, communities.coms, com_k_cliques, cliques.Logs(),
@@ -92,9 +92,9 @@ const Communities& Extraction::Find_by_intensity(std::uint32_t k) {
 const Communities& Extraction::Find_by_overlap(std::uint32_t k) {
   std::ostringstream report;
   Coms_report_sub::Report_com_export(k, input_.max_clique_size, report);
-  CURRENT_STATE_REPORT = report.str();
+  Report_state(report.str());
   const Communities& communities = percolation_->At(k);
-  CURRENT_STATE_REPORT = " done.\n";
+  Report_state(" done.\n");
   return communities;
 }
 
@@ -135,7 +135,7 @@ Distribution Extraction::Write_statistics(std::uint32_t k, const Communities& co
                        com_graph, input_.vertex_count);
   const std::size_t exact_count = communities.exact_com_count;
   if (communities.size() <= exact_count) {
-    CURRENT_STATE_REPORT = " done.\n";
+    Report_state(" done.\n");
     write(all, "", exact_tables);
     return all.membership;
   }
@@ -143,7 +143,7 @@ Distribution Extraction::Write_statistics(std::uint32_t k, const Communities& co
       Statistics_of(Copy_rows(communities.coms, 0, exact_count), input_.vertex_count);
   const Statistics approximate = Statistics_of(
       Copy_rows(communities.coms, exact_count, communities.size()), input_.vertex_count);
-  CURRENT_STATE_REPORT = " done.\n";
+  Report_state(" done.\n");
   write(
       all, "_merged",
       {t.membership_dist_merged, t.size_dist_merged, t.overlap_dist_merged, t.degree_dist_merged});

@@ -2,8 +2,7 @@
 
 #include <functional>
 
-#include "control/Clique_find_ext_cont.h"
-#include "control/Work_done.h"
+#include "control/Run_control.h"
 #include "engine/Check_switches.h"
 #include "engine/Own_input.h"
 #include "engine/Run_message.h"
@@ -17,8 +16,8 @@ namespace {
 void Run(const Run_parameters& parameters, bool& approximation_needed, Run_summary& summary,
          const Table_pointers& tables) {
   summary = {};
-  external_control::PROGRESS.Reset();
-  external_control::WORK_DONE.Begin(0);
+  external_control::This_control().progress.Reset();
+  external_control::This_control().work_done.Begin(0);
   Refuse_bad_parameters(parameters);
   Refuse_own_input(parameters.input_file, parameters.output_dir);
   Check_out_dir(parameters.output_dir);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "engine/Clique_partners.h"
 #include "foundation/text/Decimal_digits.h"
 

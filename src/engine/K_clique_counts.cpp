@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "engine/Clique_partners.h"
 
 namespace gns {

@@ -3,8 +3,7 @@
 #include <utility>
 #include <vector>
 
-#include "control/Clique_find_ext_cont.h"
-#include "control/Work_done.h"
+#include "control/Run_control.h"
 #include "engine/Extract_coms.h"
 #include "files/Graph_and_clique_files.h"
 #include "files/Results_directory.h"
@@ -19,7 +18,7 @@ namespace gns {
 namespace {
 
 using external_control::Check_for_stop_signal;
-using external_control::CURRENT_STATE_REPORT;
+using external_control::Report_state;
 
 void Summarize(const Clique_vector& cliques, std::uint32_t exact_clique_count,
                Run_summary& summary) {
@@ -44,15 +43,15 @@ class Work_of_levels {
     std::uint64_t total = 0;
     for (std::size_t k = smallest_k; k <= largest_k && k < cliques_from_.size(); ++k)
       total += cliques_from_[k];
-    external_control::WORK_DONE.Begin(total);
+    external_control::This_control().work_done.Begin(total);
   }
-  ~Work_of_levels() { external_control::WORK_DONE.Begin(0); }
+  ~Work_of_levels() { external_control::This_control().work_done.Begin(0); }
   Work_of_levels(const Work_of_levels&) = delete;
   Work_of_levels& operator=(const Work_of_levels&) = delete;
 
   void End_level(std::uint32_t k) {
     done_ += cliques_from_[k];
-    external_control::WORK_DONE.Set(done_);
+    external_control::This_control().work_done.Set(done_);
   }
 
  private:
@@ -66,7 +65,7 @@ void Tell_bound(const Run_start& start, const Extraction_input& input) {
   const std::uint32_t k = start.parameters.single_k;
   const Results_bound bound =
       Bound_of_results(input, single ? k : input.max_clique_size, single ? k : least_k);
-  external_control::Output_bound& told = external_control::OUTPUT_BOUND;
+  external_control::Output_bound& told = external_control::This_control().output_bound;
   told.entries = bound.entries;
   told.files = bound.files;
   told.bytes = bound.bytes;
@@ -110,7 +109,7 @@ void Read_links(const Run_start& start, Link_map& links) {
 }
 
 void Read_links(const Run_start& start, Link_map& links, Link_file_check& check) {
-  CURRENT_STATE_REPORT = " Reading input ...\n";
+  Report_state(" Reading input ...\n");
   const Run_parameters& p = start.parameters;
   if (start.weighted)
     Read_weighted_links(p.input_file, links, p.use_lower_threshold, p.lower_threshold,
@@ -134,20 +133,19 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
   start.mark->Check();
   Kiir_graph_ret(links, parameters.output_dir, parameters.directed, start.run_header,
                  start.weighted, tables.graph_links);
-  CURRENT_STATE_REPORT = "_______________\n Links read OK.\n";
+  Report_state("_______________\n Links read OK.\n");
   Check_for_stop_signal();
 
-  CURRENT_STATE_REPORT = "____________________\n Converting links...\n";
+  Report_state("____________________\n Converting links...\n");
   Index_links index_links;
   Node_names node_names;
   Convert_s_links(index_links, node_names, links, parameters.directed);
   links.clear();
-  CURRENT_STATE_REPORT = " Links converted OK, total number of " +
-                         std::to_string(index_links.size()) +
-                         "  will be\n taken into account in the community finding.\n";
+  Report_state(" Links converted OK, total number of " + std::to_string(index_links.size()) +
+               "  will be\n taken into account in the community finding.\n");
   Check_for_stop_signal();
 
-  CURRENT_STATE_REPORT = "__________________________________\n Preparing graph from the links...\n";
+  Report_state("__________________________________\n Preparing graph from the links...\n");
   Vertex_map vtx_map;
   Dir_vertex_map dir_vtx_map;
   if (parameters.directed)
@@ -157,7 +155,7 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
   const std::uint32_t vertex_count = parameters.directed ? dir_vtx_map.size() : vtx_map.size();
   summary.nodes = vertex_count;
   summary.links = index_links.size();
-  CURRENT_STATE_REPORT = " Graph created from the links OK.\n";
+  Report_state(" Graph created from the links OK.\n");
   Check_for_stop_signal();
 
   Clique_vector cliques;
@@ -170,12 +168,12 @@ void Run_from_links(const Run_start& start, Link_map& links, bool& approximation
   // With tables the poll comes behind the report.
   const bool with_tables = tables.cliques != nullptr;
   if (!with_tables) Check_for_stop_signal();
-  CURRENT_STATE_REPORT = "___________________________\n Writing cliques to disk...\n";
+  Report_state("___________________________\n Writing cliques to disk...\n");
   if (with_tables) Check_for_stop_signal();
   start.mark->Check();
   Kiir_cliques_VL_ret(parameters.output_dir, cliques, node_names, exact_clique_count,
                       start.com_flag, start.run_header, tables.cliques);
-  CURRENT_STATE_REPORT = " done.\n";
+  Report_state(" done.\n");
   Check_for_stop_signal();
 
   const Extraction_input input = {cliques,

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "files/Result_lines.h"
 #include "files/Results_names.h"
 #include "foundation/io/Text_writer.h"

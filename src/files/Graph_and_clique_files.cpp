@@ -1,6 +1,6 @@
 #include "files/Graph_and_clique_files.h"
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "files/Result_lines.h"
 #include "files/Results_names.h"
 #include "foundation/io/Text_writer.h"

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "foundation/io/Text_writer.h"
 #include "graph/Node_names.h"
 #include "graph/Node_set.h"

@@ -5,7 +5,7 @@
 #include <iterator>
 #include <utility>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "foundation/Errors.h"
 #include "graph/Pair_sort.h"
 

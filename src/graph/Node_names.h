@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "graph/Name_table.h"
 #include "graph/Node_set.h"
 

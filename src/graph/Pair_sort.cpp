@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 
 namespace gns {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "foundation/Errors.h"
 #include "foundation/io/Cut_lines.h"
 #include "foundation/io/Line_reader.h"

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "foundation/text/My_double2string.h"
 #include "intensity/Shared_subsets.h"
 #include "search/Clique_reports.h"
@@ -153,7 +153,7 @@ void Intensity_coms_from_k_cliques_ec(const K_cliques& k_cliques, Row_array<Node
       " and a link weight intensity threshlod I=" + double2string(intensity_threshold, digits) +
           ":",
       "k-cliques", static_cast<std::uint32_t>(k_cliques.size()));
-  external_control::CURRENT_STATE_REPORT = progress;
+  external_control::Report_state(progress);
   K_clique_joiner joiner(k_cliques, logs, intensity_threshold);
   Collect_k_cliques(k_cliques.size(), joiner.Join(*progress), com_k_cliques);
   std::vector<bool> met;

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "graph/Node_set.h"
 #include "graph/Row_array.h"
 #include "intensity/K_cliques.h"

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "foundation/Errors.h"
 #include "foundation/text/My_double2string.h"
 #include "intensity/K_clique_search.h"
@@ -39,7 +39,7 @@ void Search(const Weighted_cliques& cliques, K_cliques& k_cliques, double intens
       " and a link weight intensity threshold I=" + double2string(intensity_threshold, digits) +
           ":",
       "cliques", remaining);
-  external_control::CURRENT_STATE_REPORT = progress;
+  external_control::Report_state(progress);
 
   const std::vector<std::uint32_t> done_behind = Cliques_done_behind(cliques, k);
   K_clique_search search(cliques, k, intensity_threshold);
@@ -77,7 +77,7 @@ void Generate_k_cls_from_cls_ec(const Weighted_cliques& cliques, K_cliques& k_cl
   std::ostringstream report;
   Clique_find_report_sub_routines::Report_clique_search_end(
       " k-cliques", static_cast<std::uint32_t>(k_cliques.size()), report);
-  external_control::CURRENT_STATE_REPORT = report.str();
+  external_control::Report_state(report.str());
 }
 
 void Generate_k_cls_from_cls_ec(const Clique_vector& cliques, const Index_links& index_links,

@@ -5,7 +5,7 @@
 #include <limits>
 #include <numeric>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 
 namespace gns {
 
@@ -56,8 +56,10 @@ void K_clique_search::Search_from(Node_index root, K_cliques& found) {
 }
 
 void K_clique_search::Tell_and_poll(const K_cliques& found) const {
-  external_control::PROGRESS.k_cliques_found.store(found.size(), std::memory_order_relaxed);
-  external_control::PROGRESS.k_cliques_visited.store(visited_, std::memory_order_relaxed);
+  external_control::This_control().progress.k_cliques_found.store(found.size(),
+                                                                  std::memory_order_relaxed);
+  external_control::This_control().progress.k_cliques_visited.store(visited_,
+                                                                    std::memory_order_relaxed);
   external_control::Check_for_stop_signal();
 }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 
 namespace gns {
 

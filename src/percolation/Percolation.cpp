@@ -4,8 +4,7 @@
 #include <span>
 #include <utility>
 
-#include "control/Clique_find_ext_cont.h"
-#include "control/Work_done.h"
+#include "control/Run_control.h"
 
 namespace gns {
 
@@ -80,7 +79,7 @@ void Percolation::Claim_community(Clique_index seed, Unclaimed<Rank>& unclaimed)
     }
     const Clique_index clique = claimed_[next++];
     if (next != end) unclaimed.Prefetch(claimed_[next], claimed_[std::min(next + 1, end - 1)]);
-    external_control::WORK_DONE.Add(1);
+    external_control::This_control().work_done.Add(1);
     const std::size_t start = claimed_.size();
     const std::size_t stop = Claim_neighbours(clique, unclaimed);
     if (start != stop) to_expand.emplace_back(start, stop);

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "control/Clique_find_ext_cont.h"
 #include "control/Polled_resize.h"
+#include "control/Run_control.h"
 
 namespace gns {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 
 namespace gns {
 

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 
 namespace gns {
 

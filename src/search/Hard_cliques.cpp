@@ -6,7 +6,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 
 namespace gns {
 

@@ -7,8 +7,7 @@
 #include <sstream>
 #include <utility>
 
-#include "control/Clique_find_ext_cont.h"
-#include "control/Work_done.h"
+#include "control/Run_control.h"
 #include "foundation/Errors.h"
 #include "foundation/text/My_double2string.h"
 #include "search/Clique_reports.h"
@@ -18,7 +17,7 @@ namespace gns {
 
 namespace {
 
-using external_control::CURRENT_STATE_REPORT;
+using external_control::Report_state;
 namespace reports = Clique_find_report_sub_routines;
 
 std::string Title_of(const Search_kind& kind, const Time_limit* limit) {
@@ -32,7 +31,7 @@ template <typename Compose>
 void Report(Compose compose) {
   std::ostringstream stream;
   compose(stream);
-  CURRENT_STATE_REPORT = stream.str();
+  Report_state(stream.str());
 }
 
 /// The queue of nodes with the count of failures in a row.
@@ -48,7 +47,7 @@ class Node_queue {
 
   Node_index Take() {
     progress_->Set_remaining(Size());
-    if (!progress_shown_) CURRENT_STATE_REPORT = progress_;
+    if (!progress_shown_) Report_state(progress_);
     progress_shown_ = true;
     const Node_index node = waiting_.front();
     waiting_.pop_front();
@@ -99,7 +98,7 @@ void Report_end(const Search_kind& kind, const Time_limit* limit, bool all_solve
 }
 
 void Note_progress(std::size_t cliques, std::uint32_t nodes_left, std::uint32_t failed_in_a_row) {
-  external_control::Progress& progress = external_control::PROGRESS;
+  external_control::Progress& progress = external_control::This_control().progress;
   progress.cliques_found.store(cliques, std::memory_order_relaxed);
   progress.nodes_left.store(nodes_left, std::memory_order_relaxed);
   progress.failed_in_a_row.store(failed_in_a_row, std::memory_order_relaxed);
@@ -114,9 +113,9 @@ class Told_search : public Node_search {
       : search_(search), neighs_(neighs) {
     std::uint64_t total = 0;
     for (const Node_index node : order) total += Work_on(node);
-    external_control::WORK_DONE.Begin(total);
+    external_control::This_control().work_done.Begin(total);
   }
-  ~Told_search() override { external_control::WORK_DONE.Begin(0); }
+  ~Told_search() override { external_control::This_control().work_done.Begin(0); }
   Told_search(const Told_search&) = delete;
   Told_search& operator=(const Told_search&) = delete;
 
@@ -125,7 +124,7 @@ class Told_search : public Node_search {
   }
   void Finish(Node_index node) override {
     search_.Finish(node);
-    external_control::WORK_DONE.Add(Work_on(node));
+    external_control::This_control().work_done.Add(Work_on(node));
   }
 
  private:

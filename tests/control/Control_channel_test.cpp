@@ -66,6 +66,22 @@ TEST_F(ControlChannel, PollEndsTheRunUntilTheStopIsTakenBack) {
   external_control::Check_inside_long_stage();
 }
 
+TEST_F(ControlChannel, EachRunHasItsOwn) {
+  external_control::Run_control mine;
+  {
+    const external_control::Control_in_use in_use(mine);
+    Stop_at_once();
+    external_control::Check_for_stop_signal();
+    external_control::Check_inside_long_stage();
+    external_control::Report_state("mine");
+    mine.stop = true;
+    EXPECT_THROW(external_control::Check_for_stop_signal(), std::logic_error);
+    EXPECT_TRUE(mine.state_report == " Process stopped by user.\n");
+  }
+  EXPECT_EQ(Read_state_report(), "");
+  EXPECT_THROW(external_control::Check_for_stop_signal(), std::logic_error);
+}
+
 using ThreadsControlChannel = ControlChannel;
 
 TEST_F(ThreadsControlChannel, ReadersGetWholeTexts) {

@@ -8,6 +8,7 @@
 #include "Directory_contents.h"
 #include "Random_graphs.h"
 #include "Sample_runs.h"
+#include "control/Clique_find_ext_cont.h"
 #include "control/Work_done.h"
 
 namespace gns {
