@@ -52,7 +52,7 @@ double Write_results(const std::string& links_file, const std::string& out) {
 
   gns::Percolation percolation(cliques, count, false);
   for (std::uint32_t k = gns::Max_clique_size_in_cl_vec(cliques); k >= 3; --k) {
-    const gns::Communities& found = percolation.At(k);
+    const gns::Communities found = *percolation.At(k);
     gns::Com_graph graph;
     gns::Distribution size, degree, overlap, membership;
     gns::Prepare_community_graph(graph, found.coms);

@@ -26,7 +26,8 @@ void Print_communities(const std::string& link_file, std::uint32_t k) {
 
   // One object serves every k; it is cheapest to ask for them in descending order.
   gns::Percolation percolation(cliques, exact_cliques, /*nested=*/false);
-  const gns::Communities& found = percolation.At(k);
+  const auto communities = percolation.At(k);
+  const gns::Communities& found = *communities;
 
   std::vector<int> memberships(graph.size() + std::size_t{1}, 0);
   for (std::size_t i = 0; i < found.size(); ++i) {

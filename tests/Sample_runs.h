@@ -23,20 +23,17 @@ inline std::string Sample_links(const std::string& name) {
 inline Run_summary Run_short_of_time(Run_parameters parameters, Com_result_tables* tables) {
   parameters.use_time_limit = true;
   parameters.time_limit = 0.25;
-  Run_start start = Start_of_run(parameters);
-  start.clock = [time = 0.0]() mutable {
+  Run_wishes wishes;
+  if (tables != nullptr) wishes.tables = Pointers_to(*tables);
+  wishes.clock = [time = 0.0]() mutable {
     const std::string report = Read_state_report();
     const bool hard = report.find("\n 6 of 12 ") != std::string::npos ||
                       report.find("\n 5 of 12 ") != std::string::npos;
     return time += hard ? 0.5 : 0.0;
   };
-  Open_results(start);
-  Link_map links;
-  Read_links(start, links);
   bool approximation_needed = false;
   Run_summary summary;
-  Run_from_links(start, links, approximation_needed, summary,
-                 tables == nullptr ? Table_pointers() : Pointers_to(*tables));
+  Run_stages(parameters, wishes, approximation_needed, summary);
   EXPECT_EQ(approximation_needed, summary.approximate_cliques > 0);
   return summary;
 }

@@ -3,6 +3,8 @@
 #include "cli/options/Switches.h"
 #include "cli/options/Unheeded_words.h"
 #include "cli/options/Usage.h"
+#include "engine/Run_stages.h"
+#include "files/Results_directory.h"
 #include "foundation/text/My_double2string.h"
 
 namespace gns {
@@ -25,24 +27,6 @@ std::string Results_dir_name(const Switch_values& values) {
   // Also behind a name that was given.
   if (values.use_intensity) add_number("-w-th", values.intensity_threshold);
   return name;
-}
-
-Run_parameters Parameters_of(const Switch_values& values) {
-  Run_parameters p;
-  p.input_file = values.input_file;
-  p.output_dir = Results_dir_name(values);
-  p.use_lower_threshold = values.use_lower_threshold;
-  p.lower_threshold = values.use_lower_threshold ? values.lower_threshold : 0.0;
-  p.use_upper_threshold = values.use_upper_threshold;
-  p.upper_threshold = values.use_upper_threshold ? values.upper_threshold : 0.0;
-  p.directed = values.directed;
-  p.use_intensity = values.use_intensity;
-  p.intensity_threshold = values.intensity_threshold;
-  p.use_time_limit = values.use_time_limit;
-  p.time_limit = values.time_limit;
-  p.use_single_k = values.use_single_k;
-  p.single_k = values.single_k;
-  return p;
 }
 
 template <typename T>
@@ -75,10 +59,22 @@ Switch_values Read_command_line(int argc, const char* const* argv,
   return values;
 }
 
-void Process_input(const Switch_values& values, Run_start& start, Link_map& links,
-                   Link_file_check& check) {
-  start = Start_of_run(Parameters_of(values));
-  Read_links(start, links, check);
+Run_parameters Parameters_of(const Switch_values& values) {
+  Run_parameters p;
+  p.input_file = values.input_file;
+  p.output_dir = Results_dir_name(values);
+  p.use_lower_threshold = values.use_lower_threshold;
+  p.lower_threshold = values.use_lower_threshold ? values.lower_threshold : 0.0;
+  p.use_upper_threshold = values.use_upper_threshold;
+  p.upper_threshold = values.use_upper_threshold ? values.upper_threshold : 0.0;
+  p.directed = values.directed;
+  p.use_intensity = values.use_intensity;
+  p.intensity_threshold = values.intensity_threshold;
+  p.use_time_limit = values.use_time_limit;
+  p.time_limit = values.time_limit;
+  p.use_single_k = values.use_single_k;
+  p.single_k = values.single_k;
+  return p;
 }
 
 void Process_input(const int& argc, const char* const* argv, std::string& output_dir,
@@ -88,18 +84,19 @@ void Process_input(const int& argc, const char* const* argv, std::string& output
                    std::string& run_header) {
   std::vector<std::string> unheard_words;
   const Switch_values values = Read_command_line(argc, argv, unheard_words);
-  Run_start start;
+  const Run_parameters p = Parameters_of(values);
+  Generate_alap_szoveg(run_header, p.input_file, p.use_lower_threshold, p.lower_threshold,
+                       p.use_upper_threshold, p.upper_threshold);
   Link_file_check unheard;
-  Process_input(values, start, links, unheard);
-  output_dir = start.parameters.output_dir;
+  Read_links(p, links, unheard);
+  output_dir = p.output_dir;
   directed = directed || values.directed;
   Set_if_given(values.use_time_limit, values.time_limit, use_time_limit, time_limit);
   Set_if_given(values.use_intensity, values.intensity_threshold, use_intensity,
                intensity_threshold);
   Set_if_given(values.use_single_k, values.single_k, use_single_k, single_k);
-  weighted = start.weighted;
-  com_flag = start.com_flag;
-  run_header = start.run_header;
+  weighted = Needs_weights(p);
+  Generate_com_flag(com_flag, p.directed, p.use_intensity);
 }
 
 }  // namespace gns

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "cli/options/Parameters.h"
-#include "engine/Run_stages.h"
+#include "engine/Run_parameters.h"
 #include "foundation/Errors.h"
 #include "graph/Link_map.h"
 
@@ -25,9 +25,8 @@ class Xusage_printed : public Xerror_msg {
 Switch_values Read_command_line(int argc, const char* const* argv,
                                 std::vector<std::string>& unheeded);
 
-/// Turns switches into the start of a run and reads the links. Throws the errors of Read_links().
-void Process_input(const Switch_values& values, Run_start& start, Link_map& links,
-                   Link_file_check& check);
+/// The parameters of the run that the switches mean.
+Run_parameters Parameters_of(const Switch_values& values);
 
 /// Turns a command line into the parameters of a run, reads the links and begins the header.
 ///

@@ -16,11 +16,9 @@
 #include "cli/terminal/State_lines.h"
 #include "cli/terminal/Stop_signals.h"
 #include "control/Clique_find_ext_cont.h"
-#include "engine/Check_switches.h"
 #include "engine/Find_coms.h"
 #include "engine/Memory_limit.h"
-#include "engine/Own_input.h"
-#include "files/Results_directory.h"
+#include "engine/Run_stages.h"
 #include "files/Unfinished_mark.h"
 #include "foundation/io/File_faults.h"
 #include "foundation/paths/Free_space.h"
@@ -31,10 +29,10 @@ namespace gns {
 namespace {
 
 /// One run of the program, from its switches to its exit code.
-class Program_run {
+class Program_run : private Run_listener {
  public:
   Program_run(const Switch_values& values, const Progress_option& progress)
-      : values_(values), progress_(progress) {}
+      : parameters_(Parameters_of(values)), progress_(progress) {}
 
   Exit_code Run() { return Report_end(Message()); }
 
@@ -53,7 +51,7 @@ class Program_run {
     if (stopped) return Exit_code::stopped;
     if (message != run_finished || !File_faults().empty()) return Exit_code::run_failed;
     Print_findings();
-    Tell(Why_no_communities(summary_, start_.parameters));
+    Tell(Why_no_communities(summary_, parameters_));
     return Exit_code::finished;
   }
 
@@ -77,7 +75,11 @@ class Program_run {
     try {
       display_.emplace(watch_, progress_);
       memory_limit_ = Limit_memory();
-      Run_stages();
+      Run_wishes wishes;
+      wishes.read_first = true;
+      wishes.listener = this;
+      bool approximation_needed = false;
+      Run_stages(parameters_, wishes, approximation_needed, summary_);
       return run_finished;
     } catch (const std::exception& failure) {
       way_out_ = Way_out(failure);
@@ -85,41 +87,18 @@ class Program_run {
     }
   }
 
-  void Run_stages() {
-    Link_map links;
-    Read(links);
-    Refuse_bad_parameters(start_.parameters);
-    const std::string& output_dir = start_.parameters.output_dir;
-    Refuse_own_input(start_.parameters.input_file, output_dir);
-    Check_out_dir(output_dir);
-    Open_results(start_);
-    start_.tell_bound = [this](const Results_bound& bound) { Warn_of_great_results(bound); };
-    bool approximation_needed = false;
-    Run_from_links(start_, links, approximation_needed, summary_);
+  /// What is odd about the input is told even if reading ends in a failure.
+  void Input_read(const Link_file_check& check, const Link_map* links) override {
+    for (const Link_file_warning& warning : check.Warnings())
+      display_->Tell(In_words(warning, parameters_.input_file));
+    if (links != nullptr)
+      display_->Tell(Why_no_links(links->size(), check.counts, parameters_.input_file));
   }
 
-  void Warn_of_great_results(const Results_bound& bound) {
-    const Run_parameters& parameters = start_.parameters;
-    if (const auto space = Free_space_at(parameters.output_dir))
-      display_->Tell(
-          Of_great_results(bound, *space, Get_total_path(parameters.output_dir), parameters));
-  }
-
-  /// Reads the links and tells what is odd about them, even if it ends in a failure.
-  void Read(Link_map& links) {
-    Link_file_check check(true);
-    const auto tell = [&] {
-      for (const Link_file_warning& warning : check.Warnings())
-        display_->Tell(In_words(warning, values_.input_file));
-    };
-    try {
-      Process_input(values_, start_, links, check);
-    } catch (const Xep_wrong_line&) {
-      tell();
-      throw;
-    }
-    tell();
-    display_->Tell(Why_no_links(links.size(), check.counts, values_.input_file));
+  void Bound_known(const Results_bound& bound) override {
+    const std::string& output_dir = parameters_.output_dir;
+    if (const auto space = Free_space_at(output_dir))
+      display_->Tell(Of_great_results(bound, *space, Get_total_path(output_dir), parameters_));
   }
 
   void Explain_lack_of_memory() const {
@@ -149,7 +128,7 @@ class Program_run {
     for (const File_fault& fault : faults)
       std::cerr << "  " << fault.path << ": " << fault.reason << "\n";
     std::cerr << "The results are not whole";
-    const std::string& output_dir = start_.parameters.output_dir;
+    const std::string& output_dir = parameters_.output_dir;
     if (Is_marked_unfinished(output_dir))
       std::cerr << "; " << Unfinished_mark_of(output_dir) << " tells so";
     std::cerr << ".\n";
@@ -159,17 +138,16 @@ class Program_run {
     std::cout << "\n";
     Print_run_table(std::cout, summary_);
     std::cout << "\n  " << Resources_used(watch_) << "\n  results in "
-              << Get_total_path(start_.parameters.output_dir) << "\n";
+              << Get_total_path(parameters_.output_dir) << "\n";
   }
 
-  Switch_values values_;
+  Run_parameters parameters_;
   Progress_option progress_;
   std::string way_out_;  ///< of a failure
   Stopwatch watch_;
   std::uint64_t memory_limit_ = 0;
   static inline Program_run* running_ = nullptr;
   std::optional<Live_display> display_;
-  Run_start start_;
   Run_summary summary_;
 };
 

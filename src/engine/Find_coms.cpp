@@ -2,12 +2,8 @@
 
 #include <functional>
 
-#include "control/Run_control.h"
-#include "engine/Check_switches.h"
-#include "engine/Own_input.h"
 #include "engine/Run_message.h"
 #include "engine/Run_stages.h"
-#include "files/Results_directory.h"
 
 namespace gns {
 
@@ -15,17 +11,9 @@ namespace {
 
 void Run(const Run_parameters& parameters, bool& approximation_needed, Run_summary& summary,
          const Table_pointers& tables) {
-  summary = {};
-  external_control::This_control().progress.Reset();
-  external_control::This_control().work_done.Begin(0);
-  Refuse_bad_parameters(parameters);
-  Refuse_own_input(parameters.input_file, parameters.output_dir);
-  Check_out_dir(parameters.output_dir);
-  Run_start start = Start_of_run(parameters);
-  Open_results(start);
-  Link_map links;
-  Read_links(start, links);
-  Run_from_links(start, links, approximation_needed, summary, tables);
+  Run_wishes wishes;
+  wishes.tables = tables;
+  Run_stages(parameters, wishes, approximation_needed, summary);
 }
 
 }  // namespace

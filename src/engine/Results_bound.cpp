@@ -24,8 +24,10 @@ double Digits(double number) { return Decimal_digits(Rounded_up(number)); }
 /// Adds up the files of one level after the other.
 class Files_of_levels {
  public:
-  explicit Files_of_levels(const Extraction_input& input)
-      : input_(input), approximate_(input.exact_clique_count < input.cliques.size()) {}
+  Files_of_levels(const Levels_input& input, std::size_t header_bytes)
+      : nodes_(input.node_count),
+        header_bytes_(static_cast<double>(header_bytes)),
+        approximate_(input.exact_clique_count < input.cliques.size()) {}
 
   void Add_percolation(const Level_counts& c) {
     const double index = Index_digits(c.communities);
@@ -68,7 +70,7 @@ class Files_of_levels {
   void Add_file(double entries, double body) {
     constexpr double longest_title = 100;  // with the remark on approximate communities
     entries_ += entries;
-    bytes_ += body + longest_title + static_cast<double>(input_.run_header.size());
+    bytes_ += body + longest_title + header_bytes_;
     files_ += 1;
   }
 
@@ -84,7 +86,7 @@ class Files_of_levels {
 
   /// The graph of the communities and so many sets of distributions.
   void Add_rest(const Level_counts& c, int sets) {
-    const double nodes = input_.vertex_count;
+    const double nodes = nodes_;
     const double pairs = c.communities * std::max(c.communities - 1, 0.0) / 2;
     Add_file(0, 0);
     pair_bytes_ += pairs * (2 * Index_digits(c.communities) + pair_line + Digits(nodes));
@@ -96,7 +98,8 @@ class Files_of_levels {
     }
   }
 
-  const Extraction_input& input_;
+  double nodes_;
+  double header_bytes_;
   bool approximate_;
   double entries_ = 0.0;
   double files_ = 0.0;
@@ -111,19 +114,19 @@ std::uint64_t Results_bound::On_disk(std::uint64_t block_size) const {
   return Rounded_up(static_cast<double>(bytes) + blocks * static_cast<double>(block_size));
 }
 
-Results_bound Bound_of_results(const Extraction_input& input, std::uint32_t largest_k,
+Results_bound Bound_of_results(const Levels_input& input, const Node_names& names,
+                               std::size_t header_bytes, std::uint32_t largest_k,
                                std::uint32_t least_k) {
-  Files_of_levels files(input);
+  Files_of_levels files(input, header_bytes);
   if (largest_k < least_k) return files.Sum(0);
-  if (input.use_intensity) {
-    const K_clique_counts k_cliques(input.cliques, input.node_names);
+  if (input.intensity_threshold) {
+    const K_clique_counts k_cliques(input.cliques, names);
     for (std::uint64_t k = least_k; k <= largest_k; ++k) {
       const auto level = static_cast<std::uint32_t>(k);
       files.Add_intensity(k_cliques.At(level), level);
     }
   } else {
-    Joined_cliques joined(input.cliques, input.exact_clique_count, input.index_links,
-                          input.node_names);
+    Joined_cliques joined(input.cliques, input.exact_clique_count, input.index_links, names);
     for (std::uint64_t k = std::uint64_t{largest_k} + 1; k-- > least_k;)
       files.Add_percolation(joined.At(static_cast<std::uint32_t>(k)));
   }

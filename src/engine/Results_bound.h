@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
-#include "engine/Extract_coms.h"
+#include "engine/Levels.h"
+#include "graph/Node_names.h"
 
 namespace gns {
 
@@ -20,10 +22,12 @@ struct Results_bound {
   [[nodiscard]] std::uint64_t On_disk(std::uint64_t block_size) const;
 };
 
-/// The bound for the levels from `largest_k` down to `least_k`, both of them included; takes a
-/// small part of the time that finding them takes. An intensity run can hold far less, since a
-/// threshold leaves out k-cliques, but all of them count here. Polls as a long stage does.
-Results_bound Bound_of_results(const Extraction_input& input, std::uint32_t largest_k,
+/// The bound for the levels from `largest_k` down to `least_k`, both of them included, with a
+/// header of so many bytes in each file; takes a small part of the time that finding them takes. An
+/// intensity run can hold far less, since a threshold leaves out k-cliques, but all of them count
+/// here. Polls as a long stage does.
+Results_bound Bound_of_results(const Levels_input& input, const Node_names& names,
+                               std::size_t header_bytes, std::uint32_t largest_k,
                                std::uint32_t least_k);
 
 }  // namespace gns

@@ -1,13 +1,8 @@
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <string>
-
 #include "engine/Results_bound.h"
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
-#include "files/Unfinished_mark.h"
 #include "graph/Link_map.h"
 #include "input/Link_file_check.h"
 #include "results/Com_result_tables.h"
@@ -15,35 +10,43 @@
 
 namespace gns {
 
-/// What a run with links already read starts from.
-struct Run_start {
-  Run_parameters parameters;
-  bool weighted = false;  ///< the links were read with weights
-  std::string com_flag;   ///< "directed", "intensity" or empty
-  std::string run_header;
-  Clock clock = Processor_seconds;        ///< what a time limit is measured by
-  std::unique_ptr<Unfinished_mark> mark;  ///< of the results directory, once it is open
-  /// Is told, if it is set, what the levels take at most, before the first of them.
-  std::function<void(const Results_bound&)> tell_bound;
+/// Hears of a run, in its thread, what its state reports don't tell.
+class Run_listener {
+ public:
+  Run_listener() = default;
+  Run_listener(const Run_listener&) = delete;
+  Run_listener& operator=(const Run_listener&) = delete;
+  virtual ~Run_listener() = default;
+
+  /// The input has been read; `links` is null if it ended at a line that no link could be made of.
+  virtual void Input_read(const Link_file_check& check, const Link_map* links) = 0;
+  /// What the levels write at most, before the first of them.
+  virtual void Bound_known(const Results_bound& bound) = 0;
 };
 
-/// What follows from the parameters alone. The header has its first three lines.
-Run_start Start_of_run(const Run_parameters& parameters);
+/// In what the callers of a run differ.
+struct Run_wishes {
+  /// The input is read in front of the checks and of the results directory, as the program does;
+  /// else behind them.
+  bool read_first = false;
+  Clock clock = Processor_seconds;   ///< what a time limit is measured by
+  Table_pointers tables = {};        ///< those that are wanted are filled beside the files
+  Run_listener* listener = nullptr;  ///< without one, no bound is formed
+};
 
-/// Reads the links of the input file, with weights if the run needs them. Throws the errors of the
-/// link readers, for a compressed file or one in UTF-16, too. `check` is told what can't be meant
-/// as it stands.
-void Read_links(const Run_start& start, Link_map& links);
-void Read_links(const Run_start& start, Link_map& links, Link_file_check& check);
+/// A run, from the link file to a results directory that is whole. Reports and polls. Throws what
+/// its stages throw; what it has written until then stays, marked as unfinished.
+/// `approximation_needed` becomes true if some cliques are approximate; `summary` is filled as the
+/// run goes on.
+void Run_stages(const Run_parameters& parameters, const Run_wishes& wishes,
+                bool& approximation_needed, Run_summary& summary);
 
-/// Completes the header and prepares the results directory, which must be empty or missing and is
-/// marked as unfinished. The first write of a run; throws Xerror_msg if the directory is in use or
-/// can't be made or written to.
-void Open_results(Run_start& start);
+/// True if the links must be read with their weights.
+bool Needs_weights(const Run_parameters& parameters);
 
-/// Everything behind the reading of the links, into results that are open; `links` is emptied on
-/// the way. The tables that are wanted are filled beside the files. Throws what its stages throw.
-void Run_from_links(const Run_start& start, Link_map& links, bool& approximation_needed,
-                    Run_summary& summary, const Table_pointers& tables = {});
+/// Reads the links of the input file, with weights if the run needs them, and reports it. Throws
+/// the errors of the link readers, for a compressed file or one in UTF-16, too. `check` is told
+/// what can't be meant as it stands.
+void Read_links(const Run_parameters& parameters, Link_map& links, Link_file_check& check);
 
 }  // namespace gns

@@ -6,13 +6,12 @@
 #include <memory>
 #include <system_error>
 
-#include "files/Results_names.h"
+#include "files/Results_writer.h"
 #include "foundation/Errors.h"
-#include "foundation/io/Text_writer.h"
-#include "foundation/paths/Dir_prepare.h"
 #include "foundation/paths/Direktoriz.h"
 #include "foundation/paths/Total_path.h"
 #include "foundation/text/My_double2string.h"
+#include "results/Method.h"
 
 namespace gns {
 
@@ -85,15 +84,11 @@ void Extend_alap_szoveg(std::string& run_header, bool use_intensity, double inte
 }
 
 void Kiir_params(const std::string& output_dir, const std::string& run_header) {
-  Dir_prepare(output_dir, "keep");
-  Text_writer file(results_names::Params(output_dir));
-  file << "# Vorlane was run on links taken" << run_header;
+  Results_writer({output_dir, "", run_header}).Write_params();
 }
 
 void Generate_com_flag(std::string& com_flag, bool directed, bool use_intensity) {
-  com_flag.clear();
-  if (directed) com_flag = "directed";
-  if (use_intensity) com_flag = "intensity";
+  com_flag = Flag_of(Method_of(directed, use_intensity));
 }
 
 }  // namespace gns

@@ -4,18 +4,10 @@
 #include <string>
 
 #include "communities/Community_statistics.h"
+#include "files/Level_writer.h"
 #include "results/Com_result_tables.h"
 
 namespace gns {
-
-/// The tables that a set of four distributions goes into, in the order of the writer; null where
-/// there are none.
-struct Statistics_tables {
-  By_k<Distribution_table>* membership = nullptr;
-  By_k<Distribution_table>* size = nullptr;
-  By_k<Distribution_table>* overlap = nullptr;
-  By_k<Distribution_table>* degree = nullptr;
-};
 
 /// Writes the four distributions at one k. `stat_flag` is the suffix of the file names: "_merged",
 /// "_exact", "_appr" or nothing. Mind the order of the distributions. The form with "_ret" first

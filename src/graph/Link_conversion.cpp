@@ -101,4 +101,11 @@ void Dir_vtx_map_from_link_map(Dir_vertex_map& dir_vtx_map, const Index_links& i
   dir_vtx_map = Dir_vertex_map(std::move(out), std::move(in), std::move(neighs));
 }
 
+void Make_vertices(Named_graph& graph) {
+  if (graph.directed)
+    Dir_vtx_map_from_link_map(graph.directed_vertices, graph.links);
+  else
+    Vtx_map_from_link_map(graph.vertices, graph.links);
+}
+
 }  // namespace gns

@@ -2,6 +2,7 @@
 
 #include "graph/Index_links.h"
 #include "graph/Link_map.h"
+#include "graph/Named_graph.h"
 #include "graph/Node_names.h"
 #include "graph/Vertex_map.h"
 
@@ -23,5 +24,8 @@ void Vtx_map_from_link_map(Vertex_map& vtx_map, const Index_links& index_links);
 
 /// Builds the directed graph from (from, to) keys.
 void Dir_vtx_map_from_link_map(Dir_vertex_map& dir_vtx_map, const Index_links& index_links);
+
+/// Builds the one that goes with the links.
+void Make_vertices(Named_graph& graph);
 
 }  // namespace gns

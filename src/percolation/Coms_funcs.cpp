@@ -1,5 +1,6 @@
 #include "percolation/Coms_funcs.h"
 
+#include <memory>
 #include <string>
 
 #include "foundation/text/My_double2string.h"
@@ -14,12 +15,12 @@ void Coms_from_appr_ovlp_matr(Row_array<Node_index>& coms, Row_array<Index_pair>
                               std::uint32_t exact_clique_count, std::uint32_t& exact_com_count) {
   constexpr bool nested = true;  // right for cliques of any kind
   Percolation percolation(cliques, exact_clique_count, nested);
-  const Communities none;
-  const Communities& found = overlap_matrix.size() == 0 ? none : percolation.At(k);
-  coms = found.coms;
-  com_links = found.com_links;
-  com_cliques = found.com_cliques;
-  exact_com_count = found.exact_com_count;
+  const auto found =
+      overlap_matrix.size() == 0 ? std::make_shared<const Communities>() : percolation.At(k);
+  coms = found->coms;
+  com_links = found->com_links;
+  com_cliques = found->com_cliques;
+  exact_com_count = found->exact_com_count;
 }
 
 namespace Coms_report_sub {

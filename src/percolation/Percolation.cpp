@@ -17,18 +17,18 @@ Percolation::Percolation(const Clique_vector& cliques, std::uint32_t exact_cliqu
   for (std::size_t i = 0; i < cliques.size(); ++i) largest_ = std::max(largest_, cliques[i].size());
 }
 
-const Communities& Percolation::At(std::uint32_t k) {
+std::shared_ptr<const Communities> Percolation::At(std::uint32_t k) {
   Claim_all(k);
   if (last_k_ <= k) {
     contents_.Forget_communities();
-    communities_ = {};
+    communities_ = std::make_shared<Communities>();
   }
-  Communities result;
-  Collect(false, result);
-  result.exact_com_count = static_cast<std::uint32_t>(result.size());
-  Collect(true, result);
+  auto result = std::make_shared<Communities>();
+  Collect(false, *result);
+  result->exact_com_count = static_cast<std::uint32_t>(result->size());
+  Collect(true, *result);
   communities_ = std::move(result);
-  contents_.Note_communities(communities_);
+  contents_.Note_communities(*communities_);
   last_k_ = k;
   return communities_;
 }
@@ -105,7 +105,7 @@ void Percolation::Collect(bool approximate, Communities& result) {
     if (range.approximate != approximate) continue;
     external_control::Check_inside_long_stage();
     contents_.Append(std::span(claimed_).subspan(range.first, range.last - range.first),
-                     communities_, result);
+                     *communities_, result);
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <variant>
 #include <vector>
 
@@ -23,9 +24,9 @@ class Percolation {
   /// lie inside another: then one of k - 1 nodes can join at k. `cliques` must outlive the object.
   Percolation(const Clique_vector& cliques, std::uint32_t exact_clique_count, bool nested);
 
-  /// The communities at k; the reference holds until the next call. Polls the stop flag as a long
-  /// stage does.
-  const Communities& At(std::uint32_t k);
+  /// The communities at k, which are not touched any more. Polls the stop flag as a long stage
+  /// does.
+  std::shared_ptr<const Communities> At(std::uint32_t k);
 
  private:
   struct Claimed_range {
@@ -59,7 +60,7 @@ class Percolation {
   std::vector<Clique_index> claimed_;  ///< in claim order, community behind community
   std::vector<Claimed_range> found_;   ///< the communities in order of discovery
   std::uint32_t last_k_ = 0;           ///< 0: communities_ is empty
-  Communities communities_;
+  std::shared_ptr<const Communities> communities_ = std::make_shared<Communities>();
 };
 
 }  // namespace gns

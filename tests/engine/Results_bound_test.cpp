@@ -25,6 +25,15 @@ std::string Links_of(literal::Random& random, const std::set<Index_pair>& links)
   return text;
 }
 
+class Listener : public Run_listener {
+ public:
+  Results_bound told;
+
+ private:
+  void Input_read(const Link_file_check&, const Link_map*) override {}
+  void Bound_known(const Results_bound& bound) override { told = bound; }
+};
+
 struct Told_and_written {
   Results_bound told;
   std::uint64_t files = 0;
@@ -35,15 +44,14 @@ struct Told_and_written {
 /// Makes a run and looks what it has written below k=...
 Told_and_written Whole_run(const Run_parameters& parameters, const Clock& clock = {}) {
   Told_and_written found;
-  Run_start start = Start_of_run(parameters);
-  start.tell_bound = [&](const Results_bound& told) { found.told = told; };
-  if (parameters.use_time_limit) start.clock = clock;
-  Link_map links;
-  Read_links(start, links);
-  Open_results(start);
+  Listener listener;
+  Run_wishes wishes;
+  wishes.listener = &listener;
+  if (parameters.use_time_limit) wishes.clock = clock;
   bool approximation_needed = false;
   Run_summary summary;
-  Run_from_links(start, links, approximation_needed, summary);
+  Run_stages(parameters, wishes, approximation_needed, summary);
+  found.told = listener.told;
   EXPECT_EQ(external_control::OUTPUT_BOUND.bytes, found.told.bytes);
   EXPECT_EQ(found.told.directories, summary.extractions.size());
   for (const auto& [path, contents] : Contents_of(parameters.output_dir)) {

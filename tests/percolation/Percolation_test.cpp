@@ -99,7 +99,7 @@ void Expect_like_literal(const Clique_input& input, const std::vector<std::uint3
   const Clique_vector cliques = literal::Rows_of(input.cliques);
   Percolation percolation(cliques, static_cast<std::uint32_t>(input.exact_count), nested);
   for (const std::uint32_t k : ks) {
-    Expect_like_literal(percolation.At(k), input, k);
+    Expect_like_literal(*percolation.At(k), input, k);
     if (::testing::Test::HasFatalFailure()) return;
   }
 }
@@ -188,7 +188,7 @@ TEST(Percolation, LongChains) {
     cliques.push_back(std::vector<Node_index>{node, node + 1, node + 2});
   Percolation percolation(cliques, length, false);
   Stop_process();
-  const Communities& communities = percolation.At(3);
+  const Communities communities = *percolation.At(3);
   ASSERT_EQ(communities.size(), 1U);
   EXPECT_EQ(communities.coms[0].size(), length + 2);
   EXPECT_EQ(communities.com_links[0].size(), 2 * length + 1);

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "communities/Communities.h"
+#include "communities/Level_statistics.h"
+#include "graph/Index_links.h"
+#include "graph/Row_array.h"
+#include "intensity/K_clique_communities.h"
+#include "intensity/K_cliques.h"
+#include "intensity/Weighted_cliques.h"
+#include "percolation/Percolation.h"
+#include "search/Clique_vector.h"
+
+namespace gns {
+
+/// What levels are found from, the same for every k. All that is referred to must outlive them.
+struct Levels_input {
+  Levels_input(const Clique_vector& all_cliques, const Index_links& links)
+      : cliques(all_cliques), index_links(links) {}
+
+  const Clique_vector& cliques;
+  const Index_links& index_links;
+  std::uint32_t exact_clique_count = 0;
+  std::uint32_t node_count = 0;
+  std::optional<double> intensity_threshold;  ///< set: the intensity method
+  std::uint32_t max_clique_size = 0;          ///< for the state report only
+};
+
+/// What there is at one k.
+struct Level {
+  std::uint32_t k = 0;
+  /// Not touched any more once it is here. With the intensity method without links and cliques.
+  std::shared_ptr<const Communities> communities;
+  std::optional<K_cliques> k_cliques;       ///< of the intensity method
+  Row_array<K_clique_index> com_k_cliques;  ///< of the intensity method: by community
+  Com_graph com_graph;
+  Level_statistics statistics;
+
+  /// The links of the communities, with the intensity method: computed when they are asked for.
+  [[nodiscard]] K_clique_com_links K_clique_links() const {
+    return {*k_cliques, com_k_cliques};
+  }
+};
+
+/// Finds the communities at one k after the other, best with k descending. Touches no file. Reports
+/// and polls; throws what the methods throw.
+class Levels {
+ public:
+  explicit Levels(const Levels_input& input);
+
+  [[nodiscard]] const Levels_input& Input() const { return input_; }
+
+  /// All of a level.
+  Level At(std::uint32_t k);
+
+  /// The steps of a level, in their order, each with what it needs from those before it. The first
+  /// one is of the intensity method.
+  void Find_k_cliques(Level& level);
+  void Find_communities(Level& level);
+  static void Link_communities(Level& level);
+  void Count(Level& level) const;
+
+ private:
+  void Join_by_overlap(Level& level);
+  void Join_by_intensity(Level& level) const;
+
+  Levels_input input_;
+  std::optional<Percolation> percolation_;  ///< of the plain method
+  std::optional<Weighted_cliques> weighted_cliques_;
+};
+
+}  // namespace gns
