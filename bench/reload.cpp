@@ -11,7 +11,7 @@
 #include <chrono>
 #include <iostream>
 
-#include "vorlane.h"
+#include "vorlane_operations.h"
 
 namespace {
 

@@ -28,7 +28,8 @@ function(vorlane_folder name)
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${arg_IN}/*.cpp)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$|/module/")
   add_library(folder_${name} OBJECT ${sources})
-  target_include_directories(folder_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR})
+  target_include_directories(folder_${name} PUBLIC ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src
+                             ${PROJECT_SOURCE_DIR})
   target_compile_definitions(folder_${name} PRIVATE VORLANE_VERSION="${PROJECT_VERSION}")
 
   set(VORLANE_FOLDERS ${VORLANE_FOLDERS} ${name} CACHE INTERNAL "")
@@ -42,12 +43,16 @@ function(vorlane_folder name)
                         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/layers)
 endfunction()
 
-# vorlane_static_library(NAME TOP): the folder TOP and those that it uses.
+# vorlane_static_library(NAME TOP OUTPUT_NAME FILE): the folder TOP and those that it uses. Who links
+# it sees the public headers.
 function(vorlane_static_library name top)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "OUTPUT_NAME" "")
   vorlane_objects(objects ${top})
   add_library(${name} STATIC ${objects})
-  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+                                            $<INSTALL_INTERFACE:include>)
   target_compile_features(${name} PUBLIC cxx_std_20)
+  set_target_properties(${name} PROPERTIES OUTPUT_NAME ${arg_OUTPUT_NAME})
 endfunction()
 
 # The operations of the command line, for programs that take the same switches.

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "Archive.h"
-#include "vorlane.h"
+#include "vorlane_operations.h"
 
 namespace {
 

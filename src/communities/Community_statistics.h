@@ -6,16 +6,12 @@
 
 #include "graph/Node_set.h"
 #include "graph/Row_array.h"
+#include "vorlane/rows.h"
 
 namespace gns {
 
 /// Two communities, smaller index first, and how many nodes they share (at least 1).
-struct Com_overlap {
-  std::uint32_t first;
-  std::uint32_t second;
-  std::uint32_t shared;
-  bool operator==(const Com_overlap&) const = default;
-};
+using Com_overlap = vorlane::Overlap;
 
 /// The community graph: its links ascending by (first, second).
 using Com_graph = std::vector<Com_overlap>;

@@ -15,6 +15,7 @@ Levels::Levels(const Levels_input& input) : input_(input) {
     weighted_cliques_.emplace(input.cliques, input.index_links);
   else
     percolation_.emplace(input.cliques, input.exact_clique_count, false);
+  if (percolation_ && !input.links_are_kept) percolation_->Give_up_links();
 }
 
 Level Levels::At(std::uint32_t k) {

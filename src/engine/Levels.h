@@ -27,6 +27,8 @@ struct Levels_input {
   std::uint32_t node_count = 0;
   std::optional<double> intensity_threshold;  ///< set: the intensity method
   std::uint32_t max_clique_size = 0;          ///< for the state report only
+  /// False: the links of a level are not read once the next one has been asked for.
+  bool links_are_kept = true;
 };
 
 /// What there is at one k.

@@ -58,7 +58,13 @@ void Check_entries(const std::string& output_dir, std::string_view allowed) {
 void Generate_alap_szoveg(std::string& run_header, const std::string& input_file,
                           bool use_lower_threshold, double lower_threshold,
                           bool use_upper_threshold, double upper_threshold) {
-  run_header = " from " + Get_total_path(input_file) + "\n";
+  Generate_header(run_header, Get_total_path(input_file), use_lower_threshold, lower_threshold,
+                  use_upper_threshold, upper_threshold);
+}
+
+void Generate_header(std::string& run_header, const std::string& source, bool use_lower_threshold,
+                     double lower_threshold, bool use_upper_threshold, double upper_threshold) {
+  run_header = " from " + source + "\n";
   run_header += use_lower_threshold
                     ? "# at a lower link weight threshold of " + Six_digits(lower_threshold) + ",\n"
                     : "# at no lower link weight threshold,\n";

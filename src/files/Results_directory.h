@@ -30,6 +30,10 @@ void Generate_alap_szoveg(std::string& run_header, const std::string& input_file
                           bool use_lower_threshold, double lower_threshold,
                           bool use_upper_threshold, double upper_threshold);
 
+/// The same with a source in words of the caller's own.
+void Generate_header(std::string& run_header, const std::string& source, bool use_lower_threshold,
+                     double lower_threshold, bool use_upper_threshold, double upper_threshold);
+
 /// Appends the lines on intensity, direction, time limit and single k.
 void Extend_alap_szoveg(std::string& run_header, bool use_intensity, double intensity_threshold,
                         bool directed, bool use_time_limit, double time_limit, bool use_single_k,

@@ -1,5 +1,7 @@
 #include "files/Results_names.h"
 
+#include "foundation/text/My_convert_from_string.h"
+
 namespace gns::results_names {
 
 std::string Lead(const std::string& flag, char separator) {
@@ -22,6 +24,16 @@ std::string Cliques(const std::string& output_dir, const std::string& com_flag) 
 
 std::string Dir_of_k(const std::string& output_dir, std::uint32_t k) {
   return output_dir + "/k=" + std::to_string(k);
+}
+
+std::optional<std::uint32_t> K_of_dir(std::string_view name) {
+  constexpr std::string_view start = "k=";
+  if (name.size() <= start.size() || !name.starts_with(start)) return std::nullopt;
+  std::uint32_t k = 0;
+  bool suspicious = false;
+  if (!Convert_from_string(name.substr(start.size()), k, suspicious) || suspicious)
+    return std::nullopt;
+  return k;
 }
 
 std::string K_cliques(const std::string& dir_of_k) { return dir_of_k + "/k-cliques"; }

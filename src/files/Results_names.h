@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 /// The names of everything in a results directory; the one place that forms them.
 ///
@@ -15,6 +17,8 @@ std::string Params(const std::string& output_dir);
 std::string Graph(const std::string& output_dir, bool directed);
 std::string Cliques(const std::string& output_dir, const std::string& com_flag);
 std::string Dir_of_k(const std::string& output_dir, std::uint32_t k);
+/// The k that the name of a directory tells, if it is one of these.
+std::optional<std::uint32_t> K_of_dir(std::string_view name);
 std::string K_cliques(const std::string& dir_of_k);
 /// A file of communities in the directory of a k; `base_name` without the flag.
 std::string In_dir_of_k(const std::string& dir_of_k, const std::string& com_flag,

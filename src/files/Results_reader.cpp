@@ -41,16 +41,6 @@ void Guarded_at(std::uint32_t k, By_k<Table>& tables, Read read, const std::stri
   tables.insert_or_assign(k, std::move(table));
 }
 
-/// The clique size that the name of a directory tells, behind "k="; false if it is no such name.
-bool K_of_dir(const Dir_entry& entry, std::uint32_t& k) {
-  const std::string_view name = entry.first;
-  constexpr std::string_view start = "k=";
-  if (entry.second != "dir" || name.size() <= start.size() || !name.starts_with(start))
-    return false;
-  bool suspicious = false;
-  return Convert_from_string(name.substr(start.size()), k, suspicious) && !suspicious;
-}
-
 void Read_at(std::uint32_t k, const std::string& dir, const std::string& specifier,
              const Table_pointers& t, std::string& errors) {
   const auto in_dir = [&](const char* base_name) {
@@ -107,8 +97,9 @@ void Read_coms(const std::string& results_dir, const std::string& specifier,
   Guarded([&](const std::string& name) { Read_by_index(*tables.cliques, name); },
           results_names::Cliques(results_dir, specifier), errors);
   for (const Dir_entry& entry : List_dir(results_dir)) {
-    std::uint32_t k = 0;
-    if (K_of_dir(entry, k)) Read_at(k, results_dir + "/" + entry.first, specifier, tables, errors);
+    const auto k = results_names::K_of_dir(entry.first);
+    if (k && entry.second == "dir")
+      Read_at(*k, results_dir + "/" + entry.first, specifier, tables, errors);
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <vector>
 
 #include "graph/Node_set.h"
@@ -32,6 +33,10 @@ class Adjacency {
   }
   /// Number of members in all rows together.
   [[nodiscard]] std::size_t size() const { return members_.size(); }
+  /// The rows behind each other: that of node v from Starts()[v] up to Starts()[v + 1]; row 0 is
+  /// empty.
+  [[nodiscard]] std::span<const std::size_t> Starts() const { return starts_; }
+  [[nodiscard]] Node_span Members() const { return members_; }
   /// Position of a node's first member among the members of all rows.
   [[nodiscard]] std::size_t Start(Node_index node) const { return starts_[node]; }
 

@@ -22,6 +22,9 @@ class Index_links {
   [[nodiscard]] Node_index Node_count() const { return rows_.Node_count(); }
   /// Second indices of the keys that begin with `first`, ascending.
   [[nodiscard]] Node_span Row(Node_index first) const { return rows_[first]; }
+  /// Those of all keys, and the weights under them; none: all 0.0.
+  [[nodiscard]] const Adjacency& All_rows() const { return rows_; }
+  [[nodiscard]] const std::vector<double>& Weights() const { return weights_; }
   /// Position among all keys of the first that begins with `first`.
   [[nodiscard]] std::size_t Start(Node_index first) const { return rows_.Start(first); }
   /// Position of a key among all keys, or nothing if it is missing.

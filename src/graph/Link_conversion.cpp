@@ -47,8 +47,8 @@ void For_each_key(const Index_links& links, Use use) {
 
 }  // namespace
 
-void Convert_s_links(Index_links& index_links, Node_names& node_names, const Link_map& links,
-                     bool directed) {
+std::vector<std::uint32_t> Convert_s_links(Index_links& index_links, Node_names& node_names,
+                                           const Link_map& links, bool directed) {
   Node_numbering numbering(links.Names().size());
   std::vector<Index_pair> keys;
   keys.reserve(links.size());
@@ -63,10 +63,12 @@ void Convert_s_links(Index_links& index_links, Node_names& node_names, const Lin
     if (links.Has_weights()) weights.push_back(links.Weight(i));
   }
 
-  node_names = Node_names(links.Names(), numbering.Take_names());
+  std::vector<std::uint32_t> name_of_node = numbering.Take_names();
+  node_names = Node_names(links.Names(), name_of_node);
   Sort_pairs(keys, weights, node_names.size() + 1);
   Fold_equal_pairs(keys, weights);
   index_links = Index_links(keys, std::move(weights), node_names.size());
+  return name_of_node;
 }
 
 void Vtx_map_from_link_map(Vertex_map& vtx_map, const Index_links& index_links) {

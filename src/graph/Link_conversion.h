@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <vector>
+
 #include "graph/Index_links.h"
 #include "graph/Link_map.h"
 #include "graph/Named_graph.h"
@@ -14,9 +17,10 @@ namespace gns {
 ///
 /// Indices are given from 1 on in the order in which the walk over `links` meets the names, first
 /// name before second. Unless `directed`, both directions of a link fall on one key, smaller index
-/// first, and their weights add up. Linear in the links.
-void Convert_s_links(Index_links& index_links, Node_names& node_names, const Link_map& links,
-                     bool directed);
+/// first, and their weights add up. Linear in the links. Yields for each node, from 1 on, the
+/// number of its name in `links`.
+std::vector<std::uint32_t> Convert_s_links(Index_links& index_links, Node_names& node_names,
+                                           const Link_map& links, bool directed);
 
 /// Builds the undirected graph from keys with the smaller index first. Throws Xerror_msg if a link
 /// stands there in both directions, or leads from a node to itself.

@@ -75,13 +75,17 @@ Link_map Link_map_builder::Build() {
     external_control::Check_inside_long_stage();
     pair = {new_numbers[pair.first], new_numbers[pair.second]};
   }
-  Sort_pairs(pairs_, weights_, names.size());
-  Fold_equal_pairs(pairs_, weights_);
+  return Link_map::From_numbers(std::move(names), std::move(pairs_), std::move(weights_));
+}
 
+Link_map Link_map::From_numbers(Name_table names, std::vector<Index_pair> pairs,
+                                std::vector<double> weights) {
+  Sort_pairs(pairs, weights, names.size());
+  Fold_equal_pairs(pairs, weights);
   Link_map links;
   links.names_ = std::move(names);
-  links.pairs_ = std::move(pairs_);
-  links.weights_ = std::move(weights_);
+  links.pairs_ = std::move(pairs);
+  links.weights_ = std::move(weights);
   return links;
 }
 

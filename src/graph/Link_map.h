@@ -37,8 +37,13 @@ class Link_map {
 
   void clear() { *this = Link_map(); }
 
+  /// From names in ascending order and pairs of their numbers, in any order; `weights` is parallel
+  /// to them, or empty: all 0.0. The weights of a repeated pair add up in their order. Polls as a
+  /// long stage does.
+  static Link_map From_numbers(Name_table names, std::vector<Index_pair> pairs,
+                               std::vector<double> weights);
+
  private:
-  friend class Link_map_builder;
   Name_table names_;
   std::vector<Index_pair> pairs_;
   std::vector<double> weights_;  ///< parallel to pairs_, or empty: all 0.0

@@ -1,23 +1,20 @@
 #pragma once
 
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <span>
 #include <vector>
 
+#include "vorlane/rows.h"
+
 namespace gns {
 
 /// Index of a node: 1 up to the number of nodes; there is no node 0.
-using Node_index = std::uint32_t;
+using Node_index = vorlane::Node;
 
 /// A pair of node indices.
-struct Index_pair {
-  Node_index first;
-  Node_index second;
-  auto operator<=>(const Index_pair&) const = default;
-};
+using Index_pair = vorlane::Node_pair;
 
 /// Sorted members of a node set that lives elsewhere.
 using Node_span = std::span<const Node_index>;

@@ -21,6 +21,10 @@ class Row_array {
   }
   /// Has the processor fetch what tells where a row stands.
   void Prefetch(std::size_t row) const { __builtin_prefetch(starts_.data() + row); }
+  /// Where each row starts among the values of all, and the end; nothing if there are no rows.
+  [[nodiscard]] std::span<const std::size_t> Starts() const {
+    return {starts_.data(), starts_.size()};
+  }
   /// Values of all rows, in order.
   [[nodiscard]] Row Values() const { return {values_.data(), values_.size()}; }
 

@@ -24,6 +24,9 @@ class K_cliques {
     return {members_.data() + index * k_, k_};
   }
 
+  /// The members of all, one behind the other.
+  [[nodiscard]] Node_span Values() const { return members_; }
+
   /// Appends k nodes that ascend and stand behind the last row.
   void push_back(Node_span k_clique) {
     members_.insert(members_.end(), k_clique.begin(), k_clique.end());

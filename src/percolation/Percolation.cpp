@@ -21,16 +21,22 @@ std::shared_ptr<const Communities> Percolation::At(std::uint32_t k) {
   Claim_all(k);
   if (last_k_ <= k) {
     contents_.Forget_communities();
+    Leave_communities();
     communities_ = std::make_shared<Communities>();
   }
   auto result = std::make_shared<Communities>();
   Collect(false, *result);
   result->exact_com_count = static_cast<std::uint32_t>(result->size());
   Collect(true, *result);
+  Leave_communities();
   communities_ = std::move(result);
   contents_.Note_communities(*communities_);
   last_k_ = k;
   return communities_;
+}
+
+void Percolation::Leave_communities() {
+  if (gives_up_links_) communities_->com_links.clear();
 }
 
 void Percolation::Prepare() {

@@ -23,10 +23,17 @@ class Percolation {
   /// Cliques at and behind `exact_clique_count` are approximate. `nested` tells that a clique may
   /// lie inside another: then one of k - 1 nodes can join at k. `cliques` must outlive the object.
   Percolation(const Clique_vector& cliques, std::uint32_t exact_clique_count, bool nested);
+  ~Percolation() { Leave_communities(); }
+  Percolation(const Percolation&) = delete;
+  Percolation& operator=(const Percolation&) = delete;
 
   /// The communities at k, which are not touched any more. Polls the stop flag as a long stage
   /// does.
   std::shared_ptr<const Communities> At(std::uint32_t k);
+
+  /// From here on the links of communities are given up once the next k has been asked for, though
+  /// others hold the communities, and must not be read. For those who want the rest only.
+  void Give_up_links() { gives_up_links_ = true; }
 
  private:
   struct Claimed_range {
@@ -41,6 +48,7 @@ class Percolation {
   using Any_unclaimed =
       std::variant<std::monostate, Unclaimed<std::uint16_t>, Unclaimed<std::uint32_t>>;
 
+  void Leave_communities();
   void Prepare();
   void Claim_all(std::uint32_t k);
   template <typename Rank>
@@ -60,7 +68,8 @@ class Percolation {
   std::vector<Clique_index> claimed_;  ///< in claim order, community behind community
   std::vector<Claimed_range> found_;   ///< the communities in order of discovery
   std::uint32_t last_k_ = 0;           ///< 0: communities_ is empty
-  std::shared_ptr<const Communities> communities_ = std::make_shared<Communities>();
+  std::shared_ptr<Communities> communities_ = std::make_shared<Communities>();
+  bool gives_up_links_ = false;
 };
 
 }  // namespace gns

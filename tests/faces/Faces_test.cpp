@@ -4,7 +4,7 @@
 
 #include "Directory_contents.h"
 #include "Temp_dir.h"
-#include "vorlane.h"
+#include "vorlane_operations.h"
 #include "vorlane_cli.h"
 
 namespace gns {

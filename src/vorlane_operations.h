@@ -1,11 +1,11 @@
 #pragma once
 
-/// The whole library in one header: everything that the engine offers to a program, which links
-/// vorlane_engine.
+/// The operations of the engine, one by one, for programs that are built with this project and link
+/// vorlane_engine: from the readers to the writers, and whole runs. They are kept as they are, but
+/// are not installed; a program that wants results in memory is better off with vorlane/vorlane.h.
 ///
-/// Find_coms() is a run from link file to results directory. Its parts, from the readers to the
-/// writers, can be called by themselves. Stop_process() and Read_state_report() may be called from
-/// other threads while a run goes on; one run at a time per process.
+/// Find_coms() is a run from link file to results directory. Stop_process() and Read_state_report()
+/// may be called from other threads while a run goes on; one run at a time per process.
 
 // foundation: errors, text and numbers, paths
 #include "foundation/Errors.h"

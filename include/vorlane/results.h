@@ -1,0 +1,77 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "vorlane/analysis.h"
+#include "vorlane/network.h"
+#include "vorlane/version.h"
+
+namespace vorlane {
+
+enum class Method { undirected, directed, intensity };
+
+/// All that was found in a network, whether it was found just now or stands in a directory. Never
+/// changes, is cheap to copy and may be read from any thread.
+class VORLANE_API Results {
+ public:
+  /// Opens a results directory, of the program or of a Results_writer. Reads the links and what
+  /// there is; cliques and levels are read when they are asked for. Throws an Error of kind `input`
+  /// if it is no such directory, or if a file that is needed is missing or damaged: its text names
+  /// them all.
+  static Results Open(const std::string& directory);
+
+  [[nodiscard]] vorlane::Method Method() const;
+  [[nodiscard]] const vorlane::Network& Network() const;
+  /// False for the directory of a run that is going on, was stopped or failed: there may be levels
+  /// that it hasn't come to.
+  [[nodiscard]] bool Is_finished() const;
+  /// The k of the levels, descending.
+  [[nodiscard]] const std::vector<std::uint32_t>& Ks() const;
+
+  /// Throws an Error of kind `input` as Open().
+  [[nodiscard]] const vorlane::Cliques& Cliques() const;
+  /// The level at k, one of Ks(); throws an Error of kind `parameters` for another k, and as
+  /// Open(). With the links of the communities where they stand in a directory or were asked for.
+  [[nodiscard]] const Level& At(std::uint32_t k) const;
+
+  struct Body;  ///< for the library itself
+  explicit Results(std::shared_ptr<const Body> body);
+
+ private:
+  std::shared_ptr<const Body> body_;
+};
+
+/// All at once: the cliques and all levels of a network, in memory. Throws as an Analysis.
+VORLANE_API Results Find(const Network& network, const Options& options = {},
+                         const Control& control = {});
+
+/// Writes a results directory: the same files, byte by byte, as the program writes for the same
+/// links and options. Needs levels with links (Options::links). Not for several threads.
+///
+/// The directory must be missing or empty, is made, and marked as unfinished until Finish(); one
+/// that is never finished stays and tells so.
+class VORLANE_API Results_writer {
+ public:
+  /// Writes the links. `source` stands in the first line of every file, as the place where they
+  /// came from. Throws an Error of kind `output` if the directory can't be used, of kind
+  /// `parameters` if a name of the network has a blank inside, which the files can't hold.
+  Results_writer(const std::string& directory, const Network& network, const Options& options,
+                 const std::string& source);
+  ~Results_writer();
+  Results_writer(Results_writer&&) noexcept;
+  Results_writer& operator=(Results_writer&&) noexcept;
+
+  void Write(const Cliques& cliques);
+  void Write(const Level& level);
+  /// Brings all to the disk and takes the mark away. Throws an Error of kind `output` that names
+  /// every file that could not be written; then the mark stays.
+  void Finish();
+
+ private:
+  struct Inside;
+  std::unique_ptr<Inside> inside_;
+};
+
+}  // namespace vorlane

@@ -1,0 +1,137 @@
+#include "vorlane/analysis.h"
+
+#include <cmath>
+#include <utility>
+
+#include "engine/Check_switches.h"
+#include "engine/Levels.h"
+#include "engine/Work_of_levels.h"
+#include "face/Control_body.h"
+#include "face/Errors_of_face.h"
+#include "face/Level_of_face.h"
+#include "face/Network_body.h"
+#include "face/Views.h"
+#include "search/Clique_find.h"
+
+namespace vorlane {
+
+namespace {
+
+constexpr std::uint32_t least_k = 3;
+
+void Check(const Network& network, const Options& options) {
+  const auto refuse = [](const std::string& why) { throw Error(Error_kind::parameters, why); };
+  const Link_options& taken = network.How_taken();
+  if (options.k && *options.k < least_k) refuse("k must be 3 or more.");
+  if (options.time_limit && !(*options.time_limit > 0))
+    refuse("The time limit must be a number of seconds above 0.");
+  if (!options.intensity) return;
+  if (std::isnan(*options.intensity)) refuse("The intensity threshold is not a number.");
+  if (taken.directed) refuse("The intensity method needs an undirected network.");
+  if (network.size() > 0 && !taken.weighted) refuse("The intensity method needs weights.");
+  if (options.time_limit) refuse("The intensity method can't be used with a time limit.");
+}
+
+/// Cliques of `least` nodes and more, in their order.
+gns::Clique_vector Large_ones(const gns::Clique_vector& cliques, std::uint32_t least) {
+  gns::Clique_vector large;
+  for (std::size_t i = 0; i < cliques.size(); ++i)
+    if (cliques[i].size() >= least) large.push_back(cliques[i]);
+  return large;
+}
+
+}  // namespace
+
+struct Analysis::Inside {
+  Inside(Network of, const Options& asked, Control by)
+      : network(std::move(of)), options(asked), control(std::move(by)) {
+    Check(network, options);
+  }
+
+  /// Does a part of the work; nothing goes on behind a part that failed.
+  template <typename Work>
+  auto Go_on(Work part) {
+    if (failed) throw Error(Error_kind::parameters, "This analysis ended with an error before.");
+    const external_control::Control_in_use in_use(control.Inside().run);
+    failed = true;
+    auto result = face::With_errors(Error_kind::other, part);
+    failed = false;
+    return result;
+  }
+
+  void Search() {
+    const gns::Named_graph& graph = network.Inside()->graph;
+    external_control::This_control().progress.Reset();
+    external_control::This_control().work_done.Begin(0);
+    const gns::Time_limit limit = {options.time_limit.value_or(0)};
+    gns::Overlap_matrix view;
+    bool approximation_needed = false;
+    std::uint32_t exact_count = 0;
+    gns::Clique_vector all;
+    gns::Find_cliques_ec(options.time_limit ? &limit : nullptr, graph.directed, all, view,
+                         graph.directed_vertices, graph.vertices, exact_count,
+                         approximation_needed);
+    const bool large_ones_do = options.k && !options.time_limit && !options.intensity;
+    if (large_ones_do) all = Large_ones(all, *options.k);
+    found = std::make_shared<const gns::Clique_vector>(std::move(all));
+    cliques.members = face::View_of(*found, found);
+    cliques.exact_count = large_ones_do ? found->size() : exact_count;
+    largest = gns::Max_clique_size_in_cl_vec(*found);
+    next_k = options.k.value_or(largest);
+  }
+
+  void Begin_levels() {
+    gns::Levels_input input(*found, network.Inside()->graph.links);
+    input.exact_clique_count = static_cast<std::uint32_t>(cliques.exact_count);
+    input.node_count = network.size();
+    input.intensity_threshold = options.intensity;
+    input.max_clique_size = largest;
+    input.links_are_kept = options.links;
+    levels.emplace(input);
+    std::vector<std::size_t> of_size(largest + std::size_t{1}, 0);
+    for (std::size_t i = 0; i < found->size(); ++i) ++of_size[(*found)[i].size()];
+    work.emplace(std::move(of_size), next_k, options.k.value_or(least_k));
+  }
+
+  std::optional<Level> Next() {
+    if (!found) Search();
+    if (next_k < options.k.value_or(least_k)) return std::nullopt;
+    if (!levels) Begin_levels();
+    external_control::Check_for_stop_signal();
+    const std::uint32_t k = next_k--;
+    Level level = face::Level_of(levels->At(k), options.links);
+    if (!options.k) work->End_level(k);
+    return level;
+  }
+
+  Network network;
+  Options options;
+  Control control;
+  bool failed = false;
+  std::shared_ptr<const gns::Clique_vector> found;  ///< null before the search
+  Cliques cliques;
+  std::uint32_t largest = 0;
+  std::uint32_t next_k = 0;  ///< below the last one: there is no more
+  std::optional<gns::Levels> levels;
+  std::optional<gns::Work_of_levels> work;
+};
+
+Analysis::Analysis(Network network, const Options& options, Control control)
+    : inside_(std::make_unique<Inside>(std::move(network), options, std::move(control))) {}
+Analysis::~Analysis() = default;
+Analysis::Analysis(Analysis&&) noexcept = default;
+Analysis& Analysis::operator=(Analysis&&) noexcept = default;
+
+const Cliques& Analysis::Find_cliques() {
+  inside_->Go_on([this] {
+    if (!inside_->found) inside_->Search();
+    return true;
+  });
+  return inside_->cliques;
+}
+
+std::optional<Level> Analysis::Next() {
+  return inside_->Go_on([this] { return inside_->Next(); });
+}
+
+}  // namespace vorlane

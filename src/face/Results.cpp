@@ -1,0 +1,56 @@
+#include "vorlane/results.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "face/Results_body.h"
+
+namespace vorlane {
+
+namespace {
+
+/// All that an analysis found.
+struct Found : Results::Body {
+  [[nodiscard]] const vorlane::Cliques& Cliques() const override { return cliques; }
+  [[nodiscard]] const Level& At(std::uint32_t k) const override {
+    return levels[static_cast<std::size_t>(std::ranges::find(ks, k) - ks.begin())];
+  }
+
+  vorlane::Cliques cliques;
+  std::vector<Level> levels;
+};
+
+}  // namespace
+
+Results::Results(std::shared_ptr<const Body> body) : body_(std::move(body)) {}
+
+Results Results::Open(const std::string& directory) { return face::Results_in(directory); }
+
+Method Results::Method() const { return body_->method; }
+const Network& Results::Network() const { return body_->network; }
+bool Results::Is_finished() const { return body_->finished; }
+const std::vector<std::uint32_t>& Results::Ks() const { return body_->ks; }
+const Cliques& Results::Cliques() const { return body_->Cliques(); }
+
+const Level& Results::At(std::uint32_t k) const {
+  if (std::ranges::find(body_->ks, k) != body_->ks.end()) return body_->At(k);
+  std::string there = body_->ks.empty() ? "there is no level" : "the levels are those of k =";
+  for (const std::uint32_t other : body_->ks) there += ' ' + std::to_string(other);
+  throw Error(Error_kind::parameters,
+              "There is no level at k = " + std::to_string(k) + "; " + there + ".");
+}
+
+Results Find(const Network& network, const Options& options, const Control& control) {
+  auto found = std::make_shared<Found>();
+  found->method = face::Method_of(network, options);
+  found->network = network;
+  Analysis analysis(network, options, control);
+  found->cliques = analysis.Find_cliques();
+  while (std::optional<Level> level = analysis.Next()) {
+    found->ks.push_back(level->k);
+    found->levels.push_back(*std::move(level));
+  }
+  return Results(std::move(found));
+}
+
+}  // namespace vorlane

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "results/Method.h"
+#include "vorlane/results.h"
+
+namespace vorlane {
+
+struct Results::Body {
+  Body() = default;
+  Body(const Body&) = delete;
+  Body& operator=(const Body&) = delete;
+  virtual ~Body() = default;
+
+  [[nodiscard]] virtual const vorlane::Cliques& Cliques() const = 0;
+  /// Of one of the ks.
+  [[nodiscard]] virtual const Level& At(std::uint32_t k) const = 0;
+
+  vorlane::Method method = Method::undirected;
+  vorlane::Network network;
+  bool finished = true;
+  std::vector<std::uint32_t> ks;  ///< descending
+};
+
+namespace face {
+
+/// What stands in a directory.
+Results Results_in(const std::string& directory);
+
+inline gns::Method Method_of(Method method) {
+  return gns::Method_of(method == Method::directed, method == Method::intensity);
+}
+
+inline Method Method_of(const Network& network, const Options& options) {
+  if (options.intensity) return Method::intensity;
+  return network.How_taken().directed ? Method::directed : Method::undirected;
+}
+
+}  // namespace face
+}  // namespace vorlane

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <vector>
+
+#include "graph/Link_map.h"
+#include "graph/Node_set.h"
+
+namespace gns {
+
+/// Collects links between numbers from 1 to a count, in any order, and makes of them the Link_map
+/// that they are if each number is written in decimals.
+class Numbered_links {
+ public:
+  /// Weights as of Link_map_builder.
+  Numbered_links(Node_index count, bool weighted) : count_(count), weighted_(weighted) {}
+
+  /// Both must be from 1 to the count.
+  void Add(Index_pair link, double weight) {
+    pairs_.push_back(link);
+    if (weighted_) weights_.push_back(weight);
+  }
+
+  /// Sorts and folds what was added; the collection is spent. `number_of_name` becomes, for each
+  /// name of the map by its place, the number. Polls as a long stage does.
+  Link_map Build(std::vector<Node_index>& number_of_name);
+
+ private:
+  Node_index count_;
+  bool weighted_;
+  std::vector<Index_pair> pairs_;
+  std::vector<double> weights_;
+};
+
+}  // namespace gns
