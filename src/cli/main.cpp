@@ -10,6 +10,7 @@
 
 #include "cli/Program_run.h"
 #include "cli/Side_words.h"
+#include "cli/options/Help_text.h"
 #include "cli/options/Usage.h"
 #include "cli/terminal/Stop_signals.h"
 #include "cli/terminal/Terminal_escape.h"
@@ -27,8 +28,7 @@ Exit_code Answer(int argc, const char* const* argv) {
     if (gns::Read_progress_option(word, progress)) continue;
     words.push_back(argv[i]);
     if (word == "--help") {
-      gns::Print_detailed_usage(std::filesystem::path(argv[0]).filename());
-      gns::Print_program_notes();
+      std::cout << gns::Help_text(std::filesystem::path(argv[0]).filename());
       return Exit_code::finished;
     }
     if (word == "--version") {

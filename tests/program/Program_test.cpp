@@ -78,7 +78,7 @@ TEST_F(Program, EndsWithItsExitCodeAndMessage) {
   const Words before = Entries();
   for (const Case& c : std::vector<Case>{
            {{"-h"}, 0, " When using vorlane you", ""},
-           {{"-i", "none", "--help"}, 0, "Exit codes: 0 finished", ""},
+           {{"-i", "none", "--help"}, 0, "\nExit codes:\n  0 ", ""},
            {{"--version", "-q"}, 0, "Vorlane 1.", ""},
            {{}, 2, "You must specify an input file.\n", "You must specify an input file.\n"},
            {{"-i", "net", "-q"},

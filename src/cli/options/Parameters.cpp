@@ -5,6 +5,7 @@
 #include <tuple>
 #include <variant>
 
+#include "cli/options/Option_table.h"
 #include "engine/Check_switches.h"
 #include "foundation/text/My_convert_from_string.h"
 
@@ -31,7 +32,7 @@ struct Switch {
 
 using S = Switch_values;
 
-/// All switches, in the order in which they are read and their messages come.
+/// Where each switch goes, in the order in which they are read and their messages come.
 constexpr std::array<Switch, 11> switches{{
     {"-h", &S::help},
     {"-i", Value<std::string>{&S::use_input_file, &S::input_file}},
@@ -66,10 +67,9 @@ void Read_switch(const Value<T>& target, const std::string& name, const Switch_m
 }  // namespace
 
 std::optional<std::size_t> Values_of(const std::string& key) {
-  const auto* const found =
-      std::ranges::find_if(switches, [&](const Switch& s) { return key == s.name; });
-  if (found == switches.end()) return {};
-  return std::holds_alternative<Flag>(found->target) ? 0 : 1;
+  const Option* option = Switch_of(key);
+  if (option == nullptr) return {};
+  return option->argument.empty() ? 0 : 1;
 }
 
 bool Check_keys(const Switch_map& params) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "cli/options/Option_table.h"
 #include "foundation/Errors.h"
 #include "foundation/text/My_string_to_d.h"
 
@@ -27,10 +28,9 @@ bool Take_value(std::string_view value, Progress_option& option) {
 }  // namespace
 
 bool Read_progress_option(std::string_view word, Progress_option& option) {
-  constexpr std::string_view name = "--progress";
-  if (!word.starts_with(name)) return false;
-  std::string_view values = word.substr(name.size());
-  if (!values.empty() && values.front() != '=') return false;
+  const Option* given = Long_option_of(word);
+  if (given == nullptr || given->word != "--progress") return false;
+  std::string_view values = word.substr(given->word.size());
   option = {Progress_option::Form::lines};
   while (!values.empty()) {
     values.remove_prefix(1);

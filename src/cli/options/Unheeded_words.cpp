@@ -1,10 +1,10 @@
 #include "cli/options/Unheeded_words.h"
 
 #include <algorithm>
-#include <array>
 #include <numeric>
 #include <string_view>
 
+#include "cli/options/Option_table.h"
 #include "cli/options/Parameters.h"
 #include "foundation/text/My_string_to_d.h"
 #include "foundation/text/Shown_text.h"
@@ -13,19 +13,19 @@ namespace gns {
 
 namespace {
 
-/// What people call a switch.
+/// What people call an option.
 struct Called {
   std::string_view name;
-  const char* key;
+  std::string_view word;
 };
 
-constexpr std::array names = {
-    Called{"input", "-i"},      Called{"file", "-i"},           Called{"output", "-o"},
-    Called{"outdir", "-o"},     Called{"lower", "-w"},          Called{"weight", "-w"},
-    Called{"min-weight", "-w"}, Called{"upper", "-W"},          Called{"max-weight", "-W"},
-    Called{"digits", "-d"},     Called{"time-limit", "-t"},     Called{"directed", "-D"},
-    Called{"undirected", "-U"}, Called{"intensity", "-I"},      Called{"k", "-k"},
-    Called{"help", "--help"},   Called{"version", "--version"}, Called{"progress", "--progress"}};
+std::vector<Called> All_names() {
+  std::vector<Called> names;
+  for (const Option& option : All_options())
+    for (const std::string_view name : option.names)
+      if (!name.empty()) names.push_back({name, option.word});
+  return names;
+}
 
 /// How many letters must be put in, left out or replaced to make one word of the other.
 std::size_t Distance(std::string_view a, std::string_view b) {
@@ -42,18 +42,19 @@ std::size_t Distance(std::string_view a, std::string_view b) {
   return row.back();
 }
 
-/// The switch that a longer word is nearest to; empty if none is near.
-std::string Nearest_by_name(std::string_view word) {
+/// The option that a longer word is nearest to; empty if none is near.
+std::string_view Nearest_by_name(std::string_view word) {
   constexpr std::size_t most_wrong_letters = 2;
   constexpr std::size_t longest = 20;
   if (word.empty() || word.size() > longest) return "";
+  const std::vector<Called> names = All_names();
   for (const Called& called : names)
-    if (called.name.starts_with(word)) return called.key;
+    if (called.name.starts_with(word)) return called.word;
   const auto distance = [&](const Called& called) { return Distance(word, called.name); };
-  const auto& nearest = *std::ranges::min_element(names, {}, distance);
+  const Called& nearest = *std::ranges::min_element(names, {}, distance);
   const bool near =
       distance(nearest) <= most_wrong_letters && distance(nearest) * 2 <= nearest.name.size();
-  return near ? nearest.key : "";
+  return near ? nearest.word : "";
 }
 
 /// The switch that may have been meant by an unknown one; empty if none is near.
@@ -61,7 +62,7 @@ std::string Nearest(const std::string& key) {
   std::string in_other_case = {key[0], static_cast<char>(key[1] ^ ' ')};
   if (key.size() == 2 && Values_of(in_other_case)) return in_other_case;
   const std::string_view word = std::string_view(key).substr(key.find_first_not_of('-', 1));
-  return Nearest_by_name(word.substr(0, word.find('=')));
+  return std::string(Nearest_by_name(word.substr(0, word.find('='))));
 }
 
 std::string Of_unknown_switch(const std::string& key) {

@@ -133,27 +133,6 @@ constexpr std::string_view detailed_usage =
     "\n"
     "\n";
 
-constexpr std::string_view program_notes =
-    "\n"
-    " --help     shows this text.\n"
-    " --version  shows the version.\n"
-    " --progress tells on standard error how far the run has come, a line every\n"
-    "            30 seconds; --progress=5 every 5 seconds, --progress=json as objects\n"
-    "            of JSON, --progress=json,5 both, --progress=none never. Without it:\n"
-    "            a few lines that are rewritten on a terminal, else as --progress.\n"
-    "\n"
-    " Exit codes: 0 finished, 1 the run failed or a file could not be written,\n"
-    " 2 wrong usage, 130 stopped by SIGINT or SIGTERM.\n"
-    "\n"
-    " Environment:\n"
-    "   VORLANE_MEMORY_LIMIT  the most memory to be used for data: bytes, or a number\n"
-    "                         with K, M or G behind it. By default what the machine\n"
-    "                         has left, less a quarter of its memory or 2 GB, whichever\n"
-    "                         is less.\n"
-    "   VORLANE_NO_SYNC       if it isn't empty, a run doesn't wait until its results are\n"
-    "                         on the disk, safe from a power failure.\n"
-    "   NO_COLOR              if it isn't empty, progress is shown without colour.\n";
-
 void Print_text(std::string_view text, const std::string& prog_name) {
   for (;;) {
     const std::size_t mark = text.find(name_mark);
@@ -178,8 +157,6 @@ void Print_detailed_usage(const std::string& prog_name) {
   Print_text(detailed_usage, prog_name);
   Print_copyright();
 }
-
-void Print_program_notes() { std::cout << program_notes; }
 
 void Print_version() { std::cout << "Vorlane " VORLANE_VERSION "\n"; }
 

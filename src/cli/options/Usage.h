@@ -4,7 +4,7 @@
 
 namespace gns {
 
-/// The help of the program, on standard output.
+/// What the switches say about themselves, on standard output.
 
 /// The banner.
 void Print_copyright();
@@ -14,9 +14,6 @@ void Print_usage(const std::string& prog_name, const std::string& errors);
 
 /// The long help and, behind it, the banner.
 void Print_detailed_usage(const std::string& prog_name);
-
-/// What the program offers beside its switches: --help, --version, variables, exit codes.
-void Print_program_notes();
 
 /// Name and version.
 void Print_version();

@@ -1,0 +1,80 @@
+#include "cli/options/Help_text.h"
+
+#include <sstream>
+#include <string_view>
+
+#include "cli/options/Marked_text.h"
+#include "cli/options/Option_table.h"
+#include "cli/options/Program_facts.h"
+
+namespace gns {
+
+namespace {
+
+constexpr std::size_t width = 80;
+
+/// A term and, from a column on, what it means. A term that doesn't fit gets a line of its own.
+void Put_entry(std::string_view term, std::size_t column, std::string_view meaning,
+               std::ostream& out) {
+  constexpr std::size_t indent = 2;
+  out << std::string(indent, ' ') << term;
+  const std::size_t used = indent + term.size();
+  if (used + indent > column)
+    out << "\n" << std::string(column, ' ');
+  else
+    out << std::string(column - used, ' ');
+  out << Wrapped(Without_marks(meaning), width, column, column) << "\n";
+}
+
+void Put_options(const Option_group& group, std::ostream& out) {
+  constexpr std::size_t column = 20;
+  out << "\n" << group.title << ":\n";
+  for (const Option& option : All_options()) {
+    if (option.group != group.group) continue;
+    std::string meaning(option.summary);
+    if (!option.without.empty()) meaning.append(" [").append(option.without).append("]");
+    Put_entry(option.Form(), column, meaning, out);
+  }
+}
+
+void Put_exit_codes(std::ostream& out) {
+  constexpr std::size_t column = 7;
+  out << "\nExit codes:\n";
+  for (const Exit_meaning& exit : Exit_meanings())
+    Put_entry(std::to_string(static_cast<int>(exit.code)), column, exit.meaning, out);
+}
+
+void Put_variables(std::ostream& out) {
+  constexpr std::size_t column = 24;
+  out << "\nEnvironment:\n";
+  for (const Variable& variable : Variables())
+    Put_entry(variable.name, column, variable.meaning, out);
+}
+
+void Put_examples(const std::string& prog_name, std::ostream& out) {
+  constexpr std::size_t column = 6;
+  out << "\nExamples:\n";
+  for (const Example& example : Examples())
+    Put_entry(prog_name + " " + std::string(example.arguments), column, example.effect, out);
+}
+
+}  // namespace
+
+std::string Help_text(const std::string& prog_name) {
+  std::ostringstream out;
+  out << "Usage: " << prog_name << " " << Without_marks(Synopsis()) << "\n\n"
+      << Wrapped(Purpose(), width) << "\n\nIn brackets: what holds without the option.\n";
+  for (const Option_group& group : Option_groups()) Put_options(group, out);
+  Put_exit_codes(out);
+  Put_variables(out);
+  Put_examples(prog_name, out);
+  out << "\n"
+      << Wrapped(prog_name +
+                     " -h explains the switches one by one, README.md what the results "
+                     "mean, docs/file-formats.md each of their files.",
+                 width)
+      << "\n";
+  return out.str();
+}
+
+}  // namespace gns
