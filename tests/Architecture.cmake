@@ -1,9 +1,10 @@
-# cmake -DSOURCE=... -P Architecture.cmake: fails unless docs/architecture.md names every unit of src/
-# and bindings/, in backquotes.
+# cmake -DSOURCE=... -P Architecture.cmake: fails unless docs/architecture.md names every unit of src/,
+# bindings/ and packaging/, in backquotes.
 cmake_minimum_required(VERSION 3.25)
 file(READ ${SOURCE}/docs/architecture.md map)
 file(GLOB_RECURSE files ${SOURCE}/src/*/*.h ${SOURCE}/src/*/*.cpp ${SOURCE}/bindings/java/native/*.h
-     ${SOURCE}/bindings/java/native/*.cpp ${SOURCE}/bindings/java/src/*.java)
+     ${SOURCE}/bindings/java/native/*.cpp ${SOURCE}/bindings/java/src/*.java
+     ${SOURCE}/packaging/*.cpp)
 foreach(file IN LISTS files)
   cmake_path(GET file STEM LAST_ONLY unit)
   string(FIND "${map}" "`${unit}`" place)

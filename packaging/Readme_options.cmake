@@ -1,0 +1,21 @@
+# cmake -DREADME=... -DTABLE=... [-DWRITE=ON] -P Readme_options.cmake: puts the table of options into
+# the README, between its two marks; without WRITE it fails if another stands there.
+cmake_minimum_required(VERSION 3.25)
+set(opening "<!-- options: made by the target readme_options -->\n\n")
+set(closing "\n<!-- end of options -->\n")
+file(READ ${README} text)
+file(READ ${TABLE} table)
+string(FIND "${text}" "${opening}" start)
+string(FIND "${text}" "${closing}" end)
+if(start EQUAL -1 OR end LESS start)
+  message(FATAL_ERROR "${README} has no marks for the table of options")
+endif()
+string(SUBSTRING "${text}" 0 ${start} before)
+string(SUBSTRING "${text}" ${end} -1 behind)
+set(wanted "${before}${opening}${table}${behind}")
+if(WRITE)
+  file(WRITE ${README} "${wanted}")
+elseif(NOT text STREQUAL wanted)
+  message(FATAL_ERROR "The table of options in ${README} is not that of src/cli/options; "
+                      "cmake --build build --target readme_options puts it there.")
+endif()
