@@ -30,7 +30,6 @@ function(vorlane_folder name)
   add_library(folder_${name} OBJECT ${sources})
   target_include_directories(folder_${name} PUBLIC ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src
                              ${PROJECT_SOURCE_DIR})
-  target_compile_definitions(folder_${name} PRIVATE VORLANE_VERSION="${PROJECT_VERSION}")
 
   set(VORLANE_FOLDERS ${VORLANE_FOLDERS} ${name} CACHE INTERNAL "")
   if(NOT PROJECT_IS_TOP_LEVEL)
@@ -43,16 +42,23 @@ function(vorlane_folder name)
                         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/layers)
 endfunction()
 
-# vorlane_static_library(NAME TOP OUTPUT_NAME FILE): the folder TOP and those that it uses. Who links
-# it sees the public headers.
-function(vorlane_static_library name top)
-  cmake_parse_arguments(PARSE_ARGV 2 arg "" "OUTPUT_NAME" "")
+# vorlane_library(NAME STATIC|SHARED TOP): libvorlane of the folder TOP and those that it uses. Who
+# links it sees the public headers; a shared one exports nothing but what they declare.
+function(vorlane_library name kind top)
   vorlane_objects(objects ${top})
-  add_library(${name} STATIC ${objects})
+  add_library(${name} ${kind} ${objects})
   target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
                                             $<INSTALL_INTERFACE:include>)
   target_compile_features(${name} PUBLIC cxx_std_20)
-  set_target_properties(${name} PROPERTIES OUTPUT_NAME ${arg_OUTPUT_NAME})
+  target_link_libraries(${name} PUBLIC Threads::Threads)
+  set_target_properties(${name} PROPERTIES OUTPUT_NAME vorlane VERSION ${PROJECT_VERSION}
+                                           SOVERSION ${PROJECT_VERSION_MAJOR})
+  if(kind STREQUAL SHARED)
+    set(exports ${PROJECT_SOURCE_DIR}/src/face/exports.map)
+    set_target_properties(${name} PROPERTIES LINK_DEPENDS ${exports}
+                                             LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+    target_link_options(${name} PRIVATE LINKER:--version-script=${exports} LINKER:--no-undefined)
+  endif()
 endfunction()
 
 # The operations of the command line, for programs that take the same switches.
@@ -68,7 +74,7 @@ endfunction()
 
 # A shared library for Java to load: native/module/ has what only it needs, and exports.map there
 # names its exports. Lasting variables would keep counters from being written.
-function(vorlane_java_library name output_name)
+function(vorlane_java_library name)
   set(module ${PROJECT_SOURCE_DIR}/bindings/java/native/module)
   add_library(${name} MODULE $<TARGET_OBJECTS:folder_java>)
   if(NOT VORLANE_COVERAGE)
@@ -77,7 +83,6 @@ function(vorlane_java_library name output_name)
   target_link_libraries(${name} PRIVATE vorlane_engine Threads::Threads)
   target_link_options(${name} PRIVATE LINKER:--version-script=${module}/exports.map
                       LINKER:--no-undefined)
-  set_target_properties(${name} PROPERTIES OUTPUT_NAME ${output_name}
-                        LINK_DEPENDS ${module}/exports.map
+  set_target_properties(${name} PROPERTIES LINK_DEPENDS ${module}/exports.map
                         LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
 endfunction()

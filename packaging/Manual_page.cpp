@@ -6,6 +6,7 @@
 #include "cli/options/Marked_text.h"
 #include "cli/options/Option_table.h"
 #include "cli/options/Program_facts.h"
+#include "vorlane/version.h"
 
 namespace gns {
 

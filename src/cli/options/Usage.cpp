@@ -3,6 +3,8 @@
 #include <iostream>
 #include <string_view>
 
+#include "vorlane/version.h"
+
 namespace gns {
 
 namespace {

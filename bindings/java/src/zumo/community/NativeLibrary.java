@@ -14,7 +14,7 @@ public final class NativeLibrary {
   /** The system property that names the library's file. */
   public static final String PROPERTY = "vorlane.library";
 
-  private static final String FILE_NAME = System.mapLibraryName("vorlane");
+  private static final String FILE_NAME = System.mapLibraryName("vorlane_java");
   private static boolean loaded;
 
   private NativeLibrary() {}

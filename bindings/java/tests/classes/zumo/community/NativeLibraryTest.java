@@ -9,7 +9,7 @@ import org.junit.*;
 import org.junit.rules.TemporaryFolder;
 
 public class NativeLibraryTest {
-  private static final String FILE_NAME = System.mapLibraryName("vorlane");
+  private static final String FILE_NAME = System.mapLibraryName("vorlane_java");
 
   @Rule public final TemporaryFolder folder = new TemporaryFolder();
 

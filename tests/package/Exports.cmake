@@ -1,0 +1,17 @@
+# cmake -DNM=... -DLIBRARY=... -P Exports.cmake: fails unless the shared library exports what the
+# public headers declare, and nothing of what lies behind them.
+execute_process(COMMAND ${NM} -DC --defined-only --format=just-symbols ${LIBRARY}
+                OUTPUT_VARIABLE exports COMMAND_ERROR_IS_FATAL ANY)
+string(REPLACE ";" "," exports "${exports}")
+string(REGEX MATCHALL "[^\n]+" exports "${exports}")
+foreach(name "vorlane::Find(" "vorlane::Network::Builder::Add(" "typeinfo for vorlane::Error")
+  string(FIND "${exports}" "${name}" place)
+  if(place EQUAL -1)
+    message(SEND_ERROR "not exported: ${name}")
+  endif()
+endforeach()
+list(FILTER exports EXCLUDE REGEX
+     "^(vorlane::[A-Z]|(typeinfo|typeinfo name|vtable) for vorlane::Error@|VORLANE_1)")
+if(exports)
+  message(SEND_ERROR "exported: ${exports}")
+endif()
