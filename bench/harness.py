@@ -64,7 +64,8 @@ def build_tools():
 
 def build_on_library(name):
     """Builds a program of this folder that uses the library."""
-    succeed("g++", "-std=c++20", "-O3", f"-I{ROOT / 'include'}", f"-I{ROOT / 'src'}", "-o", TOOLS / name,
+    includes = (f"-I{ROOT / folder}" for folder in ("include", "src"))
+    succeed("g++", "-std=c++20", "-O3", *includes, "-o", TOOLS / name,
             ROOT / "bench" / f"{name}.cpp", ROOT / "build" / "libvorlane.a", "-pthread")
 
 

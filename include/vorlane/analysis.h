@@ -24,14 +24,14 @@ struct Options {
   /// Seconds of processor time that the search may spend on a node. What it leaves is covered by
   /// approximate cliques. Not with `intensity`. Repeated runs may differ.
   std::optional<double> time_limit;
-  /// One k only, 3 or more. Cliques of fewer nodes are then not looked for, unless they may be
-  /// needed (with a time limit or `intensity`).
+  /// One k only, 3 or more. In an undirected network, without time limit and `intensity`, cliques
+  /// of fewer nodes are then not even looked for.
   std::optional<std::uint32_t> k;
   /// Levels come with the links of their communities.
   bool links = false;
 };
 
-/// All maximal cliques of 3 nodes or more.
+/// All maximal cliques of 3 nodes or more, or of those that are looked for (Options::k).
 struct Cliques {
   Rows members;                 ///< by clique: its nodes, ascending
   std::size_t exact_count = 0;  ///< those behind are approximate: perhaps not maximal

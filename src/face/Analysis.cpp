@@ -12,6 +12,7 @@
 #include "face/Network_body.h"
 #include "face/Views.h"
 #include "search/Clique_find.h"
+#include "search/Undirected_search.h"
 
 namespace vorlane {
 
@@ -30,14 +31,6 @@ void Check(const Network& network, const Options& options) {
   if (taken.directed) refuse("The intensity method needs an undirected network.");
   if (network.size() > 0 && !taken.weighted) refuse("The intensity method needs weights.");
   if (options.time_limit) refuse("The intensity method can't be used with a time limit.");
-}
-
-/// Cliques of `least` nodes and more, in their order.
-gns::Clique_vector Large_ones(const gns::Clique_vector& cliques, std::uint32_t least) {
-  gns::Clique_vector large;
-  for (std::size_t i = 0; i < cliques.size(); ++i)
-    if (cliques[i].size() >= least) large.push_back(cliques[i]);
-  return large;
 }
 
 }  // namespace
@@ -63,21 +56,28 @@ struct Analysis::Inside {
     const gns::Named_graph& graph = network.Inside()->graph;
     external_control::This_control().progress.Reset();
     external_control::This_control().work_done.Begin(0);
+    auto all = std::make_shared<gns::Clique_vector>();
+    if (options.k && !graph.directed && !options.time_limit && !options.intensity) {
+      gns::Clique_find_of_size_ec(*all, graph.vertices, *options.k);
+      cliques.exact_count = all->size();
+    } else {
+      Search_all(graph, *all);
+    }
+    found = std::move(all);
+    cliques.members = face::View_of(*found, found);
+    largest = gns::Max_clique_size_in_cl_vec(*found);
+    next_k = options.k.value_or(largest);
+  }
+
+  void Search_all(const gns::Named_graph& graph, gns::Clique_vector& all) {
     const gns::Time_limit limit = {options.time_limit.value_or(0)};
     gns::Overlap_matrix view;
     bool approximation_needed = false;
     std::uint32_t exact_count = 0;
-    gns::Clique_vector all;
     gns::Find_cliques_ec(options.time_limit ? &limit : nullptr, graph.directed, all, view,
                          graph.directed_vertices, graph.vertices, exact_count,
                          approximation_needed);
-    const bool large_ones_do = options.k && !options.time_limit && !options.intensity;
-    if (large_ones_do) all = Large_ones(all, *options.k);
-    found = std::make_shared<const gns::Clique_vector>(std::move(all));
-    cliques.members = face::View_of(*found, found);
-    cliques.exact_count = large_ones_do ? found->size() : exact_count;
-    largest = gns::Max_clique_size_in_cl_vec(*found);
-    next_k = options.k.value_or(largest);
+    cliques.exact_count = exact_count;
   }
 
   void Begin_levels() {

@@ -91,6 +91,8 @@ class Clique_walk::Descent {
       if constexpr (directed) below[w] &= ~cycles_.Closing(w);
       count += static_cast<std::size_t>(std::popcount(below[w]));
     }
+    const std::size_t most_nodes = level + 2 + count;  // of a clique with all candidates
+    if (most_nodes < memory_.least_size_) return false;
     const std::size_t start = memory_.excluded_.size();
     attempt_.Add_work((start - memory_.excluded_starts_[level] + count) * Words());
     if (count <= 1) {

@@ -19,6 +19,10 @@ namespace gns {
 /// the walk has a stack of its own.
 class Clique_walk {
  public:
+  /// Cliques of fewer nodes than `least_size`, the node in hand included, are left out, and the
+  /// walk doesn't go where there can't be others.
+  explicit Clique_walk(std::size_t least_size = 3) : least_size_(least_size) {}
+
   /// Replaces `found` by one row of local.words words per clique, in no particular order. Where the
   /// attempt runs over, the cliques found until then are a part of them, and maximal all the same.
   void Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found);
@@ -27,6 +31,7 @@ class Clique_walk {
   template <bool directed, std::size_t fixed_words>
   class Descent;
 
+  std::size_t least_size_;
   std::vector<Bit_word> bits_;           ///< per level: the candidates, then those to branch on
   std::vector<std::uint32_t> excluded_;  ///< rows excluded at each level, level behind level
   std::vector<Bit_word> clique_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "graph/Core.h"
 #include "search/Queue_search.h"
 
 namespace gns {
@@ -65,6 +66,16 @@ void Undirected_node_search::Sort_found() {
 void Clique_find_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
                     const Vertex_map& vtx_map) {
   Search(cliques, overlap_matrix, vtx_map, nullptr);
+}
+
+void Clique_find_of_size_ec(Clique_vector& cliques, const Vertex_map& vtx_map,
+                            std::uint32_t least_size) {
+  Node_order order;
+  Sort_Vtx_map(order, vtx_map);
+  const Adjacency core = Core_of(vtx_map.Rows(), least_size - 1);
+  Undirected_node_search search(core, order, least_size);
+  Overlap_matrix view;
+  Search_all(search, core, order, kind, nullptr, cliques, view);
 }
 
 void Clique_find_part_time_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,

@@ -17,8 +17,10 @@ namespace gns {
 /// order where the attempt runs over).
 class Undirected_node_search : public Node_search {
  public:
-  Undirected_node_search(const Adjacency& neighs, const Node_order& order)
-      : graph_(neighs, order) {}
+  /// Cliques of fewer than `least_size` nodes are left out.
+  Undirected_node_search(const Adjacency& neighs, const Node_order& order,
+                         std::size_t least_size = 3)
+      : graph_(neighs, order), walk_(least_size) {}
 
   void Find(Node_index node, Attempt& attempt, Clique_vector& cliques) override;
   void Finish(Node_index node) override { graph_.Finish(node); }
@@ -42,6 +44,13 @@ class Undirected_node_search : public Node_search {
 /// search by an exception.
 void Clique_find_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
                     const Vertex_map& vtx_map);
+
+/// The same without the cliques of fewer than `least_size` nodes, where 3 leaves out none: the
+/// greater it is, the less there is to be walked. Only what hangs together by so many links that
+/// such a clique may be there, the core of the graph (S. B. Seidman, Social Networks 5, 1983), is
+/// looked at.
+void Clique_find_of_size_ec(Clique_vector& cliques, const Vertex_map& vtx_map,
+                            std::uint32_t least_size);
 
 /// The same with a limit on the processor time of each attempt on a node; see Search_queue. All
 /// cliques that it yields are maximal; some are missing if `left_map` isn't empty at its end.
