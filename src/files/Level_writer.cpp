@@ -7,7 +7,7 @@
 #include "files/Result_lines.h"
 #include "files/Results_names.h"
 #include "foundation/io/Text_writer.h"
-#include "foundation/paths/Dir_prepare.h"
+#include "foundation/paths/Make_dir_aside.h"
 
 namespace gns {
 
@@ -54,7 +54,7 @@ class Link_lookup {
 
 Level_writer::Level_writer(const Results_writer& results, std::uint32_t k)
     : results_(results), k_(k), directory_(results_names::Dir_of_k(results.Place().directory, k)) {
-  Dir_prepare(directory_, "keep");
+  Make_dir_aside(directory_);
 }
 
 std::string Level_writer::Path(const std::string& base_name) const {

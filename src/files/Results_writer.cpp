@@ -6,7 +6,7 @@
 #include "files/Result_lines.h"
 #include "files/Results_names.h"
 #include "foundation/io/Text_writer.h"
-#include "foundation/paths/Dir_prepare.h"
+#include "foundation/paths/Make_dir_aside.h"
 #include "results/Method.h"
 
 namespace gns {
@@ -15,13 +15,13 @@ Results_writer::Results_writer(Results_place place, const Table_pointers& tables
     : place_(std::move(place)), tables_(tables) {}
 
 void Results_writer::Write_params() const {
-  Dir_prepare(place_.directory, "keep");
+  Make_dir_aside(place_.directory);
   Text_writer file(results_names::Params(place_.directory));
   file << "# Vorlane was run on links taken" << place_.header;
 }
 
 void Results_writer::Write_graph(const Link_map& links, bool weighted) const {
-  Dir_prepare(place_.directory, "keep");
+  Make_dir_aside(place_.directory);
   const bool directed = place_.flag == Flag_of(Method::directed);
   Text_writer file(results_names::Graph(place_.directory, directed));
   file << "# The links" << place_.header
@@ -40,7 +40,7 @@ void Results_writer::Write_graph(const Link_map& links, bool weighted) const {
 
 void Results_writer::Write_cliques(const Clique_vector& cliques, std::uint32_t exact_count,
                                    const Node_names& names) const {
-  Dir_prepare(place_.directory, "keep");
+  Make_dir_aside(place_.directory);
   Text_writer file(results_names::Cliques(place_.directory, place_.flag));
   const std::string flag = results_names::Clique_flag(place_.flag);
   file << "# The " << results_names::Lead(flag, ' ') << "cliques" << place_.header;

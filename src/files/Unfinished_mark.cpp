@@ -13,8 +13,8 @@
 #include "foundation/Environment.h"
 #include "foundation/Errors.h"
 #include "foundation/io/File_faults.h"
-#include "foundation/paths/Dir_prepare.h"
 #include "foundation/paths/Direktoriz.h"
+#include "foundation/paths/Make_dir_aside.h"
 #include "foundation/paths/Total_path.h"
 
 namespace gns {
@@ -37,7 +37,7 @@ int Open_output_dir(const std::string& output_dir) {
   // A path by way of a missing directory may lead to one that is in use.
   const std::string resolved = Resolved_path(output_dir);
   if (Is_there_such_dir(resolved)) Check_entries(resolved);
-  Dir_prepare(output_dir, "keep");
+  Make_dir_aside(output_dir);
   const int directory = Open_file(output_dir, O_RDONLY | O_DIRECTORY);
   if (directory < 0) throw Not_writable(output_dir, errno);
   return directory;

@@ -3,6 +3,7 @@
 #include "foundation/Errors.h"
 #include "foundation/paths/Deleting.h"
 #include "foundation/paths/Direktoriz.h"
+#include "foundation/paths/Make_dir_aside.h"
 #include "foundation/paths/Prompts.h"
 #include "foundation/paths/Renaming.h"
 
@@ -12,13 +13,13 @@ void Dir_prepare(const std::string& path, const std::string& flag) {
   if (flag != "keep" && flag != "clear" && flag != "interactive") {
     throw Xerror_msg("ERROR: Dir_prepare() called with unknown flag '" + flag + "'");
   }
+  if (flag == "keep") return Make_dir_aside(path);
   std::string type;
   bool empty = true;
   std::string error_text;
   const bool found = Is_there_such_path(path, type, empty, error_text);
   if (found && flag == "interactive") return Dir_prepare_interact(path, type, empty);
-  if (found && flag == "clear") Del_path(path);
-  if (found && flag == "keep" && type != "dir") Rename_auto(path);
+  if (found) Del_path(path);
   Make_dir(path);
 }
 

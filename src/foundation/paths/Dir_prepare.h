@@ -5,7 +5,7 @@
 namespace gns {
 
 /// Makes sure that the path is a directory. If something stands there already, the flag decides:
-/// - "keep" leaves a directory with its contents alone and moves anything else aside.
+/// - "keep" calls `Make_dir_aside`.
 /// - "clear" deletes it and makes an empty directory.
 /// - "interactive" (the form without a flag) calls `Dir_prepare_interact`.
 void Dir_prepare(const std::string& path, const std::string& flag);
