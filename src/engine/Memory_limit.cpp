@@ -6,12 +6,15 @@
 #include <algorithm>
 #include <charconv>
 #include <filesystem>
-#include <fstream>
 #include <optional>
+#include <stdexcept>
 #include <string_view>
+#include <vector>
 
 #include "foundation/Environment.h"
 #include "foundation/Errors.h"
+#include "foundation/io/Line_reader.h"
+#include "foundation/text/Text_fields.h"
 
 namespace gns {
 
@@ -34,14 +37,29 @@ constexpr Cgroup_files version_1 = {"/sys/fs/cgroup/memory", "memory.limit_in_by
 constexpr Cgroup_files version_2 = {"/sys/fs/cgroup", "memory.max", "memory.current",
                                     "inactive_file", "active_file"};
 
-/// The number behind a word of a file, or the one that it begins with.
-std::optional<std::uint64_t> Number_in(const std::string& path, const std::string& key = "") {
-  std::ifstream file(path);
-  std::string word;
-  while (!key.empty() && word != key)
-    if (!(file >> word)) return std::nullopt;
-  std::uint64_t number = 0;
-  if (file >> number) return number;
+/// The lines of a file of the system; none if it is missing or can't be read.
+std::vector<std::string> Lines_of(const std::string& path) {
+  std::vector<std::string> lines;
+  try {
+    Line_reader file(path);
+    for (std::string_view line; file.Next(line);) lines.emplace_back(line);
+  } catch (const std::logic_error&) {
+    lines.clear();
+  }
+  return lines;
+}
+
+/// The number on the line that begins with the key, or, without one, on the first.
+std::optional<std::uint64_t> Number_in(const std::string& path, std::string_view key = {}) {
+  for (const std::string& line : Lines_of(path)) {
+    std::string_view rest = line;
+    if (!key.empty() && Extract_word(rest) != key) continue;
+    const std::string_view digits = Extract_word(rest);
+    std::uint64_t number = 0;
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (result.ec == std::errc()) return number;
+    return std::nullopt;
+  }
   return std::nullopt;
 }
 
@@ -69,9 +87,8 @@ std::uint64_t Left_in_groups(const std::string& mount, std::filesystem::path gro
 
 /// A line reads "NUMBER:CONTROLLER,...:/PATH"; version 2 has no controllers.
 std::uint64_t Left_in_own_groups(const std::string& root) {
-  std::ifstream file(root + "/proc/self/cgroup");
   std::uint64_t least = UINT64_MAX;
-  for (std::string line; std::getline(file, line);) {
+  for (const std::string& line : Lines_of(root + "/proc/self/cgroup")) {
     const std::size_t first = line.find(':');
     const std::size_t second = line.find(':', first + 1);
     if (second == std::string::npos) continue;

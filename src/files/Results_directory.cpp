@@ -1,13 +1,10 @@
 #include "files/Results_directory.h"
 
-#include <dirent.h>
-
-#include <cerrno>
-#include <memory>
 #include <system_error>
 
 #include "files/Results_writer.h"
 #include "foundation/Errors.h"
+#include "foundation/paths/Dir_listing.h"
 #include "foundation/paths/Direktoriz.h"
 #include "foundation/paths/Total_path.h"
 #include "foundation/text/My_double2string.h"
@@ -38,19 +35,10 @@ void Check_out_dir(const std::string& output_dir) {
 }
 
 void Check_entries(const std::string& output_dir, std::string_view allowed) {
-  // A directory_iterator of the standard library ends the process where it gets no memory.
-  const auto close = [](DIR* dir) { closedir(dir); };
-  std::unique_ptr<DIR, decltype(close)> dir(nullptr, close);
-  do {
-    dir.reset(opendir(output_dir.c_str()));
-  } while (dir == nullptr && errno == EINTR);
-  if (dir != nullptr) errno = 0;
-  // Nobody else reads from this listing. NOLINTNEXTLINE(concurrency-mt-unsafe)
-  while (const dirent* const entry = dir != nullptr ? readdir(dir.get()) : nullptr) {
-    const std::string_view name = entry->d_name;
-    if (name != "." && name != ".." && name != allowed) throw Xdir_not_empty(output_dir);
-  }
-  if (const int error = errno)
+  Dir_listing listing(output_dir);
+  while (const char* const name = listing.Next())
+    if (name != allowed) throw Xdir_not_empty(output_dir);
+  if (const int error = listing.Error())
     throw Xerror_msg("ERROR: the output directory '" + output_dir +
                      "' can't be listed: " + std::generic_category().message(error) + ".\n");
 }

@@ -1,11 +1,6 @@
 #include "files/Unfinished_mark.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
-#include <filesystem>
 #include <string_view>
 #include <system_error>
 
@@ -13,6 +8,7 @@
 #include "foundation/Environment.h"
 #include "foundation/Errors.h"
 #include "foundation/io/File_faults.h"
+#include "foundation/io/File_system.h"
 #include "foundation/paths/Direktoriz.h"
 #include "foundation/paths/Make_dir_aside.h"
 #include "foundation/paths/Total_path.h"
@@ -58,15 +54,6 @@ int Claim(const std::string& output_dir, int directory) {
   throw Not_writable(output_dir, error);
 }
 
-/// Yields 0 or the number of the error.
-int Write_mark(int mark) {
-  ssize_t written = -1;
-  do written = ::write(mark, mark_text.data(), mark_text.size());
-  while (written < 0 && errno == EINTR);
-  if (written < 0) return errno;
-  return static_cast<std::size_t>(written) == mark_text.size() ? 0 : ENOSPC;
-}
-
 }  // namespace
 
 Unfinished_mark::Unfinished_mark(const std::string& output_dir)
@@ -74,11 +61,12 @@ Unfinished_mark::Unfinished_mark(const std::string& output_dir)
       directory_(Open_output_dir(output_dir)),
       mark_(Claim(output_dir, directory_.Number())) {
   try {
-    if (const int error = Write_mark(mark_.Number())) throw Not_writable(output_dir, error);
+    if (!Write_all(mark_.Number(), mark_text.data(), mark_text.size()))
+      throw Not_writable(output_dir, errno);
     // From here on no other run comes in, but one may have finished in front of the mark.
     Check_entries(output_dir, mark_name);
   } catch (...) {
-    ::unlinkat(directory_.Number(), mark_name, 0);
+    File_system::At_hand().Remove(directory_.Number(), mark_name, 0);
     throw;
   }
 }
@@ -86,9 +74,10 @@ Unfinished_mark::Unfinished_mark(const std::string& output_dir)
 void Unfinished_mark::Check() const {
   struct stat ours {};
   struct stat found {};
-  if (::fstat(mark_.Number(), &ours) == 0 &&
-      ::lstat(Unfinished_mark_of(output_dir_).c_str(), &found) == 0 &&
-      ours.st_dev == found.st_dev && ours.st_ino == found.st_ino)
+  File_system& files = File_system::At_hand();
+  if (files.Status_of_open(mark_.Number(), ours) == 0 &&
+      files.Status(Unfinished_mark_of(output_dir_).c_str(), found, AT_SYMLINK_NOFOLLOW) == 0 &&
+      Is_same_file(ours, found))
     return;
   const Descriptor replacement(Open_file(output_dir_, O_RDONLY | O_DIRECTORY));
   if (replacement.Is_open()) const Descriptor mark(Make_mark(replacement.Number()));
@@ -98,15 +87,16 @@ void Unfinished_mark::Check() const {
 
 void Unfinished_mark::Remove() {
   Check();
+  File_system& files = File_system::At_hand();
   const bool sync = Environment_variable("VORLANE_NO_SYNC").empty();
   // The whole file system at once: there may be thousands of files, and each would cost a wait.
-  if (sync && ::syncfs(directory_.Number()) != 0)
+  if (sync && Uninterrupted([&] { return files.Sync_all(directory_.Number()); }) != 0)
     return Note_file_fault(output_dir_, "sync", errno);
   mark_.Close();  // some file systems keep what is open under another name
-  if (::unlinkat(directory_.Number(), mark_name, 0) != 0)
+  if (files.Remove(directory_.Number(), mark_name, 0) != 0)
     return Note_file_fault(Unfinished_mark_of(output_dir_), "remove", errno);
   // Where this fails, the mark may come back, which does no harm to the results.
-  if (sync) ::fsync(directory_.Number());
+  if (sync) Uninterrupted([&] { return files.Sync(directory_.Number()); });
 }
 
 std::string Unfinished_mark_of(const std::string& output_dir) {
@@ -114,9 +104,10 @@ std::string Unfinished_mark_of(const std::string& output_dir) {
 }
 
 bool Is_marked_unfinished(const std::string& output_dir) {
-  std::error_code ignored;
-  const std::filesystem::path mark = Unfinished_mark_of(output_dir);
-  return std::filesystem::exists(std::filesystem::symlink_status(mark, ignored));
+  struct stat status {};
+  const std::string mark = Unfinished_mark_of(output_dir);
+  return File_system::At_hand().Status(mark.c_str(), status, AT_SYMLINK_NOFOLLOW) == 0 ||
+         !Leads_nowhere(errno);
 }
 
 }  // namespace gns

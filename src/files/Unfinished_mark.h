@@ -40,7 +40,8 @@ class Unfinished_mark {
 /// The path of the mark of a results directory.
 std::string Unfinished_mark_of(const std::string& output_dir);
 
-/// True if the mark stands in the directory: its run is going on, or was stopped, or failed.
+/// True if the mark stands in the directory: its run is going on, or was stopped, or failed. Where
+/// the system fails to tell, nobody knows that the results are whole, and it counts as standing.
 bool Is_marked_unfinished(const std::string& output_dir);
 
 }  // namespace gns

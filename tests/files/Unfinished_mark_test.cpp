@@ -1,9 +1,7 @@
 #include "files/Unfinished_mark.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <atomic>
 #include <barrier>
@@ -18,46 +16,50 @@
 #include "Temp_dir.h"
 #include "Thrown_message.h"
 #include "foundation/io/File_faults.h"
-
-namespace {
-
-bool directories_have_size_48 = false;
-
-std::string sync_calls;  // each with what it finds in the directory
-int sync_error = 0;      // of syncfs
-
-void Note_sync(const std::string& name, int directory) {
-  sync_calls += name;
-  const std::string path = "/proc/self/fd/" + std::to_string(directory) + "/";
-  for (const char* entry : {".unfinished", "graph"})
-    if (std::filesystem::exists(path + entry)) sync_calls += std::string(" ") + entry;
-  sync_calls += "|";
-}
-
-}  // namespace
-
-/// In place of the system's, to tell of directories what some file systems do, whatever they hold.
-extern "C" int stat(const char* path, struct stat* status) noexcept {
-  const int result = fstatat(AT_FDCWD, path, status, 0);
-  if (result == 0 && directories_have_size_48 && S_ISDIR(status->st_mode)) status->st_size = 48;
-  return result;
-}
-
-extern "C" int syncfs(int directory) noexcept {
-  Note_sync("all", directory);
-  errno = sync_error;
-  return sync_error == 0 ? 0 : -1;
-}
-
-extern "C" int fsync(int directory) {
-  Note_sync("directory", directory);
-  return 0;
-}
+#include "foundation/io/File_system.h"
 
 namespace gns {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// Tells of directories what some file systems do, whatever they hold.
+class Directories_of_size_48 final : public File_system {
+  int Status(const char* path, struct stat& status, int flags) override {
+    const int result = File_system::Status(path, status, flags);
+    if (result == 0 && S_ISDIR(status.st_mode)) status.st_size = 48;
+    return result;
+  }
+};
+
+/// Notes each call that brings something to the disk, with what it finds in the directory.
+class Noted_syncs final : public File_system {
+ public:
+  explicit Noted_syncs(int error) : error_(error) {}
+
+  std::string calls;
+
+  int Sync_all(int directory) override {
+    Note("all", directory);
+    errno = error_;
+    return error_ == 0 ? 0 : -1;
+  }
+  int Sync(int directory) override {
+    Note("directory", directory);
+    return 0;
+  }
+
+ private:
+  void Note(const std::string& name, int directory) {
+    calls += name;
+    const std::string path = "/proc/self/fd/" + std::to_string(directory) + "/";
+    for (const char* entry : {".unfinished", "graph"})
+      if (fs::exists(path + entry)) calls += std::string(" ") + entry;
+    calls += "|";
+  }
+
+  int error_;
+};
 
 constexpr const char* in_use = "ERROR: the output directory already exists and it is non-empty.\n";
 
@@ -95,15 +97,16 @@ TEST(UnfinishedMark, IsRefusedToADirectoryInUse) {
   fs::create_symlink("used", temp.Path("link"));
   fs::create_symlink("../file", temp.Path("marked/.unfinished"));
   const Unfinished_mark other(temp.Path("running"));
-  for (const bool size_48 : {false, true}) {
-    directories_have_size_48 = size_48;
+  Directories_of_size_48 of_size_48;
+  for (File_system* const files :
+       {&File_system::At_hand(), static_cast<File_system*>(&of_size_48)}) {
+    const File_system_in_use door(*files);
     const auto before = Contents_of(temp.Path());
     for (const char* name :
          {"used", "link", "running", "marked", "missing/../used", "new/..", "link/../used/"})
       EXPECT_EQ(Thrown_message([&] { Unfinished_mark(temp.Path(name)); }), in_use) << name;
     EXPECT_EQ(Contents_of(temp.Path()), before);
   }
-  directories_have_size_48 = false;
   EXPECT_EQ(Thrown_message([&] { Unfinished_mark(temp.Path("missing/../file")); }),
             "ERROR: the results can't be written to '" + temp.Path("missing/../file") +
                 "': Not a directory.\n");
@@ -147,13 +150,13 @@ TEST(UnfinishedMark, GoesWhenTheResultsAreOnTheDisk) {
                          {"1", EIO, ""}}) {
     const Temp_dir temp;
     ::setenv("VORLANE_NO_SYNC", no_sync, 1);
-    sync_error = error;
-    sync_calls.clear();
+    Noted_syncs files(error);
+    const File_system_in_use door(files);
     Forget_file_faults();
     Unfinished_mark mark(temp.Path("out"));
     temp.Write("out/graph", "");
     mark.Remove();
-    EXPECT_EQ(sync_calls, calls);
+    EXPECT_EQ(files.calls, calls);
     const bool failed = calls == "all .unfinished graph|";
     EXPECT_EQ(Is_marked_unfinished(temp.Path("out")), failed);
     std::string faults;
@@ -161,7 +164,6 @@ TEST(UnfinishedMark, GoesWhenTheResultsAreOnTheDisk) {
     EXPECT_EQ(faults, failed ? "sync: Input/output error" : "");
   }
   ::unsetenv("VORLANE_NO_SYNC");
-  sync_error = 0;
 }
 
 TEST(UnfinishedMark, GoesWithADirectoryThatIsMovedAway) {

@@ -1,4 +1,3 @@
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,20 +10,23 @@
 
 #include "Temp_dir.h"
 #include "Thrown_message.h"
+#include "foundation/io/File_system.h"
 #include "foundation/paths/Dir_error.h"
 #include "foundation/paths/Direktoriz.h"
 #include "foundation/paths/Total_path.h"
-
-/// In place of the system's: a file "goes" is deleted in front of the first look at it.
-extern "C" int stat(const char* path, struct stat* status) noexcept {
-  if (std::string_view(path).ends_with("/goes")) ::unlink(path);
-  return fstatat(AT_FDCWD, path, status, 0);
-}
 
 namespace gns {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// A file "goes" is deleted in front of the first look at it.
+class Deleted_meanwhile final : public File_system {
+  int Status(const char* path, struct stat& status, int flags) override {
+    if (std::string_view(path).ends_with("/goes")) ::unlink(path);
+    return File_system::Status(path, status, flags);
+  }
+};
 
 /// Stands in a directory of its own as long as the test runs.
 class Paths : public ::testing::Test {
@@ -84,6 +86,8 @@ TEST_F(Paths, Lists) {
 
 TEST_F(Paths, ListsNothingThatGoesMeanwhile) {
   for (const char* name : {"goes", "stays"}) temp_.Write(name, "");
+  Deleted_meanwhile files;
+  const File_system_in_use in_use(files);
   EXPECT_EQ(List_dir("."), (std::vector<Dir_entry>{{"stays", "file"}}));
 }
 

@@ -1,24 +1,10 @@
 #pragma once
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <string>
 #include <utility>
 
-namespace gns {
+#include "foundation/io/File_system.h"
 
-/// Opens as the system's openat does, again where a signal comes between, as it can on file systems
-/// of a network. Yields the number of the descriptor, or -1 with the reason in errno.
-inline int Open_file(const std::string& path, int flags, mode_t mode = 0,
-                     int directory = AT_FDCWD) {
-  int file = -1;
-  do {
-    file = ::openat(directory, path.c_str(), flags | O_CLOEXEC, mode);
-  } while (file < 0 && errno == EINTR);
-  return file;
-}
+namespace gns {
 
 /// A file descriptor, closed at the end of its owner's life. A number below 0 stands for a file
 /// that could not be opened.
@@ -31,8 +17,9 @@ class Descriptor {
 
   [[nodiscard]] int Number() const { return number_; }
   [[nodiscard]] bool Is_open() const { return number_ >= 0; }
-  void Close() {
-    if (Is_open()) ::close(std::exchange(number_, -1));
+  /// False, with the reason in errno, if the system tells a failure; closed it is in any case.
+  bool Close() {
+    return !Is_open() || File_system::At_hand().Close(std::exchange(number_, -1)) == 0;
   }
 
  private:

@@ -1,9 +1,6 @@
 #include "foundation/io/Line_reader.h"
 
-#include <fcntl.h>
 #include <poll.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -13,7 +10,7 @@
 #include <utility>
 
 #include "foundation/Errors.h"
-#include "foundation/io/Descriptor.h"
+#include "foundation/io/File_system.h"
 
 namespace gns {
 
@@ -24,30 +21,27 @@ constexpr std::size_t smallest_block = std::size_t{1} << 12U;
 constexpr std::size_t longest_read = std::size_t{1} << 20U;  // inside a long line: between polls
 constexpr int milliseconds_between_polls = 20;
 
-/// Opens for reading; -1 if there is nothing that `source` admits. To open a pipe that nobody
-/// writes to must not block: the wait would meet no poll.
-int Open_for_reading(const std::string& path, Line_reader::Source source, struct stat& status) {
+bool Admits(Line_reader::Source source, const struct stat& status) {
   const bool regular_only = source == Line_reader::Source::regular_file;
-  const int file = Open_file(path, O_RDONLY | O_NONBLOCK);
-  if (file < 0 || ::fstat(file, &status) != 0) return file;
-  if (regular_only ? S_ISREG(status.st_mode) : !S_ISDIR(status.st_mode)) return file;
-  ::close(file);
-  return -1;
+  return regular_only ? S_ISREG(status.st_mode) : !S_ISDIR(status.st_mode);
 }
 
 }  // namespace
 
 Line_reader::Line_reader(std::string path, Source source, Character_set line_ends, Poll poll)
-    : path_(std::move(path)), line_ends_(line_ends), poll_(poll) {
+    : path_(std::move(path)),
+      line_ends_(line_ends),
+      poll_(poll),
+      // To open a pipe that nobody writes to must not block: the wait would meet no poll.
+      file_(Open_file(path_, O_RDONLY | O_NONBLOCK)) {
   struct stat status = {};
-  file_ = Open_for_reading(path_, source, status);
-  if (file_ < 0) throw Xep_file_not_found(path_);
+  if (!file_.Is_open() || File_system::At_hand().Status_of_open(file_.Number(), status) != 0 ||
+      !Admits(source, status))
+    throw Xep_file_not_found(path_);
   file_size_ = static_cast<std::size_t>(std::max<off_t>(status.st_size, 0));
   regular_ = S_ISREG(status.st_mode);
   Resize_buffer(std::clamp(file_size_ + 1, smallest_block, largest_first_block));
 }
-
-Line_reader::~Line_reader() { ::close(file_); }
 
 bool Line_reader::Next(std::string_view& line) {
   std::size_t searched = start_;
@@ -104,7 +98,7 @@ void Line_reader::Make_room() {
 void Line_reader::Wait_for_more() const {
   if (poll_ != nullptr) poll_();
   if (regular_) return;
-  struct pollfd ready = {file_, POLLIN, 0};
+  struct pollfd ready = {file_.Number(), POLLIN, 0};
   while (::poll(&ready, 1, poll_ == nullptr ? -1 : milliseconds_between_polls) <= 0)
     if (poll_ != nullptr) poll_();
 }
@@ -116,7 +110,8 @@ bool Line_reader::Fill() {
   ssize_t got = 0;
   do {
     Wait_for_more();
-    got = ::read(file_, buffer_.get() + end_, std::min(capacity_ - end_, longest_read));
+    got = File_system::At_hand().Read(file_.Number(), buffer_.get() + end_,
+                                      std::min(capacity_ - end_, longest_read));
   } while (got < 0 && (errno == EINTR || errno == EAGAIN));
   if (got < 0)
     throw Xerror_msg("ERROR: reading '" + path_ +

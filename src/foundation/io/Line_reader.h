@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/io/Descriptor.h"
 #include "foundation/text/Character_set.h"
 
 namespace gns {
@@ -25,7 +26,6 @@ class Line_reader {
   /// is opened at once; its first line is what gets waited for.
   explicit Line_reader(std::string path, Source source = Source::any_file,
                        Character_set line_ends = {'\n'}, Poll poll = nullptr);
-  ~Line_reader();
   Line_reader(const Line_reader&) = delete;
   Line_reader& operator=(const Line_reader&) = delete;
 
@@ -67,7 +67,7 @@ class Line_reader {
   std::string path_;
   Character_set line_ends_;
   Poll poll_;
-  int file_;
+  Descriptor file_;
   bool regular_ = false;
   std::size_t file_size_ = 0;
   std::unique_ptr<char[], Free> buffer_;

@@ -1,21 +1,25 @@
 #include "foundation/io/Text_writer.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <charconv>
 #include <utility>
 
-#include "foundation/io/Descriptor.h"
 #include "foundation/io/File_faults.h"
+#include "foundation/io/File_system.h"
 
 namespace gns {
 
-Text_writer::Text_writer(std::string path) : path_(std::move(path)), buffer_(new char[capacity]) {
-  constexpr mode_t mode = 0666;
-  file_ = Open_file(path_, O_WRONLY | O_CREAT | O_TRUNC, mode);
-  if (file_ < 0) Fail("open");
+namespace {
+
+constexpr mode_t new_file_mode = 0666;
+
+}  // namespace
+
+Text_writer::Text_writer(std::string path)
+    : path_(std::move(path)),
+      buffer_(new char[capacity]),
+      file_(Open_file(path_, O_WRONLY | O_CREAT | O_TRUNC, new_file_mode)) {
+  if (!file_.Is_open()) Fail("open");
 }
 
 Text_writer::~Text_writer() { Close(); }
@@ -46,28 +50,20 @@ Text_writer& Text_writer::operator<<(double value) {
 
 bool Text_writer::Close() {
   Flush();
-  if (file_ >= 0 && ::close(std::exchange(file_, -1)) != 0) Fail("close");
+  if (!file_.Close()) Fail("close");
   return whole_;
 }
 
 void Text_writer::Flush() { Write_block(buffer_.get(), std::exchange(used_, 0)); }
 
 void Text_writer::Write_block(const char* data, std::size_t size) {
-  while (size > 0 && file_ >= 0) {
-    const ssize_t written = ::write(file_, data, size);
-    if (written >= 0) {
-      data += written;
-      size -= static_cast<std::size_t>(written);
-    } else if (errno != EINTR) {
-      Fail("write");
-    }
-  }
+  if (file_.Is_open() && !Write_all(file_.Number(), data, size)) Fail("write");
 }
 
 void Text_writer::Fail(const char* action) {
   Note_file_fault(path_, action, errno);
   whole_ = false;
-  if (file_ >= 0) ::close(std::exchange(file_, -1));
+  file_.Close();
 }
 
 }  // namespace gns

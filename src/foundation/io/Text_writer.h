@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/io/Descriptor.h"
+
 namespace gns {
 
 /// Writes one text file in big blocks. The only door through which files are written.
@@ -56,7 +58,7 @@ class Text_writer {
   std::string path_;
   std::unique_ptr<char[]> buffer_;
   std::size_t used_ = 0;
-  int file_ = -1;  ///< -1: not open, or failed
+  Descriptor file_;  ///< not open if something failed
   bool whole_ = true;
 };
 

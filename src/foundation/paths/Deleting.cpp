@@ -1,12 +1,10 @@
 #include "foundation/paths/Deleting.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <vector>
 
 #include "foundation/Errors.h"
+#include "foundation/io/File_system.h"
 #include "foundation/paths/Dir_error.h"
 #include "foundation/paths/Direktoriz.h"
 #include "foundation/paths/Path_flags.h"
@@ -19,7 +17,8 @@ namespace {
 
 bool Is_link(const std::string& path) {
   struct stat status {};
-  return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+  return File_system::At_hand().Status(path.c_str(), status, AT_SYMLINK_NOFOLLOW) == 0 &&
+         S_ISLNK(status.st_mode);
 }
 
 /// With a slash behind it, a link would count as the directory that it points to.
@@ -40,13 +39,13 @@ void Delete_or_rename(const std::string& operation, const std::string& path,
 }  // namespace
 
 void Unlink_file(const std::string& path) {
-  if (unlink(path.c_str()) == 0) return;
+  if (File_system::At_hand().Remove(AT_FDCWD, path.c_str(), 0) == 0) return;
   const int error = errno;
   throw Xerror_msg("ERROR: Unlink_file() called on '" + path + "'and \n" + Dir_error(error));
 }
 
 void Remove_dir(const std::string& path) {
-  if (rmdir(path.c_str()) == 0) return;
+  if (File_system::At_hand().Remove(AT_FDCWD, path.c_str(), AT_REMOVEDIR) == 0) return;
   const int error = errno;
   throw Xerror_msg("ERROR: Remove_dir() called on '" + path + "' and\n" + Dir_error(error));
 }

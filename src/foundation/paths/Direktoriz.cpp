@@ -1,17 +1,14 @@
 #include "foundation/paths/Direktoriz.h"
 
-#include <dirent.h>
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
+#include <cstring>
 #include <optional>
 
 #include "foundation/Errors.h"
+#include "foundation/io/File_system.h"
 #include "foundation/paths/Dir_error.h"
+#include "foundation/paths/Dir_listing.h"
 
 namespace gns {
 
@@ -29,35 +26,33 @@ bool Is_there_such(const std::string& wanted_type, const std::string& path, bool
   return false;
 }
 
-/// Everything in a directory, sorted; "." and ".." too.
+/// The names of everything in a directory, sorted.
 std::vector<std::string> Scan_dir(const std::string& path) {
-  dirent** entries = nullptr;
-  const int count = scandir(path.c_str(), &entries, nullptr, alphasort);
-  if (count < 0) {
-    const int error = errno;
-    throw Xerror_msg("ERROR: List_dir() -> scandir() called on " + path + " and\n" +
-                     Dir_error(error));
-  }
-  const auto give_back = [count](dirent** all) {
-    for (int i = 0; i < count; ++i) std::free(all[i]);
-    std::free(all);
-  };
-  const std::unique_ptr<dirent*, decltype(give_back)> held(entries, give_back);
+  Dir_listing listing(path);
   std::vector<std::string> names;
-  names.reserve(static_cast<std::size_t>(count));
-  for (int i = 0; i < count; ++i) names.emplace_back(entries[i]->d_name);
+  while (const char* const name = listing.Next()) names.emplace_back(name);
+  if (listing.Error() != 0)
+    throw Xerror_msg("ERROR: List_dir() -> scandir() called on " + path + " and\n" +
+                     Dir_error(listing.Error()));
+  std::ranges::sort(names, [](const std::string& a, const std::string& b) {
+    return std::strcoll(a.c_str(), b.c_str()) < 0;
+  });
   return names;
 }
 
-/// `stat`, which looks at what a symbolic link points to, or `lstat`, which looks at the link.
-using Status_call = int (*)(const char*, struct stat*);
+/// At what a symbolic link points to, or at the link.
+enum class Look { behind_links = 0, at_links = AT_SYMLINK_NOFOLLOW };
 
-bool Examine(Status_call get_status, const std::string& path, std::string& type, bool& empty,
+int Get_status(const std::string& path, struct stat& status, Look look) {
+  return File_system::At_hand().Status(path.c_str(), status, static_cast<int>(look));
+}
+
+bool Examine(Look look, const std::string& path, std::string& type, bool& empty,
              std::string& error_text) {
   empty = true;
   type = "other";
   struct stat status {};
-  if (get_status(path.c_str(), &status) != 0) {
+  if (Get_status(path, status, look) != 0) {
     error_text = Dir_error(errno);
     return false;
   }
@@ -73,29 +68,28 @@ bool Examine(Status_call get_status, const std::string& path, std::string& type,
 
 /// The type of something that was just found in the directory `path`; none if it has gone since.
 std::optional<std::string> Type_of_entry(const std::string& path, const std::string& name,
-                                         Status_call get_status) {
+                                         Look look) {
   const std::string entry = path + "/" + name;
   std::string type;
   bool empty = true;
   std::string error_text;
-  if (Examine(get_status, entry, type, empty, error_text)) return type;
+  if (Examine(look, entry, type, empty, error_text)) return type;
   struct stat link {};
-  if (lstat(entry.c_str(), &link) != 0 && errno == ENOENT) return std::nullopt;
+  if (Get_status(entry, link, Look::at_links) != 0 && errno == ENOENT) return std::nullopt;
   throw Xerror_msg("ERROR: problem with " + name + " in List_dir():\n" + error_text);
 }
 
 /// True if something has the name, be it a symbolic link that points nowhere.
 bool Is_taken(const std::string& path) {
   struct stat status {};
-  return lstat(path.c_str(), &status) == 0;
+  return Get_status(path, status, Look::at_links) == 0;
 }
 
-/// What stands in a directory, sorted by name; `get_status` tells the types.
-std::vector<Dir_entry> Entries(const std::string& path, Status_call get_status) {
+/// What stands in a directory, sorted by name, with the types of links or of what they point to.
+std::vector<Dir_entry> Entries(const std::string& path, Look look) {
   std::vector<Dir_entry> entries;
   for (const std::string& name : Scan_dir(path)) {
-    if (name == "." || name == "..") continue;
-    if (const auto type = Type_of_entry(path, name, get_status)) entries.emplace_back(name, *type);
+    if (const auto type = Type_of_entry(path, name, look)) entries.emplace_back(name, *type);
   }
   return entries;
 }
@@ -114,7 +108,7 @@ bool Check_listed_dir(const std::string& path) {
 
 bool Is_there_such_path(const std::string& path, std::string& type, bool& empty,
                         std::string& error_text) {
-  return Examine(stat, path, type, empty, error_text);
+  return Examine(Look::behind_links, path, type, empty, error_text);
 }
 
 bool Is_there_such_path(const std::string& path, std::string& error_text) {
@@ -156,7 +150,7 @@ bool Is_there_such_file(const std::string& path) {
 
 std::vector<Dir_entry> List_dir(const std::string& path) {
   if (Check_listed_dir(path)) return {};
-  return Entries(path, stat);
+  return Entries(path, Look::behind_links);
 }
 
 std::vector<Dir_entry> List_dir_rec(const std::string& path) {
@@ -164,13 +158,13 @@ std::vector<Dir_entry> List_dir_rec(const std::string& path) {
   const std::string top = path + "/";
   // Found in the opposite order, each directory in front of its contents, and turned at the end.
   std::vector<Dir_entry> tree;
-  std::vector<Dir_entry> waiting = Entries(path, lstat);
+  std::vector<Dir_entry> waiting = Entries(path, Look::at_links);
   while (!waiting.empty()) {
     tree.push_back(std::move(waiting.back()));
     waiting.pop_back();
     if (tree.back().second != "dir") continue;
     const std::string dir = tree.back().first + "/";
-    std::vector<Dir_entry> inside = Entries(top + tree.back().first, lstat);
+    std::vector<Dir_entry> inside = Entries(top + tree.back().first, Look::at_links);
     std::ranges::reverse(inside);
     for (const auto& [name, type] : inside) waiting.emplace_back(dir + name, type);
   }
@@ -179,7 +173,7 @@ std::vector<Dir_entry> List_dir_rec(const std::string& path) {
 }
 
 void Rename_the_path(const std::string& old_path, const std::string& new_path) {
-  if (std::rename(old_path.c_str(), new_path.c_str()) == 0) return;
+  if (File_system::At_hand().Rename(old_path.c_str(), new_path.c_str()) == 0) return;
   const int error = errno;
   throw Xerror_msg("ERROR: Rename_the_path() called with " + old_path + " and " + new_path +
                    " and \n" + Dir_error(error));
@@ -199,7 +193,7 @@ void Make_dir(const std::string& path) {
     std::string partial = path.substr(0, piece_end);
     if (partial.size() > 1 && partial.ends_with('/')) partial.pop_back();
     if (Is_there_such_path(partial)) continue;
-    if (mkdir(partial.c_str(), new_dir_mode) == 0) continue;
+    if (File_system::At_hand().Make_dir(partial.c_str(), new_dir_mode) == 0) continue;
     const int error = errno;
     // Somebody else may have made it in between.
     if (error == EEXIST && Is_there_such_dir(partial)) continue;

@@ -1,20 +1,21 @@
 #include "foundation/paths/Total_path.h"
 
-#include <unistd.h>
-
 #include <cerrno>
+#include <cstdlib>
 #include <filesystem>
-#include <system_error>
+#include <memory>
 #include <utility>
 
 #include "foundation/Errors.h"
+#include "foundation/io/File_system.h"
 #include "foundation/paths/Dir_error.h"
+#include "foundation/paths/Direktoriz.h"
 
 namespace gns {
 
 std::string Get_current_path(unsigned buffer_size) {
   std::string buffer(buffer_size, '\0');
-  if (getcwd(buffer.data(), buffer.size()) == nullptr) {
+  if (File_system::At_hand().Working_dir(buffer.data(), buffer.size()) == nullptr) {
     const int error = errno;
     throw Xerror_msg("ERROR: Get_current_path() called with " + std::to_string(buffer_size) +
                      " and \n" + Dir_error(error));
@@ -51,9 +52,20 @@ std::string Get_total_path(const std::string& path) {
 }
 
 std::string Resolved_path(const std::string& path) {
-  std::error_code error;
-  const std::filesystem::path resolved = std::filesystem::weakly_canonical(path, error);
-  return error || path.empty() ? path : resolved.string();
+  const std::filesystem::path whole = path;  // only as a text: it isn't asked about the disk
+  std::filesystem::path there;
+  auto part = whole.begin();
+  while (part != whole.end() && Is_there_such_path((there / *part).string())) there /= *part++;
+  std::filesystem::path resolved;
+  if (!there.empty()) {
+    const auto give_back = [](char* text) { std::free(text); };
+    const std::unique_ptr<char, decltype(give_back)> real(
+        File_system::At_hand().Real_path(there.c_str()), give_back);
+    if (real == nullptr) return path;
+    resolved = real.get();
+  }
+  while (part != whole.end()) resolved /= *part++;
+  return resolved.lexically_normal().string();
 }
 
 std::list<std::string> Get_path_list(const std::string& path) {
