@@ -1,10 +1,10 @@
 #include "communities/Community_statistics.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "control/Run_control.h"
 #include "foundation/Errors.h"
+#include "graph/Row_index.h"
 
 namespace gns {
 
@@ -15,32 +15,11 @@ std::size_t Node_limit(const Row_array<Node_index>& coms) {
   return members.empty() ? 0 : std::size_t{*std::ranges::max_element(members)} + 1;
 }
 
-/// For each node the communities that hold it, ascending.
-class Memberships {
- public:
-  explicit Memberships(const Row_array<Node_index>& coms) : starts_(Node_limit(coms) + 1, 0) {
-    for (const Node_index node : coms.Values()) ++starts_[node + 1];
-    std::partial_sum(starts_.begin(), starts_.end(), starts_.begin());
-    communities_.resize(coms.Values().size());
-    std::vector<std::size_t> place(starts_.begin(), starts_.end() - 1);
-    for (std::uint32_t com = 0; com < coms.size(); ++com)
-      for (const Node_index node : coms[com]) communities_[place[node]++] = com;
-  }
-
-  [[nodiscard]] std::span<const std::uint32_t> operator[](Node_index node) const {
-    return {communities_.data() + starts_[node], starts_[node + 1] - starts_[node]};
-  }
-
- private:
-  std::vector<std::size_t> starts_;
-  std::vector<std::uint32_t> communities_;
-};
-
 }  // namespace
 
 void Prepare_community_graph(Com_graph& com_graph, const Row_array<Node_index>& coms) {
   com_graph.clear();
-  const Memberships memberships(coms);
+  const Row_index memberships = Holders_of_nodes(coms);
   std::vector<std::uint32_t> shared(coms.size(), 0);
   std::vector<std::uint32_t> met;
   for (std::uint32_t com = 0; com < coms.size(); ++com) {

@@ -11,8 +11,10 @@ namespace {
 
 void Load(const std::string& results_dir, std::uint32_t load_mode, const Table_pointers& tables,
           std::string& errors) {
-  const char* specifier = load_mode == 1 ? "directed" : load_mode == 2 ? "intensity" : "";
-  Read_coms(results_dir, specifier, tables, errors);
+  constexpr std::uint32_t of_directed_run = 1;
+  constexpr std::uint32_t of_intensity_run = 2;
+  Read_coms(results_dir, Method_of(load_mode == of_directed_run, load_mode == of_intensity_run),
+            tables, errors);
 }
 
 }  // namespace

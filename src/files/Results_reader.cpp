@@ -41,21 +41,21 @@ void Guarded_at(std::uint32_t k, By_k<Table>& tables, Read read, const std::stri
   tables.insert_or_assign(k, std::move(table));
 }
 
-void Read_at(std::uint32_t k, const std::string& dir, const std::string& specifier,
-             const Table_pointers& t, std::string& errors) {
+void Read_at(std::uint32_t k, const std::string& dir, Method method, const Table_pointers& t,
+             std::string& errors) {
+  const std::string flag = Flag_of(method);
   const auto in_dir = [&](const char* base_name) {
-    return results_names::In_dir_of_k(dir, specifier, base_name);
+    return results_names::In_dir_of_k(dir, flag, base_name);
   };
   const auto by_index = [](auto& table, const std::string& name) { Read_by_index(table, name); };
   const auto by_lines = [](auto& table, const std::string& name) { Read_by_lines(table, name); };
   Guarded_at(k, *t.communities, by_index, in_dir("communities"), errors);
   Guarded_at(k, *t.com_links, Read_com_links, in_dir("communities_links"), errors);
-  if (specifier == "intensity")
+  if (method == Method::intensity)
     Guarded_at(k, *t.k_cliques, by_index, results_names::K_cliques(dir), errors);
   else
     Guarded_at(k, *t.com_cliques, by_index, in_dir("communities_cliques"), errors);
-  Guarded_at(k, *t.com_graphs, by_lines, results_names::Graph_of_communities(dir, specifier),
-             errors);
+  Guarded_at(k, *t.com_graphs, by_lines, results_names::Graph_of_communities(dir, flag), errors);
   Read_VL_dists(in_dir("size_distribution"), k, *t.size_dist_exact, *t.size_dist_appr,
                 *t.size_dist_merged, errors);
   Read_VL_dists(in_dir("degree_distribution"), k, *t.degree_dist_exact, *t.degree_dist_appr,
@@ -88,18 +88,21 @@ void Take_link(std::string_view line, Name_pairs& links) {
 
 void Read_coms(const std::string& results_dir, const std::string& specifier,
                const Table_pointers& tables, std::string& errors) {
-  if (!specifier.empty() && specifier != "directed" && specifier != "intensity") {
-    errors = "ERROR: unknown specifier '" + specifier + "' received.\n";
-    return;
-  }
+  for (const Method method : {Method::undirected, Method::directed, Method::intensity})
+    if (specifier == Flag_of(method)) return Read_coms(results_dir, method, tables, errors);
+  errors = "ERROR: unknown specifier '" + specifier + "' received.\n";
+}
+
+void Read_coms(const std::string& results_dir, Method method, const Table_pointers& tables,
+               std::string& errors) {
   Guarded([&](const std::string& name) { Read_by_lines(*tables.graph_links, name); },
-          results_names::Graph(results_dir, specifier == "directed"), errors);
+          results_names::Graph(results_dir, method == Method::directed), errors);
   Guarded([&](const std::string& name) { Read_by_index(*tables.cliques, name); },
-          results_names::Cliques(results_dir, specifier), errors);
+          results_names::Cliques(results_dir, Flag_of(method)), errors);
   for (const Dir_entry& entry : List_dir(results_dir)) {
     const auto k = results_names::K_of_dir(entry.first);
     if (k && entry.second == "dir")
-      Read_at(*k, results_dir + "/" + entry.first, specifier, tables, errors);
+      Read_at(*k, results_dir + "/" + entry.first, method, tables, errors);
   }
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "results/Com_result_tables.h"
+#include "results/Method.h"
 
 namespace gns {
 
@@ -17,6 +18,8 @@ namespace gns {
 /// be listed.
 void Read_coms(const std::string& results_dir, const std::string& specifier,
                const Table_pointers& tables, std::string& errors);
+void Read_coms(const std::string& results_dir, Method method, const Table_pointers& tables,
+               std::string& errors);
 inline void Read_coms(const std::string& results_dir, const std::string& specifier,
                       Com_result_tables& tables, std::string& errors) {
   Read_coms(results_dir, specifier, Pointers_to(tables), errors);

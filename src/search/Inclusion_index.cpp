@@ -1,27 +1,12 @@
 #include "search/Inclusion_index.h"
 
-#include <algorithm>
-#include <numeric>
-
 namespace gns {
 
-Inclusion_index::Inclusion_index(const Sets& sets) : sets_(sets) {
-  const Node_span members = sets.Values();
-  const Node_index greatest = members.empty() ? 0 : *std::ranges::max_element(members);
-  starts_.assign(std::size_t{greatest} + 2, 0);
-  for (const Node_index node : members) ++starts_[std::size_t{node} + 1];
-  std::partial_sum(starts_.begin(), starts_.end(), starts_.begin());
-  listed_.resize(members.size());
-  bits_.resize(members.size());
-  std::vector<std::size_t> place(starts_.begin(), starts_.end() - 1);
-  for (std::size_t set = 0; set < sets.size(); ++set) {
-    const std::uint64_t bits = Fold(sets[set]);
-    for (const Node_index node : sets[set]) {
-      const std::size_t at = place[node]++;
-      listed_[at] = static_cast<std::uint32_t>(set);
-      bits_[at] = bits;
-    }
-  }
+Inclusion_index::Inclusion_index(const Sets& sets) : sets_(sets), holders_(Holders_of_nodes(sets)) {
+  std::vector<std::uint64_t> bits_of_set(sets.size());
+  for (std::size_t set = 0; set < sets.size(); ++set) bits_of_set[set] = Fold(sets[set]);
+  bits_.reserve(holders_.size());
+  for (const std::uint32_t set : holders_.Members()) bits_.push_back(bits_of_set[set]);
 }
 
 std::uint64_t Inclusion_index::Fold(Node_span members) {
@@ -32,18 +17,13 @@ std::uint64_t Inclusion_index::Fold(Node_span members) {
   return bits;
 }
 
-Inclusion_index::List Inclusion_index::List_of(Node_index node) const {
-  if (std::size_t{node} + 1 >= starts_.size()) return {0, 0};
-  return {starts_[node], starts_[std::size_t{node} + 1]};
-}
-
-Inclusion_index::List Inclusion_index::Shortest_list(Node_span members) const {
-  List shortest = List_of(members.front());
+Node_index Inclusion_index::Rarest_of(Node_span members) const {
+  Node_index rarest = 0;
   for (const Node_index node : members) {
-    const List list = List_of(node);
-    if (list.last - list.first < shortest.last - shortest.first) shortest = list;
+    if (node > holders_.Node_count()) return 0;
+    if (rarest == 0 || holders_[node].size() < holders_[rarest].size()) rarest = node;
   }
-  return shortest;
+  return rarest;
 }
 
 }  // namespace gns

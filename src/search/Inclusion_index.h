@@ -6,6 +6,7 @@
 
 #include "graph/Node_set.h"
 #include "graph/Row_array.h"
+#include "graph/Row_index.h"
 
 namespace gns {
 
@@ -25,11 +26,12 @@ class Inclusion_index {
   template <typename Counts>
   [[nodiscard]] bool Covers(Node_span members, Counts counts) const {
     if (members.empty()) return Any_set(counts);
-    const List list = Shortest_list(members);
+    const Node_index rarest = Rarest_of(members);
+    if (rarest == 0) return false;
     const std::uint64_t bits = Fold(members);
-    for (std::size_t at = list.first; at < list.last; ++at)
-      if ((bits & ~bits_[at]) == 0 && counts(listed_[at]) &&
-          Lies_inside(members, sets_[listed_[at]]))
+    std::size_t at = holders_.Start(rarest);
+    for (const std::uint32_t set : holders_[rarest])
+      if ((bits & ~bits_[at++]) == 0 && counts(set) && Lies_inside(members, sets_[set]))
         return true;
     return false;
   }
@@ -38,11 +40,6 @@ class Inclusion_index {
   }
 
  private:
-  struct List {
-    std::size_t first;
-    std::size_t last;
-  };
-
   template <typename Counts>
   [[nodiscard]] bool Any_set(Counts counts) const {
     for (std::uint32_t set = 0; set < sets_.size(); ++set)
@@ -50,13 +47,12 @@ class Inclusion_index {
     return false;
   }
   static std::uint64_t Fold(Node_span members);
-  [[nodiscard]] List List_of(Node_index node) const;
-  [[nodiscard]] List Shortest_list(Node_span members) const;
+  /// The member that the fewest sets hold; 0 if no set holds one of them.
+  [[nodiscard]] Node_index Rarest_of(Node_span members) const;
 
   const Sets& sets_;
-  std::vector<std::size_t> starts_;    ///< per node: its first entry
-  std::vector<std::uint32_t> listed_;  ///< indices of sets, ascending at each node
-  std::vector<std::uint64_t> bits_;    ///< parallel: the members folded
+  Row_index holders_;                ///< per node: the sets that hold it
+  std::vector<std::uint64_t> bits_;  ///< parallel to all rows: the members folded
 };
 
 }  // namespace gns

@@ -2,10 +2,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
+#include <optional>
 #include <utility>
 #include <vector>
 
+#include "graph/Row_index.h"
 #include "search/Clique_vector.h"
 
 namespace gns {
@@ -29,12 +30,8 @@ class Overlap_matrix {
   [[nodiscard]] std::vector<Entry> Row(Clique_index i);
 
  private:
-  void Make_index();
-  [[nodiscard]] std::span<const Clique_index> Cliques_of(Node_index node) const;
-
   const Clique_vector* cliques_ = nullptr;
-  std::vector<std::size_t> starts_;  ///< per node: its first clique; empty: no index yet
-  std::vector<Clique_index> cliques_of_nodes_;
+  std::optional<Row_index> cliques_of_;  ///< made for the first row
 };
 
 }  // namespace gns
