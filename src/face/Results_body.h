@@ -34,6 +34,11 @@ inline gns::Method Method_of(Method method) {
   return gns::Method_of(method == Method::directed, method == Method::intensity);
 }
 
+inline Method Method_of(gns::Method method) {
+  if (method == gns::Method::intensity) return Method::intensity;
+  return method == gns::Method::directed ? Method::directed : Method::undirected;
+}
+
 inline Method Method_of(const Network& network, const Options& options) {
   if (options.intensity) return Method::intensity;
   return network.How_taken().directed ? Method::directed : Method::undirected;

@@ -15,6 +15,7 @@
 #include "face/Level_of_face.h"
 #include "face/Results_body.h"
 #include "face/Views.h"
+#include "files/Results_kind.h"
 #include "files/Results_names.h"
 #include "files/Row_file.h"
 #include "files/Unfinished_mark.h"
@@ -30,52 +31,22 @@ namespace {
 
 [[noreturn]] void Refuse(const std::string& why) { throw Error(Error_kind::input, why); }
 
-/// What input_params.txt tells about the run.
-struct Told_parameters {
-  bool directed = false;
-  bool intensity = false;
-};
-
-Told_parameters Read_parameters(const std::string& directory) {
-  const std::string path = gns::results_names::Params(directory);
-  if (!gns::Is_there_such_file(path))
-    Refuse("'" + directory + "' is no results directory: there is no input_params.txt inside.");
-  Told_parameters told;
-  gns::Line_reader reader(path, gns::Line_reader::Source::regular_file);
-  for (std::string_view line; reader.Next(line);) {
-    if (line == "# Links were treated as directed.") told.directed = true;
-    if (line.starts_with("# A lower link weight intensity threshold")) told.intensity = true;
-  }
-  return told;
-}
-
-/// True if the lines of the graph file have weights.
-bool Has_weights(const std::string& graph_file) {
-  gns::Line_reader reader(graph_file, gns::Line_reader::Source::regular_file);
-  for (std::string_view line; reader.Next(line);) {
-    if (line.empty() || line.front() == '#') continue;
-    for (int name = 0; name < 2; ++name) gns::Extract_word(line);
-    return !gns::Extract_word(line).empty();
-  }
-  return false;
-}
-
 /// The results of a directory, each part read when it is first asked for.
 class In_directory : public Results::Body {
  public:
   explicit In_directory(std::string directory) : directory_(std::move(directory)) {
-    const Told_parameters told = Read_parameters(directory_);
-    method = told.intensity  ? Method::intensity
-             : told.directed ? Method::directed
-                             : Method::undirected;
-    flag_ = gns::Flag_of(Method_of(method));
+    const auto kind = gns::Kind_of_results(directory_);
+    if (!kind)
+      Refuse("'" + directory_ + "' is no results directory: there is no input_params.txt inside.");
+    method = Method_of(kind->method);
+    flag_ = gns::Flag_of(kind->method);
     finished = !gns::Is_marked_unfinished(directory_);
     Find_ks();
     Refuse_missing_files();
     Link_options options;
-    options.directed = told.directed;
-    const std::string graph = gns::results_names::Graph(directory_, told.directed);
-    options.weighted = Has_weights(graph);
+    options.directed = method == Method::directed;
+    options.weighted = kind->weighted;
+    const std::string graph = gns::results_names::Graph(directory_, options.directed);
     network = vorlane::Network::Read(graph, options);
   }
 
