@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "vorlane/analysis.h"
@@ -12,14 +13,20 @@ namespace vorlane {
 
 enum class Method { undirected, directed, intensity };
 
+/// A community at a k.
+struct Place {
+  std::uint32_t k;
+  std::size_t community;
+  bool operator==(const Place&) const = default;
+};
+
 /// All that was found in a network, whether it was found just now or stands in a directory. Never
 /// changes, is cheap to copy and may be read from any thread.
 class VORLANE_API Results {
  public:
-  /// Opens a results directory, of the program or of a Results_writer. Reads the links and what
-  /// there is; cliques and levels are read when they are asked for. Throws an Error of kind `input`
-  /// if it is no such directory, or if a file that is needed is missing or damaged: its text names
-  /// them all.
+  /// Opens a results directory, of the program or of a Results_writer. Each part is read when it is
+  /// asked for. Throws an Error of kind `input` if it is no such directory, or if files are
+  /// missing: its text names them all. What is damaged is told by the operation that reads it.
   static Results Open(const std::string& directory);
 
   [[nodiscard]] vorlane::Method Method() const;
@@ -30,16 +37,25 @@ class VORLANE_API Results {
   /// The k of the levels, descending.
   [[nodiscard]] const std::vector<std::uint32_t>& Ks() const;
 
-  /// Throws an Error of kind `input` as Open().
+  /// Throws an Error of kind `input` as Open(); so do the others.
   [[nodiscard]] const vorlane::Cliques& Cliques() const;
-  /// The level at k, one of Ks(); throws an Error of kind `parameters` for another k, and as
-  /// Open(). With the links of the communities where they stand in a directory or were asked for.
+  /// The level at k, one of Ks(); throws an Error of kind `parameters` for another k. With the
+  /// links of the communities where they stand in a directory or were asked for.
   [[nodiscard]] const Level& At(std::uint32_t k) const;
+
+  /// Parts of a level that can be had for less than all of it, and are not kept: its statistics,
+  /// and Level::cliques.
+  [[nodiscard]] Statistics Statistics_at(std::uint32_t k) const;
+  [[nodiscard]] Rows Cliques_at(std::uint32_t k) const;
+  /// The communities that hold the node of this name, k descending.
+  [[nodiscard]] std::vector<Place> Places_of(std::string_view name) const;
 
   struct Body;  ///< for the library itself
   explicit Results(std::shared_ptr<const Body> body);
 
  private:
+  [[nodiscard]] const Body& Body_with(std::uint32_t k) const;
+
   std::shared_ptr<const Body> body_;
 };
 

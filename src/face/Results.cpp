@@ -12,10 +12,25 @@ namespace {
 /// All that an analysis found.
 struct Found : Results::Body {
   [[nodiscard]] const vorlane::Cliques& Cliques() const override { return cliques; }
+  [[nodiscard]] const vorlane::Network& Network() const override { return network; }
   [[nodiscard]] const Level& At(std::uint32_t k) const override {
     return levels[static_cast<std::size_t>(std::ranges::find(ks, k) - ks.begin())];
   }
+  [[nodiscard]] vorlane::Statistics Statistics_at(std::uint32_t k) const override {
+    return At(k).statistics;
+  }
+  [[nodiscard]] Rows Cliques_at(std::uint32_t k) const override { return At(k).cliques; }
 
+  [[nodiscard]] std::vector<Place> Places_of(std::string_view name) const override {
+    std::vector<Place> places;
+    const std::optional<Node> node = network.Find(name);
+    for (const Level& level : levels)
+      for (std::size_t i = 0; node && i < level.members.size(); ++i)
+        if (std::ranges::binary_search(level.members[i], *node)) places.push_back({level.k, i});
+    return places;
+  }
+
+  vorlane::Network network;
   vorlane::Cliques cliques;
   std::vector<Level> levels;
 };
@@ -27,13 +42,20 @@ Results::Results(std::shared_ptr<const Body> body) : body_(std::move(body)) {}
 Results Results::Open(const std::string& directory) { return face::Results_in(directory); }
 
 Method Results::Method() const { return body_->method; }
-const Network& Results::Network() const { return body_->network; }
+const Network& Results::Network() const { return body_->Network(); }
 bool Results::Is_finished() const { return body_->finished; }
 const std::vector<std::uint32_t>& Results::Ks() const { return body_->ks; }
 const Cliques& Results::Cliques() const { return body_->Cliques(); }
 
-const Level& Results::At(std::uint32_t k) const {
-  if (std::ranges::find(body_->ks, k) != body_->ks.end()) return body_->At(k);
+const Level& Results::At(std::uint32_t k) const { return Body_with(k).At(k); }
+Statistics Results::Statistics_at(std::uint32_t k) const { return Body_with(k).Statistics_at(k); }
+Rows Results::Cliques_at(std::uint32_t k) const { return Body_with(k).Cliques_at(k); }
+std::vector<Place> Results::Places_of(std::string_view name) const {
+  return body_->Places_of(name);
+}
+
+const Results::Body& Results::Body_with(std::uint32_t k) const {
+  if (std::ranges::find(body_->ks, k) != body_->ks.end()) return *body_;
   std::string there = body_->ks.empty() ? "there is no level" : "the levels are those of k =";
   for (const std::uint32_t other : body_->ks) there += ' ' + std::to_string(other);
   throw Error(Error_kind::parameters,

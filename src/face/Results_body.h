@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "results/Method.h"
@@ -15,12 +16,15 @@ struct Results::Body {
   Body& operator=(const Body&) = delete;
   virtual ~Body() = default;
 
+  [[nodiscard]] virtual const vorlane::Network& Network() const = 0;
   [[nodiscard]] virtual const vorlane::Cliques& Cliques() const = 0;
-  /// Of one of the ks.
+  /// These three of one of the ks.
   [[nodiscard]] virtual const Level& At(std::uint32_t k) const = 0;
+  [[nodiscard]] virtual vorlane::Statistics Statistics_at(std::uint32_t k) const = 0;
+  [[nodiscard]] virtual Rows Cliques_at(std::uint32_t k) const = 0;
+  [[nodiscard]] virtual std::vector<Place> Places_of(std::string_view name) const = 0;
 
   vorlane::Method method = Method::undirected;
-  vorlane::Network network;
   bool finished = true;
   std::vector<std::uint32_t> ks;  ///< descending
 };

@@ -63,6 +63,19 @@ void Expect_equal_levels(const Level& a, const Level& b, bool single_k = false) 
   EXPECT_EQ(a.statistics.all.degree, b.statistics.all.degree);
 }
 
+/// Whether the parts that are read by themselves are those of the levels.
+void Expect_equal_parts(const Results& opened, const Results& found) {
+  for (const std::uint32_t k : found.Ks()) {
+    EXPECT_EQ(opened.Statistics_at(k).all.size, found.At(k).statistics.all.size);
+    EXPECT_EQ(opened.Cliques_at(k).size(), found.At(k).cliques.size());
+  }
+  for (Node node = 1; node <= found.Network().size(); ++node) {
+    const std::string_view name = found.Network().Name(node);
+    EXPECT_EQ(opened.Places_of(name), found.Places_of(name));
+  }
+  EXPECT_TRUE(opened.Places_of("nobody").empty());
+}
+
 class EachKindOfRun : public ::testing::TestWithParam<gns::Sample_run> {};
 
 TEST_P(EachKindOfRun, IsTheSameInMemoryAndInFiles) {
@@ -92,6 +105,7 @@ TEST_P(EachKindOfRun, IsTheSameInMemoryAndInFiles) {
   ASSERT_FALSE(found.Ks().empty());
   for (const std::uint32_t k : found.Ks())
     Expect_equal_levels(opened.At(k), found.At(k), p.use_single_k);
+  Expect_equal_parts(opened, found);
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, EachKindOfRun, ::testing::ValuesIn(gns::Sample_runs()));
