@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,11 +45,17 @@ class VORLANE_API Results {
   [[nodiscard]] const Level& At(std::uint32_t k) const;
 
   /// Parts of a level that can be had for less than all of it, and are not kept: its statistics,
-  /// and Level::cliques.
+  /// the number of nodes of each community, Level::cliques and Level::overlaps.
   [[nodiscard]] Statistics Statistics_at(std::uint32_t k) const;
+  [[nodiscard]] Array<std::uint32_t> Sizes_at(std::uint32_t k) const;
   [[nodiscard]] Rows Cliques_at(std::uint32_t k) const;
-  /// The communities that hold the node of this name, k descending.
-  [[nodiscard]] std::vector<Place> Places_of(std::string_view name) const;
+  [[nodiscard]] Array<Overlap> Overlaps_at(std::uint32_t k) const;
+  /// The names of the nodes in a community; throws an Error of kind `parameters` if there is none
+  /// of this number.
+  [[nodiscard]] std::vector<std::string> Names_in(Place place) const;
+  /// The communities that hold the node of this name, k descending; nothing if the network has no
+  /// such node.
+  [[nodiscard]] std::optional<std::vector<Place>> Places_of(std::string_view name) const;
 
   struct Body;  ///< for the library itself
   explicit Results(std::shared_ptr<const Body> body);

@@ -10,8 +10,10 @@
 
 #include "cli/Program_run.h"
 #include "cli/Side_words.h"
+#include "cli/commands/Commands.h"
 #include "cli/options/Help_text.h"
 #include "cli/options/Usage.h"
+#include "cli/options/Word_table.h"
 #include "cli/terminal/Stop_signals.h"
 #include "cli/terminal/Terminal_escape.h"
 #include "foundation/Errors.h"
@@ -21,6 +23,12 @@ namespace {
 using gns::Exit_code;
 
 Exit_code Answer(int argc, const char* const* argv) {
+  if (const gns::Word* const word = argc > 1 ? gns::Word_of(argv[1]) : nullptr) {
+    if (word->word != "run") return gns::Do_word(*word, {argv + 2, argv + argc});
+    std::vector<const char*> rest(argv, argv + argc);
+    rest.erase(rest.begin() + 1);
+    return Answer(argc - 1, rest.data());
+  }
   std::vector<const char*> words(argv, argv + std::min(argc, 1));
   gns::Progress_option progress;
   for (int i = 1; i < argc; ++i) {

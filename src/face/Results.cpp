@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "face/Results_body.h"
+#include "face/Views.h"
 
 namespace vorlane {
 
@@ -19,13 +20,32 @@ struct Found : Results::Body {
   [[nodiscard]] vorlane::Statistics Statistics_at(std::uint32_t k) const override {
     return At(k).statistics;
   }
+  [[nodiscard]] Array<std::uint32_t> Sizes_at(std::uint32_t k) const override {
+    std::vector<std::uint32_t> sizes;
+    for (const auto members : At(k).members)
+      sizes.push_back(static_cast<std::uint32_t>(members.size()));
+    return face::Held(std::move(sizes));
+  }
   [[nodiscard]] Rows Cliques_at(std::uint32_t k) const override { return At(k).cliques; }
 
-  [[nodiscard]] std::vector<Place> Places_of(std::string_view name) const override {
-    std::vector<Place> places;
+  [[nodiscard]] Array<Overlap> Overlaps_at(std::uint32_t k) const override {
+    return At(k).overlaps;
+  }
+
+  [[nodiscard]] std::optional<std::vector<std::string>> Names_in(Place place) const override {
+    const Rows& members = At(place.k).members;
+    if (place.community >= members.size()) return std::nullopt;
+    std::vector<std::string> names;
+    for (const Node node : members[place.community]) names.emplace_back(network.Name(node));
+    return names;
+  }
+
+  [[nodiscard]] std::optional<std::vector<Place>> Places_of(std::string_view name) const override {
     const std::optional<Node> node = network.Find(name);
+    if (!node) return std::nullopt;
+    std::vector<Place> places;
     for (const Level& level : levels)
-      for (std::size_t i = 0; node && i < level.members.size(); ++i)
+      for (std::size_t i = 0; i < level.members.size(); ++i)
         if (std::ranges::binary_search(level.members[i], *node)) places.push_back({level.k, i});
     return places;
   }
@@ -49,8 +69,20 @@ const Cliques& Results::Cliques() const { return body_->Cliques(); }
 
 const Level& Results::At(std::uint32_t k) const { return Body_with(k).At(k); }
 Statistics Results::Statistics_at(std::uint32_t k) const { return Body_with(k).Statistics_at(k); }
+Array<std::uint32_t> Results::Sizes_at(std::uint32_t k) const { return Body_with(k).Sizes_at(k); }
 Rows Results::Cliques_at(std::uint32_t k) const { return Body_with(k).Cliques_at(k); }
-std::vector<Place> Results::Places_of(std::string_view name) const {
+Array<Overlap> Results::Overlaps_at(std::uint32_t k) const { return Body_with(k).Overlaps_at(k); }
+
+std::vector<std::string> Results::Names_in(Place place) const {
+  auto names = Body_with(place.k).Names_in(place);
+  if (names) return *std::move(names);
+  throw Error(Error_kind::parameters, "There is no community " + std::to_string(place.community) +
+                                          " at k = " + std::to_string(place.k) + ": " +
+                                          std::to_string(Sizes_at(place.k).size()) +
+                                          " are counted from 0.");
+}
+
+std::optional<std::vector<Place>> Results::Places_of(std::string_view name) const {
   return body_->Places_of(name);
 }
 

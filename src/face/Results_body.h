@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,11 +19,16 @@ struct Results::Body {
 
   [[nodiscard]] virtual const vorlane::Network& Network() const = 0;
   [[nodiscard]] virtual const vorlane::Cliques& Cliques() const = 0;
-  /// These three of one of the ks.
+  /// These six of one of the ks.
   [[nodiscard]] virtual const Level& At(std::uint32_t k) const = 0;
   [[nodiscard]] virtual vorlane::Statistics Statistics_at(std::uint32_t k) const = 0;
+  [[nodiscard]] virtual Array<std::uint32_t> Sizes_at(std::uint32_t k) const = 0;
   [[nodiscard]] virtual Rows Cliques_at(std::uint32_t k) const = 0;
-  [[nodiscard]] virtual std::vector<Place> Places_of(std::string_view name) const = 0;
+  [[nodiscard]] virtual Array<Overlap> Overlaps_at(std::uint32_t k) const = 0;
+  /// Nothing if there is no such community.
+  [[nodiscard]] virtual std::optional<std::vector<std::string>> Names_in(Place place) const = 0;
+  [[nodiscard]] virtual std::optional<std::vector<Place>> Places_of(
+      std::string_view name) const = 0;
 
   vorlane::Method method = Method::undirected;
   bool finished = true;

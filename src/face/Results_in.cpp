@@ -90,17 +90,30 @@ class In_directory : public Results::Body {
     return Reading([&] { return Statistics_of(Reader(k).Read_statistics()); });
   }
 
+  [[nodiscard]] Array<std::uint32_t> Sizes_at(std::uint32_t k) const override {
+    return Reading([&] { return Held(Reader(k).Read_sizes()); });
+  }
+
   [[nodiscard]] Rows Cliques_at(std::uint32_t k) const override {
     if (method == Method::intensity) return {};
     return Reading([&] { return Held(Reader(k).Read_com_cliques()); });
   }
 
-  [[nodiscard]] std::vector<Place> Places_of(std::string_view name) const override {
-    return Reading([&] {
+  [[nodiscard]] Array<Overlap> Overlaps_at(std::uint32_t k) const override {
+    return Reading([&] { return Held(Reader(k).Read_overlaps()); });
+  }
+
+  [[nodiscard]] std::optional<std::vector<std::string>> Names_in(Place place) const override {
+    return Reading([&] { return Reader(place.k).Names_in(place.community); });
+  }
+
+  [[nodiscard]] std::optional<std::vector<Place>> Places_of(std::string_view name) const override {
+    return Reading([&]() -> std::optional<std::vector<Place>> {
       std::vector<Place> places;
       for (const std::uint32_t k : ks)
         for (const std::uint32_t community : Reader(k).Communities_with(name))
           places.push_back({k, community});
+      if (places.empty() && !gns::Has_line_with(Graph_file(), name)) return std::nullopt;
       return places;
     });
   }

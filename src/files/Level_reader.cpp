@@ -1,6 +1,7 @@
 #include "files/Level_reader.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 #include "files/Read_data.h"
@@ -30,12 +31,32 @@ bool Holds_word(std::string_view line, std::string_view word) {
   for (std::size_t at = line.find(word); at != std::string_view::npos;
        at = line.find(word, at + 1)) {
     const std::size_t end = at + word.size();
-    if (line[at - 1] == ' ' && (end == line.size() || line[end] == ' ')) return true;
+    if ((at == 0 || line[at - 1] == ' ') && (end == line.size() || line[end] == ' ')) return true;
   }
   return false;
 }
 
+/// Calls use(row, what stands behind the colon) for each row, without a look at it.
+template <typename Use>
+void For_each_row(const std::string& file_name, Use use) {
+  std::size_t row = 0;
+  Line_reader reader(file_name, Line_reader::Source::regular_file);
+  for (std::string_view line; reader.Next(line);) {
+    if (line.empty() || line.front() == '#') continue;
+    const std::size_t colon = line.find(':');
+    if (colon != std::string_view::npos) use(row, line.substr(colon + 1));
+    ++row;
+  }
+}
+
 }  // namespace
+
+bool Has_line_with(const std::string& file_name, std::string_view name) {
+  Line_reader reader(file_name, Line_reader::Source::regular_file);
+  for (std::string_view line; reader.Next(line);)
+    if (!line.starts_with('#') && Holds_word(line, name)) return true;
+  return false;
+}
 
 Read_rows Read_rows_of_names(const std::string& file_name, const Node_of_name& node_of) {
   return Rows_of(file_name, [&](std::string_view name, Row_array<Node_index>& rows) {
@@ -88,6 +109,15 @@ Read_rows Level_reader::Read_communities(const Node_of_name& node_of) const {
   return Read_rows_of_names(Path("communities"), node_of);
 }
 
+std::vector<std::uint32_t> Level_reader::Read_sizes() const {
+  std::vector<std::uint32_t> sizes;
+  std::uint32_t size = 0;
+  Read_row_file(
+      Path("communities"), [&](std::string_view) { return ++size > 0; },
+      [&] { sizes.push_back(std::exchange(size, 0)); });
+  return sizes;
+}
+
 Row_array<Clique_index> Level_reader::Read_com_cliques() const {
   return Rows_of(Path("communities_cliques"),
                  [](std::string_view word, Row_array<Clique_index>& rows) {
@@ -128,17 +158,36 @@ Row_array<Index_pair> Level_reader::Read_com_links(const Node_of_name& node_of) 
   return rows;
 }
 
+Com_graph Level_reader::Read_overlaps() const {
+  Overlap_table table;
+  Read_data(table, results_names::Graph_of_communities(directory_, Flag_of(method_)));
+  const auto unsigned_index = [](std::int32_t index) {
+    return static_cast<std::uint32_t>(std::abs(index));
+  };
+  Com_graph overlaps;
+  for (const auto& [pair, shared] : table)
+    overlaps.push_back({unsigned_index(pair.first), unsigned_index(pair.second), shared});
+  std::ranges::sort(overlaps, {},
+                    [](const Com_overlap& o) { return std::pair(o.first, o.second); });
+  return overlaps;
+}
+
+std::optional<std::vector<std::string>> Level_reader::Names_in(std::size_t community) const {
+  std::optional<std::vector<std::string>> names;
+  For_each_row(Path("communities"), [&](std::size_t row, std::string_view members) {
+    if (row != community) return;
+    names.emplace();
+    for (auto name = Extract_word(members); !name.empty(); name = Extract_word(members))
+      names->emplace_back(name);
+  });
+  return names;
+}
+
 std::vector<std::uint32_t> Level_reader::Communities_with(std::string_view name) const {
   std::vector<std::uint32_t> communities;
-  std::uint32_t community = 0;
-  Line_reader reader(Path("communities"), Line_reader::Source::regular_file);
-  for (std::string_view line; reader.Next(line);) {
-    if (line.empty() || line.front() == '#') continue;
-    const std::size_t colon = line.find(':');
-    if (colon != std::string_view::npos && Holds_word(line.substr(colon), name))
-      communities.push_back(community);
-    ++community;
-  }
+  For_each_row(Path("communities"), [&](std::size_t row, std::string_view members) {
+    if (Holds_word(members, name)) communities.push_back(static_cast<std::uint32_t>(row));
+  });
   return communities;
 }
 

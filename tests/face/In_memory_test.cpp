@@ -68,12 +68,19 @@ void Expect_equal_parts(const Results& opened, const Results& found) {
   for (const std::uint32_t k : found.Ks()) {
     EXPECT_EQ(opened.Statistics_at(k).all.size, found.At(k).statistics.all.size);
     EXPECT_EQ(opened.Cliques_at(k).size(), found.At(k).cliques.size());
+    EXPECT_TRUE(std::ranges::equal(opened.Sizes_at(k), found.Sizes_at(k)));
+    EXPECT_TRUE(std::ranges::equal(opened.Overlaps_at(k), found.Overlaps_at(k)));
+    const std::size_t count = found.At(k).members.size();
+    for (std::size_t community = 0; community < count; ++community)
+      EXPECT_EQ(opened.Names_in({k, community}), found.Names_in({k, community}));
+    EXPECT_THROW(static_cast<void>(opened.Names_in({k, count})), Error);
   }
   for (Node node = 1; node <= found.Network().size(); ++node) {
     const std::string_view name = found.Network().Name(node);
     EXPECT_EQ(opened.Places_of(name), found.Places_of(name));
   }
-  EXPECT_TRUE(opened.Places_of("nobody").empty());
+  EXPECT_EQ(opened.Places_of("nobody"), std::nullopt);
+  EXPECT_EQ(found.Places_of("nobody"), std::nullopt);
 }
 
 class EachKindOfRun : public ::testing::TestWithParam<gns::Sample_run> {};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <ostream>
+
+#include "cli/options/Word_line.h"
+
+namespace gns {
+
+/// The answers to questions about results directories, each on `out`. They throw vorlane::Error,
+/// and Xerror_msg for arguments that can't be meant.
+
+void Answer_summary(const Word_line& line, std::ostream& out);
+void Answer_which_k(const Word_line& line, std::ostream& out);
+void Answer_query(const Word_line& line, std::ostream& out);
+void Answer_tree(const Word_line& line, std::ostream& out);
+
+}  // namespace gns

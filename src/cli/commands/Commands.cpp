@@ -1,0 +1,58 @@
+#include "cli/commands/Commands.h"
+
+#include <array>
+#include <iostream>
+
+#include "cli/Side_words.h"
+#include "cli/commands/Answers.h"
+#include "cli/options/Help_text.h"
+#include "cli/options/Word_line.h"
+#include "foundation/Errors.h"
+#include "vorlane/error.h"
+
+namespace gns {
+
+namespace {
+
+void Answer_help(const Word_line& line, std::ostream& out) {
+  if (line.arguments.empty()) {
+    out << Help_text("vorlane");
+    return;
+  }
+  const Word* const word = Word_of(line.arguments.front());
+  if (word == nullptr)
+    throw Xerror_msg("There is no word '" + line.arguments.front() + "'; see: vorlane help\n");
+  out << Help_on(*word);
+}
+
+using Answer = void (*)(const Word_line& line, std::ostream& out);
+
+Answer Answer_of(const Word& word) {
+  constexpr std::array<std::pair<std::string_view, Answer>, 5> answers = {
+      {{"summary", Answer_summary},
+       {"which-k", Answer_which_k},
+       {"query", Answer_query},
+       {"tree", Answer_tree},
+       {"help", Answer_help}}};
+  for (const auto& [name, answer] : answers)
+    if (name == word.word) return answer;
+  throw Xerror_msg("'" + std::string(word.word) + "' has no answer.\n");
+}
+
+}  // namespace
+
+Exit_code Do_word(const Word& word, const std::vector<std::string>& words) {
+  try {
+    Answer_of(word)(Read_word_line(word, words), std::cout);
+    return Exit_code::finished;
+  } catch (const vorlane::Error& failure) {
+    Tell(failure.what());
+    return failure.Kind() == vorlane::Error_kind::parameters ? Exit_code::wrong_usage
+                                                             : Exit_code::run_failed;
+  } catch (const Xerror_msg& failure) {
+    Tell(failure.what());
+    return Exit_code::wrong_usage;
+  }
+}
+
+}  // namespace gns

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "cli/terminal/Text_table.h"
+#include "foundation/text/Json_text.h"
+#include "queries/Summary.h"
+
+namespace gns {
+
+/// The figures of each k, in the forms in which they are shown.
+
+/// "undirected, 27 nodes" and the like.
+std::string Kind_in_words(const vorlane::queries::Summary& summary);
+
+Text_table Table_of(const vorlane::queries::Summary& summary);
+/// The same with one row for neighbouring k that have the same figures.
+Text_table Folded_table_of(const vorlane::queries::Summary& summary);
+
+/// {"method","finished","nodes","levels":[{"k","communities", ...}]}; docs/json.md.
+std::string In_json(const vorlane::queries::Summary& summary);
+
+std::string Name_of(vorlane::Method method);
+
+}  // namespace gns

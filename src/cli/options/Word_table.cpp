@@ -1,0 +1,118 @@
+#include "cli/options/Word_table.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace gns {
+
+namespace {
+
+constexpr std::size_t any = std::numeric_limits<std::size_t>::max();
+
+constexpr Option json{
+    .word = "--json",
+    .argument = "",
+    .group = Option::Group::display,
+    .summary = "one object of JSON on a line",
+    .without = "",
+    .description = "Prints one object of JSON, on one line.",
+};
+constexpr Option csv{
+    .word = "--csv",
+    .argument = "",
+    .group = Option::Group::display,
+    .summary = "the table with commas",
+    .without = "",
+    .description = "Prints the table with commas between its fields.",
+};
+constexpr std::array json_only{json};
+constexpr std::array json_and_csv{json, csv};
+constexpr std::array query_options{
+    json,
+    Option{
+        .word = "--community",
+        .argument = "K:I",
+        .kind = Option::Argument::words,
+        .group = Option::Group::display,
+        .summary = "the community I at k = K: its nodes, and the communities that it overlaps with",
+        .without = "",
+        .description = "Tells of community I at k = K: its nodes, and the communities with which "
+                       "it shares some.",
+    },
+    Option{
+        .word = "--overlap",
+        .argument = "K:I:J",
+        .kind = Option::Argument::words,
+        .group = Option::Group::display,
+        .summary = "the nodes that the communities I and J at k = K share",
+        .without = "",
+        .description = "Tells which nodes the communities I and J at k = K share.",
+    },
+};
+
+constexpr std::array words{
+    Word{
+        .word = "run",
+        .arguments = "-i FILE [OPTION]...",
+        .summary = "finds communities, as without a word",
+        .description = "Finds communities, as the program does without a word.",
+        .most_arguments = any,
+    },
+    Word{
+        .word = "summary",
+        .arguments = "DIR",
+        .summary = "the figures of each k of a results directory",
+        .description = "Shows for each k of the results in DIR how many communities there are, how "
+                       "large the two largest are, and how many nodes they cover and share.",
+        .options = json_and_csv,
+    },
+    Word{
+        .word = "which-k",
+        .arguments = "DIR...",
+        .summary = "which k to look at first, and why",
+        .description =
+            "Recommends one k, with the reason in a sentence: the one that covers most before a "
+            "giant community swallows the others. Of several directories, results at different "
+            "thresholds for example, also which one. It sees sizes only; what the communities mean "
+            "is for people to say.",
+        .most_arguments = any,
+        .options = json_only,
+    },
+    Word{
+        .word = "query",
+        .arguments = "DIR [NODE]...",
+        .summary = "the communities of nodes, or what is in a community",
+        .description = "Tells in which communities each NODE is, at every k; with an option, what "
+                       "is in a community.",
+        .most_arguments = any,
+        .options = query_options,
+    },
+    Word{
+        .word = "tree",
+        .arguments = "DIR",
+        .summary = "which community lies in which, over all k",
+        .description =
+            "Shows for each community at a k the communities at the next greater k inside it, "
+            "indented below it: its k and number, and how many nodes it has.",
+        .options = json_only,
+    },
+    Word{
+        .word = "help",
+        .arguments = "[WORD]",
+        .summary = "explains a word, or lists them",
+        .description = "Explains a word and its options; without one, as `--help`.",
+        .least_arguments = 0,
+    },
+};
+
+}  // namespace
+
+std::span<const Word> All_words() { return words; }
+
+const Word* Word_of(std::string_view name) {
+  const auto* const found = std::ranges::find(words, name, &Word::word);
+  return found == words.end() ? nullptr : found;
+}
+
+}  // namespace gns

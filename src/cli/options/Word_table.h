@@ -1,0 +1,28 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "cli/options/Option_table.h"
+
+namespace gns {
+
+/// A word that may stand behind the program's name and tells it to do something other than a run.
+/// Texts as in the table of options.
+struct Word {
+  std::string_view word;
+  std::string_view arguments;    ///< what follows, in a usage: "DIR NODE..."
+  std::string_view summary;      ///< no sentence, a line
+  std::string_view description;  ///< sentences
+  std::size_t least_arguments = 1;
+  std::size_t most_arguments = 1;
+  std::span<const Option> options = {};
+};
+
+/// The one list of all words.
+std::span<const Word> All_words();
+
+/// The word of this name; null if there is none.
+const Word* Word_of(std::string_view name);
+
+}  // namespace gns

@@ -1,0 +1,117 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "Child.h"
+
+namespace gns {
+namespace {
+
+/// Words that ask for what stands in a results directory: of two triangles that share node c, the
+/// second of which is one of four nodes, at k = 4.
+class ProgramWords : public ::testing::Test {
+ protected:
+  ProgramWords() {
+    temp_.Write("net", "a b 1\nb c 2\nc a 3\nc d 1\nc e 1\nc f 1\nd e 1\nd f 1\ne f 1\ng a 1\n");
+    EXPECT_EQ(Run({"run", "-i", "net", "-o", "out"}), 0) << err_;
+  }
+
+  int Run(const Words& words) {
+    Child child(temp_, words);
+    const int code = child.Wait();
+    out_ = child.Out();
+    err_ = child.Err();
+    return code;
+  }
+
+  Temp_dir temp_;
+  std::string out_;
+  std::string err_;
+};
+
+TEST_F(ProgramWords, AnswerForPeopleAndPrograms) {
+  const struct {
+    Words words;
+    const char* answer;
+  } cases[] = {
+      {{"summary", "out"},
+       "undirected, 7 nodes\n\n"
+       "  k  communities  largest  second  covered  covered share  overlapping  overlaps\n"
+       "  4            1        4       0        4           57 %            0         0\n"
+       "  3            2        4       3        6           86 %            1         1\n"},
+      {{"summary", "--csv", "out"},
+       "k,communities,largest,second,covered,covered share,overlapping,overlaps\n"
+       "4,1,4,0,4,57 %,0,0\n3,2,4,3,6,86 %,1,1\n"},
+      {{"summary", "out", "--json"},
+       R"({"method":"undirected","finished":true,"nodes":7,"levels":[)"
+       R"({"k":4,"communities":1,"approximate":0,"largest":4,"second_largest":0,"covered":4,)"
+       R"("overlapping":0,"overlaps":0},)"
+       R"({"k":3,"communities":2,"approximate":0,"largest":4,"second_largest":3,"covered":6,)"
+       R"("overlapping":1,"overlaps":1}]})"
+       "\n"},
+      {{"which-k", "out", "--json"},
+       R"({"k":3,"directory":"out","reason":"It covers 86 % of the nodes, the most before a giant )"
+       R"(community swallows the others: its largest community has 1.3 times the nodes of the )"
+       R"(second."})"
+       "\n"},
+      {{"query", "out", "c", "g"}, "c\n  k=4: 0\n  k=3: 0 1\ng: in no community\n"},
+      {{"query", "--json", "out", "a"},
+       R"({"node":"a","communities":[{"k":3,"community":0}]})"
+       "\n"},
+      {{"query", "out", "--community", "3:0"}, "a\nb\nc\n\nshares 1 with community 1\n"},
+      {{"query", "out", "--community=3:0", "--json"},
+       R"({"k":3,"community":0,"nodes":["a","b","c"],"overlaps":[{"community":1,"shared":1}]})"
+       "\n"},
+      {{"query", "out", "--overlap", "3:0:1"}, "c\n"},
+      {{"tree", "out"}, "k=3 0: 3 nodes\nk=3 1: 4 nodes\n  k=4 0: 4 nodes\n"},
+      {{"tree", "out", "--json"},
+       R"([{"k":3,"community":0,"nodes":3,"parent":null},{"k":3,"community":1,"nodes":4,)"
+       R"("parent":null},{"k":4,"community":0,"nodes":4,"parent":1}])"
+       "\n"},
+  };
+  for (const auto& [words, answer] : cases) {
+    EXPECT_EQ(Run(words), 0) << words[0] << err_;
+    EXPECT_EQ(out_, answer);
+    EXPECT_EQ(err_, "");
+  }
+}
+
+TEST_F(ProgramWords, WhatIsWrongIsToldWithTheCure) {
+  const struct {
+    Words words;
+    int code;
+    const char* told;
+  } cases[] = {
+      {{"summary"}, 2, "usage: vorlane summary [--json] [--csv] DIR"},
+      {{"summary", "out", "more"}, 2, "'more' is more than 'summary' takes"},
+      {{"summary", "--jason", "out"}, 2, "no option '--jason' of 'summary'"},
+      {{"summary", "--json=1", "out"}, 2, "takes no argument"},
+      {{"summary", "nowhere"}, 1, "'nowhere' is no results directory"},
+      {{"query", "out"}, 2, "Ask for a node"},
+      {{"query", "out", "nobody"}, 2, "no node 'nobody'"},
+      {{"query", "out", "--community"}, 2, "needs K:I"},
+      {{"query", "out", "--community", "3"}, 2, "not of the form K:I, such as 4:0"},
+      {{"query", "out", "--community", "3:2"}, 2, "no community 2 at k = 3: 2 are counted from 0"},
+      {{"query", "out", "--community", "9:0"}, 2, "no level at k = 9; the levels are those of k ="},
+      {{"query", "out", "--overlap", "3:0:1:2"}, 2, "not of the form K:I:J"},
+      {{"help", "me"}, 2, "There is no word 'me'"},
+  };
+  for (const auto& [words, code, told] : cases) {
+    EXPECT_EQ(Run(words), code) << words[0];
+    EXPECT_NE(err_.find(told), std::string::npos) << err_;
+    EXPECT_EQ(out_, "");
+  }
+}
+
+/// Names may be anything that has no blanks.
+TEST_F(ProgramWords, JsonHoldsAnyName) {
+  temp_.Write("odd", "\"q\" \\b\\ \n\\b\\ \xff\x01 \n\xff\x01 \"q\" \n");
+  EXPECT_EQ(Run({"-i", "odd", "-o", "odd_out"}), 0) << err_;
+  EXPECT_EQ(Run({"query", "--json", "--community", "3:0", "odd_out"}), 0) << err_;
+  EXPECT_NE(out_.find("\"nodes\":[\"\\\"q\\\"\",\"\\\\b\\\\\",\"\xEF\xBF\xBD\\u0001\"]"),
+            std::string::npos)
+      << out_;
+}
+
+}  // namespace
+}  // namespace gns
