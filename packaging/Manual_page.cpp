@@ -6,6 +6,7 @@
 #include "cli/options/Marked_text.h"
 #include "cli/options/Option_table.h"
 #include "cli/options/Program_facts.h"
+#include "cli/options/Word_table.h"
 #include "vorlane/version.h"
 
 namespace gns {
@@ -152,6 +153,24 @@ std::string All_option_entries() {
   return text;
 }
 
+std::string All_word_entries() {
+  std::string text =
+      Section("WORDS") + Paragraph(
+                             "A first word in place of options asks for something else than a "
+                             "run.");
+  for (const Word& word : All_words()) {
+    text += Entry(Bold(word.word) + " \\fI" + Roff(word.arguments) + "\\fR", word.description);
+    for (const Option& option : word.options)
+      text += ".RS\n" +
+              Entry(Bold(option.word) + (option.argument.empty()
+                                             ? ""
+                                             : " \\fI" + std::string(option.argument) + "\\fR"),
+                    option.description) +
+              ".RE\n";
+  }
+  return text;
+}
+
 std::string Environment_to_files() {
   std::string text = Section("ENVIRONMENT");
   for (const Variable& variable : Variables())
@@ -176,8 +195,8 @@ std::string Examples_to_end() {
 }  // namespace
 
 std::string Manual_page() {
-  return Head() + Name_to_description() + All_option_entries() + Environment_to_files() +
-         Examples_to_end();
+  return Head() + Name_to_description() + All_option_entries() + All_word_entries() +
+         Environment_to_files() + Examples_to_end();
 }
 
 }  // namespace gns

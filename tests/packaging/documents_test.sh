@@ -36,7 +36,8 @@ check_manual() {
   fi
   ((readers)) || exit 77
   expect "options of the manual" "$(lines "${options[@]}")" \
-    "$(sed -n '/^\.TP$/{n; s/\\fR.*//; s/\\fB\|\\//g; s/ $\|\[=$//; /^-/p}' "$dir/vorlane.1")"
+    "$(sed -n '/^\.TP$/{n; s/\\fR.*//; s/\\fB\|\\//g; s/ $\|\[=$//; /^-/p}
+      /^\.SH WORDS/q' "$dir/vorlane.1")"
 }
 
 # completed WORD...: what bash offers in place of the last word.

@@ -6,6 +6,7 @@
 #include "cli/options/Marked_text.h"
 #include "cli/options/Option_table.h"
 #include "cli/options/Program_facts.h"
+#include "cli/options/Word_table.h"
 
 namespace gns {
 
@@ -37,6 +38,16 @@ void Put_options(const Option_group& group, std::ostream& out) {
   }
 }
 
+void Put_words(const std::string& prog_name, std::ostream& out) {
+  constexpr std::size_t column = 28;
+  out << "\nWords in place of options; " << prog_name << " help WORD tells more:\n";
+  for (const Word& word : All_words()) {
+    std::string term(word.word);
+    term.append(" ").append(word.arguments);
+    Put_entry(term, column, word.summary, out);
+  }
+}
+
 void Put_exit_codes(std::ostream& out) {
   constexpr std::size_t column = 7;
   out << "\nExit codes:\n";
@@ -65,6 +76,7 @@ std::string Help_text(const std::string& prog_name) {
   out << "Usage: " << prog_name << " " << Without_marks(Synopsis()) << "\n\n"
       << Wrapped(Purpose(), width) << "\n\nIn brackets: what holds without the option.\n";
   for (const Option_group& group : Option_groups()) Put_options(group, out);
+  Put_words(prog_name, out);
   Put_exit_codes(out);
   Put_variables(out);
   Put_examples(prog_name, out);
