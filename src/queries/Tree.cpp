@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <ranges>
 
 namespace vorlane::queries {
 
@@ -53,13 +54,13 @@ std::vector<Tree_node> Tree_of(const Results& results) {
   Rows lower;
   bool has_lower = false;
   const std::vector<std::uint32_t>& ks = results.Ks();
-  for (auto k = ks.rbegin(); k != ks.rend(); ++k) {
-    const Rows rows = by_cliques ? results.Cliques_at(*k) : results.At(*k).members;
+  for (const std::uint32_t k : std::views::reverse(ks)) {
+    const Rows rows = by_cliques ? results.Cliques_at(k) : results.At(k).members;
     std::vector<std::size_t> parents(rows.size(), none);
     if (has_lower)
       parents = by_cliques ? Parents_by_clique(rows, lower) : Parents_by_nodes(rows, lower);
     for (std::size_t i = 0; i < rows.size(); ++i)
-      tree.push_back({{*k, i}, parents[i] == none ? std::nullopt : std::optional(parents[i])});
+      tree.push_back({{k, i}, parents[i] == none ? std::nullopt : std::optional(parents[i])});
     lower = rows;
     has_lower = true;
   }

@@ -1,8 +1,9 @@
 #include "queries/Which_k.h"
 
 #include <cmath>
-#include <cstdio>
+#include <iomanip>
 #include <limits>
+#include <sstream>
 
 namespace vorlane::queries {
 
@@ -28,9 +29,9 @@ struct Candidate {
 };
 
 std::string Rounded(double value) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%.2g", value);
-  return text;
+  std::ostringstream text;
+  text << std::setprecision(2) << value;
+  return text.str();
 }
 
 std::string Percent(double share) { return std::to_string(std::lround(100 * share)) + " %"; }

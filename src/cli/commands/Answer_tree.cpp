@@ -1,4 +1,5 @@
 #include <map>
+#include <ranges>
 #include <string>
 #include <utility>
 #include <vector>
@@ -34,15 +35,15 @@ class Shown_tree {
   /// A line for each, indented by depth. Without recursion, since levels may be many.
   void Print(std::ostream& out) const {
     std::vector<std::pair<std::size_t, std::size_t>> to_show;  // node, depth
-    for (auto root = roots_.rbegin(); root != roots_.rend(); ++root) to_show.emplace_back(*root, 0);
+    for (const std::size_t root : std::views::reverse(roots_)) to_show.emplace_back(root, 0);
     while (!to_show.empty()) {
       const auto [node, depth] = to_show.back();
       to_show.pop_back();
       const auto& place = nodes_[node].place;
       out << std::string(2 * depth, ' ') << "k=" << place.k << " " << place.community << ": "
           << Size(node) << " nodes\n";
-      for (auto child = children_[node].rbegin(); child != children_[node].rend(); ++child)
-        to_show.emplace_back(*child, depth + 1);
+      for (const std::size_t child : std::views::reverse(children_[node]))
+        to_show.emplace_back(child, depth + 1);
     }
   }
 
