@@ -99,6 +99,7 @@ class Run {
   void Write_graph(const Link_map& links) const {
     mark_->Check();
     results_->Write_graph(links, Needs_weights(parameters_));
+    if (wishes_.keeper != nullptr) wishes_.keeper->Keep_links(links);
     Report_state("_______________\n Links read OK.\n");
     Check_for_stop_signal();
   }
@@ -137,13 +138,15 @@ class Run {
   }
 
   void Write_cliques() const {
-    // With tables the poll comes behind the report.
-    const bool with_tables = wishes_.tables.cliques != nullptr;
-    if (!with_tables) Check_for_stop_signal();
+    // For a caller who wants results in memory the poll comes behind the report.
+    const bool for_memory = wishes_.tables.cliques != nullptr || wishes_.keeper != nullptr;
+    if (!for_memory) Check_for_stop_signal();
     Report_state("___________________________\n Writing cliques to disk...\n");
-    if (with_tables) Check_for_stop_signal();
+    if (for_memory) Check_for_stop_signal();
     mark_->Check();
     results_->Write_cliques(cliques_, exact_count_, graph_.names);
+    if (wishes_.keeper != nullptr)
+      wishes_.keeper->Keep_cliques(cliques_, exact_count_, graph_.names);
     Report_state(" done.\n");
     Check_for_stop_signal();
   }
@@ -163,7 +166,8 @@ class Run {
     Work_of_levels work(summary_.cliques_of_size, from, to);
     const auto find_and_write = [&](std::uint32_t k) {
       mark_->Check();
-      summary_.extractions.push_back(Find_and_write_level(k, levels, *results_, graph_.names));
+      summary_.extractions.push_back(
+          Find_and_write_level(k, levels, *results_, graph_.names, wishes_.keeper));
     };
     if (single) return find_and_write(from);
     for (std::uint32_t k = from; k >= to; --k) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/Results_bound.h"
+#include "engine/Run_keeper.h"
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
 #include "graph/Link_map.h"
@@ -31,6 +32,7 @@ struct Run_wishes {
   bool read_first = false;
   Clock clock = Processor_seconds;   ///< what a time limit is measured by
   Table_pointers tables = {};        ///< those that are wanted are filled beside the files
+  Run_keeper* keeper = nullptr;      ///< takes the same as the tables, by number
   Run_listener* listener = nullptr;  ///< without one, no bound is formed
 };
 

@@ -39,7 +39,7 @@ K_summary Summary_of(const Level& level, std::uint32_t node_count) {
 }  // namespace
 
 K_summary Find_and_write_level(std::uint32_t k, Levels& levels, const Results_writer& results,
-                               const Node_names& names) {
+                               const Node_names& names, Run_keeper* keeper) {
   Level level;
   level.k = k;
   std::optional<Level_writer> files;  // made late: a stop until then leaves no directory
@@ -64,6 +64,7 @@ K_summary Find_and_write_level(std::uint32_t k, Levels& levels, const Results_wr
   levels.Count(level);
   Report_state(" done.\n");
   files->Write_statistics(level.statistics);
+  if (keeper != nullptr) keeper->Keep_level(level, levels.Input().index_links);
   return Summary_of(level, levels.Input().node_count);
 }
 
