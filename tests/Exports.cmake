@@ -6,7 +6,7 @@ string(REGEX MATCHALL "[^\n]+" exports "${exports}")
 list(TRANSFORM exports REPLACE "^Java_zumo_community_ExternalCalls_" "")
 list(SORT exports)
 set(entries Find_1coms Read_1error_1message Read_1state_1report Reset_1stop_1process
-            Stop_1at_1once Stop_1process findAndLoadComs loadComs)
+            Stop_1at_1once Stop_1process failureKind findAndLoadComs loadComs)
 if(NOT exports STREQUAL entries)
   message(FATAL_ERROR "exported: ${exports}")
 endif()

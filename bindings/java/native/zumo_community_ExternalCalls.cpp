@@ -2,23 +2,27 @@
 
 #include <atomic>
 #include <cstdint>
-#include <exception>
+#include <functional>
 #include <iostream>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "bindings/java/native/Failure_kind.h"
 #include "bindings/java/native/Java_class.h"
-#include "bindings/java/native/Java_errors.h"
 #include "bindings/java/native/Java_strings.h"
+#include "bindings/java/native/Kept_results.h"
+#include "bindings/java/native/Native_method.h"
 #include "bindings/java/native/Translate_result.h"
 #include "control/Clique_find_ext_cont.h"
 #include "control/Sole_call.h"
-#include "engine/Find_coms.h"
-#include "engine/Load_coms.h"
+#include "engine/Run_message.h"
+#include "engine/Run_stages.h"
+#include "files/Results_reader.h"
 #include "foundation/Errors.h"
 #include "foundation/io/File_faults.h"
+#include "results/Method.h"
 
 namespace gns {
 
@@ -43,28 +47,15 @@ struct Run_arguments {
   jdouble time_limit;
 };
 
-/// Calls the body of a native method. No C++ exception crosses into the JVM: it becomes a
-/// java/lang/Exception, unless a Java error is pending already, and the method yields nothing.
-template <typename Body>
-auto Native_method(JNIEnv* env, Body body) noexcept -> decltype(body()) {
-  try {
-    return body();
-  } catch (const Java_error_pending&) {
-  } catch (const std::exception& failure) {
-    Throw_exception(env, failure.what());
-  } catch (...) {
-    Throw_exception(env, "ERROR: a failure of unknown kind.\n");
-  }
-  return decltype(body())();
-}
-
 std::atomic<bool> going_on = false;
 
 /// The same for the methods of which only one at a time may go on in a process.
 template <typename Body>
 jobject Sole_native_method(JNIEnv* env, Body body) noexcept {
   return Native_method(env, [&] {
+    Last_failure_kind() = Failure_kind::busy;
     const external_control::Sole_call sole(going_on);
+    Last_failure_kind() = Failure_kind::parameters;
     JAVA_CPP_TRANSLATE_STATE_REPORT = std::string();
     return body();
   });
@@ -109,13 +100,31 @@ std::string Words_of(const std::vector<File_fault>& faults) {
   return words;
 }
 
+/// Does the work of a run or a reload and yields its message; notes why it fails.
+std::string Message_of_work(const Run_parameters* run, const std::function<void()>& work) {
+  const auto noted_work = [&] {
+    Last_failure_kind() = Failure_kind::other;
+    try {
+      work();
+    } catch (...) {
+      Note_failure(run);
+      throw;
+    }
+  };
+  Last_failure_kind() = Failure_kind::busy;
+  return Message_of(std::cref(noted_work));
+}
+
 /// Makes the run and yields its message; here a run whose files are not whole has failed.
-std::string Message_of_run(const Run_parameters& parameters, bool& approximation_needed,
-                           Com_result_tables* tables) {
+std::string Message_of_run(const Run_parameters& parameters, const Run_wishes& wishes,
+                           bool& approximation_needed) {
   Run_summary summary;
-  const std::string message = Find_coms(parameters, approximation_needed, summary, tables);
+  const auto work = [&] { Run_stages(parameters, wishes, approximation_needed, summary); };
+  std::string message = Message_of_work(&parameters, std::cref(work));
   const std::vector<File_fault> faults = File_faults();
-  return message != run_finished || faults.empty() ? message : Words_of(faults);
+  if (message != run_finished || faults.empty()) return message;
+  Last_failure_kind() = Failure_kind::output;
+  return Words_of(faults);
 }
 
 jobject Run(JNIEnv* env, const Run_arguments& arguments) {
@@ -127,7 +136,7 @@ jobject Run(JNIEnv* env, const Run_arguments& arguments) {
 
   Print_line(std::cout, " calling Find_coms");
   bool approximation_needed = false;
-  const std::string message = Message_of_run(parameters, approximation_needed, nullptr);
+  const std::string message = Message_of_run(parameters, {}, approximation_needed);
   if (message == run_finished)
     Print_success(approximation_needed);
   else
@@ -139,10 +148,18 @@ jobject Run_and_translate(JNIEnv* env, const Run_arguments& arguments) {
   const Run_parameters parameters = Parameters_of(env, arguments);
   bool approximation_needed = false;
   Com_result_tables tables;
-  const std::string message = Message_of_run(parameters, approximation_needed, &tables);
+  Kept_results kept(env, parameters.directed);
+  const bool in_arrays = Result_arrays::Are_known(env);
+  Run_wishes wishes;
+  if (in_arrays)
+    wishes.keeper = &kept;
+  else
+    wishes.tables = Pointers_to(tables);
+  const std::string message = Message_of_run(parameters, wishes, approximation_needed);
   if (message != run_finished) throw Xerror_msg(message);
   Print_success(approximation_needed);
-  return translateResultToJava(env, parameters.directed, std::move(tables));
+  return in_arrays ? kept.Translate()
+                   : translateResultToJava(env, parameters.directed, std::move(tables));
 }
 
 jobject Load_and_translate(JNIEnv* env, jstring java_results_dir, bool directed,
@@ -150,14 +167,18 @@ jobject Load_and_translate(JNIEnv* env, jstring java_results_dir, bool directed,
   const std::string results_dir = Needed_string(env, java_results_dir);
   Com_result_tables tables;
   std::string errors;
-  const std::uint32_t load_mode = use_intensity ? 2 : directed ? 1 : 0;
+  const std::string kind = Flag_of(Method_of(directed, use_intensity));
   JAVA_CPP_TRANSLATE_STATE_REPORT = " Loading results: from disk";
   Print_line(std::cerr, "calling Load_coms: ");
-  const std::string message = Load_coms(results_dir, load_mode, tables, errors);
+  const auto work = [&] { Read_coms(results_dir, kind, tables, errors); };
+  const std::string message = Message_of_work(nullptr, std::cref(work));
   if (message != run_finished) throw Xerror_msg(message);
   Print_line(std::cout, " process ended succesfully");
   JAVA_CPP_TRANSLATE_STATE_REPORT = " Loading results: read from disk";
-  if (!errors.empty()) throw Xerror_msg(errors);
+  if (!errors.empty()) {
+    Last_failure_kind() = Failure_kind::input;
+    throw Xerror_msg(errors);
+  }
   Print_line(std::cerr, "Load_coms finished.");
   return translateResultToJava(env, directed, std::move(tables));
 }
@@ -231,4 +252,8 @@ jstring Java_zumo_community_ExternalCalls_Read_1state_1report(JNIEnv* env, jobje
 
 jstring Java_zumo_community_ExternalCalls_Read_1error_1message(JNIEnv* env, jobject /*receiver*/) {
   return gns::Text_to_Java(env, gns::Read_error_message);
+}
+
+jint Java_zumo_community_ExternalCalls_failureKind(JNIEnv* /*env*/, jclass /*type*/) {
+  return static_cast<jint>(gns::Last_failure_kind());
 }

@@ -2,7 +2,8 @@
 
 #include <jni.h>
 
-/// The native methods of the Java class zumo/community/ExternalCalls, all that the library exports.
+/// The native methods of the Java class zumo/community/ExternalCalls, for runs that write a
+/// directory.
 ///
 /// A failure is a java/lang/Exception with the message of the run. Find_coms, findAndLoadComs and
 /// loadComs are refused while one of them is going on; the others return at once and are made for
@@ -48,4 +49,8 @@ JNIEXPORT jstring JNICALL Java_zumo_community_ExternalCalls_Read_1state_1report(
 /// Always empty.
 JNIEXPORT jstring JNICALL Java_zumo_community_ExternalCalls_Read_1error_1message(JNIEnv* env,
                                                                                  jobject receiver);
+
+/// Why the last call of this thread has failed: the place of a
+/// zumo/community/VorlaneException.Kind.
+JNIEXPORT jint JNICALL Java_zumo_community_ExternalCalls_failureKind(JNIEnv* env, jclass type);
 }

@@ -94,7 +94,7 @@ public class BytesTest extends Fixture {
   public void ofPathsInUtf16() throws Exception {
     String told = child(path("out"), "C.UTF-8", "-Dfile.encoding=UTF-16").out();
     assertTrue(told, told.replace("\0", "")
-        .contains("! java.lang.Exception ERROR: a path has a zero byte inside."));
+        .contains("! VorlaneException PARAMETERS ERROR: a path has a zero byte inside."));
     assertFalse(Files.exists(Path.of(path("out"))));
   }
 }

@@ -5,8 +5,9 @@ import java.util.*;
 import org.junit.Test;
 import org.junit.function.ThrowingRunnable;
 import zumo.community.*;
+import zumo.community.VorlaneException.Kind;
 
-/** Each failure of the engine is one java.lang.Exception with its message. */
+/** Each failure of the engine is one exception with its message. */
 public class FailuresTest extends Fixture {
   private Run run(String linkFile) {
     return new Run(linkFile, path("out"));
@@ -16,35 +17,38 @@ public class FailuresTest extends Fixture {
     return run(example("choir.txt"));
   }
 
-  private static void check(Class<?> type, String message, ThrowingRunnable call) {
-    Throwable failure = assertThrows(Throwable.class, call);
+  /** The native operation throws a plain exception, and a run one that tells the kind. */
+  private static void check(Kind kind, String message, ThrowingRunnable call) {
+    VorlaneException failure = assertThrows(VorlaneException.class, call);
     assertEquals(message, failure.getMessage());
-    assertEquals(type, failure.getClass());
-    assertEquals(message.equals("Process stopped by user.\n"), Run.isStop(failure));
+    assertEquals(kind, failure.getKind());
+    assertEquals(message, failure.getCause().getMessage());
+    assertEquals(Exception.class, failure.getCause().getClass());
+    assertEquals(kind == Kind.STOPPED, Run.isStop(failure));
+    assertEquals(kind == Kind.STOPPED, Run.isStop(failure.getCause()));
     assertEquals("", ExternalCalls.Read_error_message());
   }
 
-  private static void check(String message, ThrowingRunnable call) {
-    check(Exception.class, message, call);
+  private static void checkNoPath(ThrowingRunnable call) {
+    assertEquals("a path is null", assertThrows(NullPointerException.class, call).getMessage());
   }
 
   @Test
   public void ofArguments() throws Exception {
-    check("The following error(s) occured:\n"
+    check(Kind.PARAMETERS, "The following error(s) occured:\n"
             + " The sepcified lower threshold is higher (or equal to) the upper threshold.\n"
             + " The search algorithm cannot apply the link weight \n"
             + " intensity condition when looking for directed communities.\n\n",
         () -> choir().lowerThreshold(2).upperThreshold(1).directed().intensityThreshold(1).find());
-    check("ERROR: a path has a zero byte inside.\n", () -> run("a\0b").find());
-    String noPath = "a path is null";
-    check(NullPointerException.class, noPath, () -> run(null).find());
-    check(NullPointerException.class, noPath, () -> new Run("links", null).findAndLoad());
-    check(NullPointerException.class, noPath, () -> ExternalCalls.loadComs(null, true, true));
+    check(Kind.PARAMETERS, "ERROR: a path has a zero byte inside.\n", () -> run("a\0b").find());
+    checkNoPath(() -> run(null).find());
+    checkNoPath(() -> new Run("links", null).findAndLoad());
+    checkNoPath(() -> ExternalCalls.loadComs(null, true, true));
     assertFalse(Files.exists(Path.of(path("out"))));
     write("links", "");
-    check("ERROR: the output directory already exists and it is non-empty.\n",
+    check(Kind.OUTPUT, "ERROR: the output directory already exists and it is non-empty.\n",
         () -> new Run(example("choir.txt"), path("")).find());
-    check("ERROR: the results can't be written to '" + path("links") + "':\n"
+    check(Kind.OUTPUT, "ERROR: the results can't be written to '" + path("links") + "':\n"
             + " it is the input file. Choose another output directory.\n",
         () -> new Run(path("links"), path("links")).find());
     assertArrayEquals(new String[] {"links"}, folder.getRoot().list());
@@ -53,9 +57,9 @@ public class FailuresTest extends Fixture {
   @Test
   public void ofBadLines() throws Exception {
     String wrongLine = "ERROR: Wrong line found in ' the file I was reading' :\n";
-    check(wrongLine + "ab\uFFFD", run(write("links", "ab\u00E4\n"))::findAndLoad);
+    check(Kind.INPUT, wrongLine + "ab\uFFFD", run(write("links", "ab\u00E4\n"))::findAndLoad);
     String other = write("links", "a b\n\u00F0\u009F\u0098\u0080\n");
-    check(wrongLine + "\uD83D\uDE00", () -> new Run(other, path("out2")).findAndLoad());
+    check(Kind.INPUT, wrongLine + "\uD83D\uDE00", () -> new Run(other, path("out2")).findAndLoad());
   }
 
   @Test
@@ -65,7 +69,9 @@ public class FailuresTest extends Fixture {
     choir().find();
     assertEquals(" done.\n", ExternalCalls.Read_state_report());
     Files.delete(Path.of(path("out/k=4/communities")));
-    Throwable failure = assertThrows(Exception.class, () -> Run.load(path("out")));
+    VorlaneException failure =
+        assertThrows(VorlaneException.class, () -> Run.load(path("out")));
+    assertEquals(Kind.INPUT, failure.getKind());
     assertTrue(failure.getMessage(), failure.getMessage().contains("k=4/communities"));
     assertEquals(" Loading results: read from disk", ExternalCalls.Read_state_report());
   }
@@ -73,7 +79,7 @@ public class FailuresTest extends Fixture {
   @Test
   public void ofAStopUntilItsReset() throws Exception {
     ExternalCalls.Stop_process();
-    check("Process stopped by user.\n", choir()::findAndLoad);
+    check(Kind.STOPPED, "Process stopped by user.\n", choir()::findAndLoad);
     assertEquals(" Process stopped by user.\n", ExternalCalls.Read_state_report());
     assertTrue(Files.exists(Path.of(path("out/graph"))));
     ExternalCalls.Reset_stop_process();
@@ -89,9 +95,9 @@ public class FailuresTest extends Fixture {
     List<String> limited = new ArrayList<>(List.of("bash", "-c", "ulimit -f 8; exec \"$@\"", ""));
     limited.addAll(jvm.command());
     jvm.command(limited);
-    String[] told = end(jvm).out().split("! java.lang.Exception ");
+    String[] told = end(jvm).out().split("! VorlaneException ");
     for (int i = 1; i <= 2; ++i) {
-      assertTrue(told[i], told[i].startsWith("ERROR: the results are not whole, as "));
+      assertTrue(told[i], told[i].startsWith("OUTPUT ERROR: the results are not whole, as "));
       assertTrue(told[i], told[i].contains("\n  " + path("out" + i) + "/cliques: write: File too"));
     }
   }
@@ -105,7 +111,7 @@ public class FailuresTest extends Fixture {
         "find|" + write("links", text.toString()) + "|" + path("out"), "load|" + path("out"),
         "findAndLoad|" + example("choir.txt") + "|" + path("out2")));
     assertEquals(List.of("= 0 nodes, 0 cliques, k []",
-        "! java.lang.OutOfMemoryError Java heap space", "= 27 nodes, 14 cliques, k [3, 4, 5]"),
+        "! OutOfMemoryError Java heap space", "= 27 nodes, 14 cliques, k [3, 4, 5]"),
         child.out().lines().filter(line -> !line.startsWith(" ")).toList());
   }
 
@@ -139,8 +145,8 @@ public class FailuresTest extends Fixture {
          starting c++
          in/out args converted
          calling Find_coms
-        ! java.lang.Exception ERROR : File not found: 'nowhere'\s
-        ! java.lang.Exception ERROR : File not found: 'nowhere'\s
+        ! VorlaneException INPUT ERROR : File not found: 'nowhere'\s
+        ! VorlaneException INPUT ERROR : File not found: 'nowhere'\s
          process ended succesfully
         = 27 nodes, 14 cliques, k [3, 4, 5], not finished
         """,

@@ -99,7 +99,9 @@ public abstract class Fixture {
             + results.getCliques().size() + " cliques, k " + results.getKs()
             + (results.isFinished() ? "" : ", not finished"));
       } catch (Exception | OutOfMemoryError failure) {
-        System.out.println("! " + failure.getClass().getName() + " " + failure.getMessage());
+        System.out.println("! " + failure.getClass().getSimpleName() + " "
+            + (failure instanceof VorlaneException typed ? typed.getKind() + " " : "")
+            + failure.getMessage());
       }
     }
   }

@@ -4,7 +4,7 @@ import java.io.IOException;
 import java.nio.file.*;
 import java.util.List;
 import org.junit.Test;
-import zumo.community.Run;
+import zumo.community.*;
 
 /** What calls take they give back, and of a big result nothing is held twice. */
 public class MemoryTest extends Fixture {
@@ -42,7 +42,8 @@ public class MemoryTest extends Fixture {
   @Test
   public void endsARunAtItsLimit() throws Exception {
     Run run = new Run(hardLinks(42), path("hardOut")).memoryLimit(50 * MEGABYTE);
-    Exception end = assertThrows(Exception.class, run::find);
+    VorlaneException end = assertThrows(VorlaneException.class, run::find);
+    assertEquals(VorlaneException.Kind.MEMORY, end.getKind());
     assertEquals("The memory limit of the run, 52428800 bytes, was reached.\n", end.getMessage());
     new Run(example("choir.txt"), newDir()).memoryLimit(1000 * MEGABYTE).find();
   }

@@ -17,8 +17,10 @@ public class ThreadsTest extends Fixture {
   }
 
   private static void checkRefused(ThrowingRunnable call) {
+    VorlaneException failure = assertThrows(VorlaneException.class, call);
     assertEquals("ERROR: another run or reload is going on in this process, and only one can at a"
-        + " time.\n", assertThrows(Exception.class, call).getMessage());
+        + " time.\n", failure.getMessage());
+    assertEquals(VorlaneException.Kind.BUSY, failure.getKind());
     assertEquals(" Reading input ...\n", ExternalCalls.Read_state_report());
   }
 

@@ -66,18 +66,46 @@ TEST_F(ExternalCalls, EndAtTheFirstJavaError) {
       {[&](Fake_jvm& jvm) { return Load(jvm); }, 1},
       {State_report, 0},
   };
-  for (const auto& [call, arguments] : cases) {
-    jobject result = nullptr;
-    for (std::size_t failing_call = 0; result == nullptr; ++failing_call) {
-      ASSERT_LT(failing_call, 500U);
-      Fake_jvm jvm;
-      jvm.failing_call = failing_call;
-      result = call(jvm);
-      EXPECT_EQ(jvm.pending, result != nullptr ? "" : "a Java error") << failing_call;
-      EXPECT_EQ(jvm.references_alive, arguments + (result != nullptr ? 1 : 0)) << failing_call;
-      EXPECT_EQ(jvm.faults, Lines()) << failing_call;
+  for (const bool has_arrays : {false, true}) {
+    for (const auto& [call, arguments] : cases) {
+      jobject result = nullptr;
+      for (std::size_t failing_call = 0; result == nullptr; ++failing_call) {
+        ASSERT_LT(failing_call, 500U);
+        Fake_jvm jvm;
+        jvm.has_arrays = has_arrays;
+        jvm.failing_call = failing_call;
+        result = call(jvm);
+        EXPECT_EQ(jvm.pending, result != nullptr ? "" : "a Java error") << failing_call;
+        EXPECT_EQ(jvm.references_alive, arguments + (result != nullptr ? 1 : 0)) << failing_call;
+        EXPECT_EQ(jvm.faults, Lines()) << failing_call;
+      }
     }
   }
+}
+
+/// What a run finds, right behind it and read back, comes to Java as the same objects with any
+/// classes; an error of the JVM during the run spoils no file.
+TEST_F(ExternalCalls, HandOverTheSameWhereArraysAreTaken) {
+  Fake_jvm jvm;
+  jvm.has_arrays = true;
+  ASSERT_NE(Run(find_and_load, jvm, links_), nullptr);
+  const Lines after_run = jvm.calls;
+  Fake_jvm other;
+  other.has_arrays = true;
+  ASSERT_NE(Load(other), nullptr);
+  EXPECT_EQ(after_run.size(), other.calls.size());
+  EXPECT_EQ(after_run[2], "ResultArrays1.cliques([ ], [ 3 6 ], [ 1 2 3 3 4 5 ])");
+  EXPECT_EQ(after_run.back(), R"(ResultArrays1.names([ "" "a" "b" "c" "d" "e" ]))");
+  EXPECT_EQ(other.calls[2], "ResultArrays1.cliques([ ], [ 3 6 ], [ 0 1 2 2 3 4 ])");
+
+  constexpr std::size_t in_the_run = 15;
+  Fake_jvm failing;
+  failing.has_arrays = true;
+  failing.failing_call = in_the_run;
+  EXPECT_EQ(Run(find_and_load, failing, links_), nullptr);
+  EXPECT_EQ(failing.pending, "a Java error");
+  EXPECT_TRUE(std::filesystem::exists(out_ + "/k=3/size_distribution"));
+  EXPECT_FALSE(std::filesystem::exists(out_ + "/.unfinished"));
 }
 
 TEST_F(ExternalCalls, RefuseASecondCallUntilTheTranslationIsOver) {

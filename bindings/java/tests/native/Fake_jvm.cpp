@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdarg>
+#include <string_view>
 #include <utility>
 
 namespace gns {
@@ -10,7 +11,12 @@ namespace gns {
 struct Fake_jvm::Functions : JNINativeInterface_ {
   Functions() : JNINativeInterface_() {
     EnsureLocalCapacity = [](JNIEnv* env, jint) { return Of(env).Fails() ? JNI_ERR : JNI_OK; };
-    FindClass = [](JNIEnv* env, const char* name) { return New<jclass>(env, {name, {}}); };
+    FindClass = [](JNIEnv* env, const char* name) {
+      if (Of(env).has_arrays || std::string_view(name) != "zumo/community/ResultArrays")
+        return New<jclass>(env, {name, {}});
+      if (!Of(env).Fails()) Of(env).pending = "java/lang/LinkageError";
+      return jclass();
+    };
     GetMethodID = [](JNIEnv* env, jclass, const char* name, const char* descriptor) {
       if (Of(env).Fails()) return jmethodID{};
       return reinterpret_cast<jmethodID>(
@@ -27,8 +33,9 @@ struct Fake_jvm::Functions : JNINativeInterface_ {
       Of(env).calls.push_back(Of(env).At(object).text + "." + method.substr(0, method.find('(')) +
                               Of(env).Arguments(method, arguments));
     };
-    CallObjectMethodV = [](JNIEnv* env, jobject object, jmethodID, va_list) {
-      return New<jobject>(env, {Of(env).At(object).text, {}});  // getBytes is the only one
+    CallObjectMethodV = [](JNIEnv* env, jobject object, jmethodID id, va_list) {
+      const bool is_result = Method(id).starts_with("results");  // else it is getBytes
+      return New<jobject>(env, {is_result ? "OutParams1" : Of(env).At(object).text, {}});
     };
     NewStringUTF = [](JNIEnv* env, const char* text) {
       return New<jstring>(env, {'"' + std::string(text) + '"', {}});
@@ -38,7 +45,8 @@ struct Fake_jvm::Functions : JNINativeInterface_ {
     };
     GetArrayLength = [](JNIEnv* env, jarray array) {
       Of(env).Enter();
-      return static_cast<jsize>(Of(env).At(array).text.size());
+      const Object& object = Of(env).At(array);
+      return static_cast<jsize>(object.text.size() + object.ints.size());
     };
     GetByteArrayRegion = [](JNIEnv* env, jbyteArray array, jsize at, jsize size, jbyte* bytes) {
       Of(env).Enter();
@@ -47,6 +55,13 @@ struct Fake_jvm::Functions : JNINativeInterface_ {
     SetByteArrayRegion = [](JNIEnv* env, jbyteArray to, jsize at, jsize size, const jbyte* bytes) {
       Of(env).Enter();
       std::copy_n(bytes, size, Of(env).At(to).text.begin() + at);
+    };
+    NewIntArray = [](JNIEnv* env, jsize size) {
+      return New<jintArray>(env, {"", {}, std::vector<jint>(static_cast<std::size_t>(size))});
+    };
+    SetIntArrayRegion = [](JNIEnv* env, jintArray to, jsize at, jsize size, const jint* values) {
+      Of(env).Enter();
+      std::copy_n(values, size, Of(env).At(to).ints.begin() + at);
     };
     NewObjectArray = [](JNIEnv* env, jsize size, jclass, jobject) {
       return New<jobjectArray>(env, {"", decltype(Object::elements)(std::size_t(size))});
@@ -80,6 +95,11 @@ struct Fake_jvm::Functions : JNINativeInterface_ {
       return static_cast<jthrowable>(error.empty() ? nullptr : Of(env).Refer({error, {}}));
     };
     ExceptionDescribe = [](JNIEnv* env) { Of(env).pending.clear(); };
+    ExceptionClear = ExceptionDescribe;
+    IsInstanceOf = [](JNIEnv* env, jobject object, jclass type) -> jboolean {
+      Of(env).Enter();
+      return Of(env).At(object).text == Of(env).At(type).text;
+    };
   }
 
   static const std::string& Method(jmethodID id) { return *reinterpret_cast<std::string*>(id); }
@@ -123,6 +143,15 @@ bool Fake_jvm::Fails() {
   return fails;
 }
 
+/// Arrays but those of bytes in brackets, with blanks between their elements.
+std::string Fake_jvm::Shown(const Object& object, const std::string& type) {
+  if (type[0] != '[' || type[1] == 'B') return object.text;
+  std::string text = "[";
+  for (const jint value : object.ints) text.append(" ").append(std::to_string(value));
+  for (const auto& element : object.elements) text.append(" ").append(element->text);
+  return text.append(" ]");
+}
+
 std::string Fake_jvm::Arguments(const std::string& method, va_list arguments) {
   std::string text;
   for (std::size_t at = method.find('(') + 1; method[at] != ')'; ++at) {
@@ -132,8 +161,8 @@ std::string Fake_jvm::Arguments(const std::string& method, va_list arguments) {
     } else if (method[at] == 'Z') {
       text += va_arg(arguments, int) == 0 ? "false" : "true";
     } else {
-      text += At(va_arg(arguments, jobject)).text;
-      at = method[at] == 'L' ? method.find(';', at) : at + 1;  // or an array of bytes
+      text += Shown(At(va_arg(arguments, jobject)), method.substr(at, 2));
+      at = method[at] == 'L' || method[at + 1] == 'L' ? method.find(';', at) : at + 1;
     }
   }
   return "(" + text + ")";

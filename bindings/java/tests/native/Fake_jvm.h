@@ -32,6 +32,7 @@ class Fake_jvm {
   /// The error that is pending, as `java/lang/Exception: text`; empty if there is none.
   std::string pending;
 
+  bool has_arrays = false;                ///< the class zumo/community/ResultArrays is there
   std::function<void()> in_java = [] {};  ///< done in each method called
   std::size_t failing_call = SIZE_MAX;    ///< the call that fails, counting those that can
   std::size_t references_alive = 0;
@@ -41,6 +42,7 @@ class Fake_jvm {
   struct Object {
     std::string text;  ///< of a class its name, of an array of bytes the bytes
     std::vector<std::shared_ptr<Object>> elements;
+    std::vector<jint> ints = {};
   };
   struct Environment : JNIEnv {
     Fake_jvm* jvm;
@@ -57,6 +59,7 @@ class Fake_jvm {
   /// Enters a function that can fail; true if it fails now. An error is then pending.
   bool Fails();
   jobject Construct(const std::string& class_name, const std::string& init, va_list arguments);
+  static std::string Shown(const Object& object, const std::string& type);
   std::string Arguments(const std::string& method, va_list arguments);
 
   Environment env_;

@@ -14,8 +14,9 @@ namespace gns {
 namespace {
 
 /// The calls of a translation, and in front of those at which the report has changed the report.
-std::string Calls_of(const Com_result_tables& tables) {
+std::string Calls_of(const Com_result_tables& tables, bool has_arrays = false) {
   Fake_jvm jvm;
+  jvm.has_arrays = has_arrays;
   std::string report;
   jvm.in_java = [&] {
     const std::string now = external_control::JAVA_CPP_TRANSLATE_STATE_REPORT.Text();
@@ -107,6 +108,49 @@ TEST(TranslateResult, TellsJavaEverythingInItsOrder) {
   EXPECT_EQ(Calls_of({}),
             "\nOutParams1 = new()\nInParams1 = new()\n# Loading results\n"
             "OutParams1.setInParams(InParams1)\n");
+}
+
+/// The same by arrays: each part with the ends of its rows, nodes by number.
+constexpr const char* sample_calls_by_arrays = R"(
+ResultArrays1 = new()
+# Loading results: edges
+ResultArrays1.network([ 'a' 'b' ], [ 0 1 ])
+# Loading results: cliques
+ResultArrays1.cliques([ 2 ], [ 2 2 4 ], [ 0 1 1 0 ])
+# Loading results: communities at k= 3
+ResultArrays1.communities(3, true, [ ], [ 2 2 ], [ 0 1 ], [ 2 2 ], [ 0 1 ], [ 3 3 ], [ 0 2 2147483647 ])
+# Loading results: community graph at k=3
+ResultArrays1.communityGraph(3, [ 2 1 3 0 1 2 ])
+# Loading results: distributions
+ResultArrays1.distribution(3, "sizeDist", [ 3 1 4 -1 ])
+ResultArrays1.distribution(3, "degreeDist", [ 1 2 ])
+ResultArrays1.distribution(3, "overlapDist", [ 2 5 ])
+ResultArrays1.distribution(3, "membershipDist", [ 0 9 ])
+# Loading results: communities at k= 4
+ResultArrays1.communities(4, true, [ ], [ ], [ ], [ ], [ ], [ ], [ ])
+# Loading results: community graph at k=4
+ResultArrays1.communityGraph(4, [ ])
+# Loading results: distributions
+ResultArrays1.distribution(4, "sizeDist", [ ])
+ResultArrays1.distribution(4, "degreeDist", [ ])
+ResultArrays1.distribution(4, "overlapDist", [ ])
+ResultArrays1.distribution(4, "membershipDist", [ 4 4 ])
+# Loading results: communities at k= 5
+ResultArrays1.communities(5, true, [ ], [ 1 ], [ 1 ], [ ], [ ], [ ], [ ])
+# Loading results: community graph at k=5
+ResultArrays1.communityGraph(5, [ ])
+# Loading results: distributions
+ResultArrays1.distribution(5, "sizeDist", [ ])
+ResultArrays1.distribution(5, "degreeDist", [ ])
+ResultArrays1.distribution(5, "overlapDist", [ ])
+ResultArrays1.distribution(5, "membershipDist", [ ])
+ResultArrays1.names([ "a" "b" ])
+)";
+
+TEST(TranslateResult, HandsArraysToTheClassThatTakesThem) {
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(Calls_of(Sample(), true), sample_calls_by_arrays);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "can't happen! (1)\ncan't happen! (2)\n");
 }
 
 TEST(TranslateResult, HoldsAsManyReferencesForMuchAsForLittle) {

@@ -1,10 +1,7 @@
 package zumo.community;
 
 import java.util.AbstractList;
-import java.util.ArrayList;
 import java.util.BitSet;
-import java.util.Collections;
-import java.util.List;
 import java.util.Objects;
 import java.util.RandomAccess;
 
@@ -13,21 +10,41 @@ import java.util.RandomAccess;
  * cliques that are made when asked for.
  */
 final class CliqueList extends AbstractList<Clique> implements RandomAccess {
-  private final ArrayList<String> vertices = new ArrayList<>();
+  private NodeNames names;
+  private final IntTable<Integer> nodes = IntTable.ofInts();
   private final IntTable<Integer> ends = IntTable.ofInts();
   private final BitSet approximate = new BitSet();
 
-  void append(Clique clique, NodeNames names) {
+  CliqueList(NodeNames names) {
+    this.names = names;
+  }
+
+  /** From now on holds names in common with others. */
+  void share(NodeNames common) {
+    NodeNames own = names;
+    nodes.replaceInts(number -> common.number(own.get(number)));
+    names = common;
+  }
+
+  void append(Clique clique) {
     approximate.set(size(), clique.isApproximate());
-    for (String name : clique.getVertices()) vertices.add(names.apply(name));
-    ends.append(vertices.size());
+    for (String name : clique.getVertices()) nodes.append(names.number(name));
+    ends.append(nodes.ints());
+  }
+
+  /** Takes all cliques at once; `approximatePositions` ascend. */
+  void set(int[] approximatePositions, int[] allEnds, int[] allNodes) {
+    for (int position : approximatePositions) approximate.set(position);
+    ends.share(allEnds);
+    nodes.share(allNodes);
   }
 
   @Override
   public Clique get(int index) {
     Objects.checkIndex(index, size());
-    List<String> own = vertices.subList(index == 0 ? 0 : ends.get(index - 1), ends.get(index));
-    return new Clique(approximate.get(index), Collections.unmodifiableList(own));
+    int begin = index == 0 ? 0 : ends.value(index - 1);
+    return new Clique(approximate.get(index), nodes.part(
+        1, (values, at) -> names.get(values[at]), begin, ends.value(index)));
   }
 
   @Override

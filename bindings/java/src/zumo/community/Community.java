@@ -1,21 +1,29 @@
 package zumo.community;
 
-import java.util.ArrayList;
-import java.util.Collections;
 import java.util.List;
 
 /** A community at one k. */
 public final class Community {
   private final boolean approximate;
-  private final ArrayList<String> vertices = new ArrayList<>();
-  private final ArrayList<String> edgeEnds = new ArrayList<>();
-  private final IntTable<Integer> cliquePositions = IntTable.ofInts();
+  private NodeNames names = new NodeNames();
   private int k;
   private boolean directed;
-  private NodeNames names = new NodeNames();
+  private final IntTable<String> vertices =
+      new IntTable<>(1, (values, begin) -> names.get(values[begin]));
+  private final IntTable<Edge> edges = new IntTable<>(2, (values, begin) ->
+      new Edge(names.get(values[begin]), names.get(values[begin + 1]), directed));
+  private final IntTable<Integer> cliquePositions = IntTable.ofInts();
 
   public Community(boolean approximate) {
     this.approximate = approximate;
+  }
+
+  /** For the parts of a community that come as ranges of arrays. */
+  Community(boolean approximate, int k, boolean directed, NodeNames names) {
+    this.approximate = approximate;
+    this.k = k;
+    this.directed = directed;
+    this.names = names;
   }
 
   /** Sets k, which is not the number of members. */
@@ -29,15 +37,15 @@ public final class Community {
    * @throws IllegalArgumentException if earlier ones are directed and this one isn't, or vice versa
    */
   public void addEdge(Edge edge) {
-    if (!edgeEnds.isEmpty() && directed != edge.isDirected())
+    if (!edges.isEmpty() && directed != edge.isDirected())
       throw new IllegalArgumentException("directed and undirected edges in one community");
     directed = edge.isDirected();
-    edgeEnds.add(names.apply(edge.getVertex1()));
-    edgeEnds.add(names.apply(edge.getVertex2()));
+    edges.append(names.number(edge.getVertex1()));
+    edges.append(names.number(edge.getVertex2()));
   }
 
   void addVertex(String name) {
-    vertices.add(names.apply(name));
+    vertices.append(names.number(name));
   }
 
   void addClique(int position) {
@@ -47,16 +55,29 @@ public final class Community {
   /** From now on holds names in common with others. */
   void share(NodeNames common) {
     if (names == common) return;
+    NodeNames own = names;
+    vertices.replaceInts(number -> common.number(own.get(number)));
+    edges.replaceInts(number -> common.number(own.get(number)));
     names = common;
-    vertices.replaceAll(common);
-    edgeEnds.replaceAll(common);
   }
 
   /** Nothing more is to come: gives up spare room. */
   void finish() {
     vertices.trimToSize();
-    edgeEnds.trimToSize();
+    edges.trimToSize();
     cliquePositions.trimToSize();
+  }
+
+  IntTable<?> vertices() {
+    return vertices;
+  }
+
+  IntTable<?> edges() {
+    return edges;
+  }
+
+  IntTable<?> cliquePositions() {
+    return cliquePositions;
   }
 
   /** The k of the clique percolation that found it. */
@@ -74,12 +95,12 @@ public final class Community {
 
   /** The names of its members. */
   public List<String> getVertices() {
-    return Collections.unmodifiableList(vertices);
+    return vertices;
   }
 
   /** The links between its members. */
   public List<Edge> getEdges() {
-    return new EdgeList(edgeEnds, directed);
+    return edges;
   }
 
   /** Its cliques, as positions for {@link OutParams#getClique}; none in an intensity run. */

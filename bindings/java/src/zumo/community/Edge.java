@@ -12,6 +12,12 @@ public final class Edge {
     this.directed = directed;
   }
 
+  /** Makes edges of pairs of numbers of names. */
+  static IntTable.RowView<Edge> view(NodeNames names, boolean directed) {
+    return (values, begin) ->
+        new Edge(names.get(values[begin]), names.get(values[begin + 1]), directed);
+  }
+
   public String getVertex1() {
     return vertex1;
   }

@@ -66,4 +66,7 @@ public final class ExternalCalls {
 
   /** Always empty: a failure is told by the exception of the call that failed. */
   public static native String Read_error_message();
+
+  /** Why the last call of this thread has failed, as the place of a VorlaneException.Kind. */
+  static native int failureKind();
 }

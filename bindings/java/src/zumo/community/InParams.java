@@ -1,17 +1,27 @@
 package zumo.community;
 
-import java.util.ArrayList;
+import java.util.Collections;
+import java.util.HashSet;
 import java.util.List;
 import java.util.Set;
 
 /** The network: the links that the run took from its link file. */
 public final class InParams {
   private final NodeNames names = new NodeNames();
-  private final ArrayList<String> edgeEnds = new ArrayList<>();
+  private final IntTable<Integer> edgeEnds = IntTable.ofInts();
+  /** Made when asked for. */
+  private Set<String> vertices;
 
   public void addEdge(String vertex1, String vertex2) {
-    edgeEnds.add(names.apply(vertex1));
-    edgeEnds.add(names.apply(vertex2));
+    edgeEnds.append(names.number(vertex1));
+    edgeEnds.append(names.number(vertex2));
+    vertices = null;
+  }
+
+  /** Takes all links at once, two numbers of names each. */
+  void setEdges(String[] allNames, int[] ends) {
+    names.set(allNames);
+    edgeEnds.share(ends);
   }
 
   /**
@@ -21,12 +31,17 @@ public final class InParams {
    * @param directed which kind of edges to make of them: what the run was told
    */
   public List<Edge> getEdges(boolean directed) {
-    return new EdgeList(edgeEnds, directed);
+    return edgeEnds.part(2, Edge.view(names, directed), 0, edgeEnds.ints());
   }
 
   /** The names of all nodes, in no particular order. */
   public Set<String> getVertices() {
-    return names.view();
+    if (vertices == null) {
+      Set<String> found = new HashSet<>();
+      for (int i = 0; i < edgeEnds.ints(); ++i) found.add(names.get(edgeEnds.value(i)));
+      vertices = Collections.unmodifiableSet(found);
+    }
+    return vertices;
   }
 
   /** Nothing more is to come: gives up spare room. Yields the names, for others to share. */

@@ -15,9 +15,13 @@ final class MemoryWatch implements AutoCloseable {
   private final Thread watcher = new Thread(this::watch, "vorlane memory watch");
   private volatile boolean stopped;
 
-  MemoryWatch(long limit) throws IOException {
+  MemoryWatch(long limit) throws VorlaneException {
     this.limit = limit;
-    atStart = resident();
+    try {
+      atStart = resident();
+    } catch (IOException failure) {
+      throw new VorlaneException(VorlaneException.Kind.OTHER, failure.getMessage(), failure);
+    }
     watcher.setDaemon(true);
     watcher.start();
   }
@@ -44,8 +48,9 @@ final class MemoryWatch implements AutoCloseable {
     return stopped;
   }
 
-  Exception failure() {
-    return new Exception("The memory limit of the run, " + limit + " bytes, was reached.\n");
+  VorlaneException failure(VorlaneException stop) {
+    return new VorlaneException(VorlaneException.Kind.MEMORY,
+        "The memory limit of the run, " + limit + " bytes, was reached.\n", stop);
   }
 
   /** Ends the watch and takes its stop back. */

@@ -6,8 +6,8 @@ import java.util.NavigableSet;
 import java.util.TreeMap;
 
 /**
- * The results of a run. The native library fills one through the methods that add something; what
- * the others return are unmodifiable views. Each node name is held once, however often it occurs.
+ * The results of a run. What the methods return that add nothing are unmodifiable views. Each node
+ * name is held once, however often it occurs.
  */
 public final class OutParams {
   /** How many communities have how many nodes. */
@@ -23,16 +23,17 @@ public final class OutParams {
       List.of(SIZE_DIST, DEGREE_DIST, OVERLAP_DIST, MEMBERSHIP_DIST);
   private static final Extraction NOTHING = new Extraction();
 
-  private final CliqueList cliques = new CliqueList();
   private final TreeMap<Integer, Extraction> extractions = new TreeMap<>();
   private InParams inParams = new InParams();
   private NodeNames names = new NodeNames();
+  private final CliqueList cliques = new CliqueList(names);
   private boolean finished = true;
 
   /** Sets the network; to be called first, since everything else shares its names. */
   public void setInParams(InParams inParams) {
     this.inParams = inParams;
     names = new NodeNames(inParams.finish());
+    cliques.share(names);
   }
 
   /**
@@ -44,7 +45,7 @@ public final class OutParams {
   public void addClique(Clique clique, int index) {
     if (Math.abs(index) != cliques.size())
       throw new IllegalArgumentException("clique " + index + " comes as number " + cliques.size());
-    cliques.append(clique, names);
+    cliques.append(clique);
   }
 
   public void addVertexToCommunity(Community community, String name) {
@@ -94,7 +95,16 @@ public final class OutParams {
     return finished;
   }
 
-  private Extraction extraction(int k) {
+  /** The parts that {@link ResultArrays} fills. */
+  NodeNames names() {
+    return names;
+  }
+
+  CliqueList cliques() {
+    return cliques;
+  }
+
+  Extraction extraction(int k) {
     return extractions.computeIfAbsent(k, unused -> new Extraction());
   }
 

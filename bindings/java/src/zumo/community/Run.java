@@ -5,6 +5,7 @@ import java.nio.file.DirectoryStream;
 import java.nio.file.Files;
 import java.nio.file.LinkOption;
 import java.nio.file.Path;
+import java.util.concurrent.Callable;
 
 /**
  * A run to be started: link file, directory for the results, and what differs from a plain run.
@@ -79,18 +80,19 @@ public final class Run {
   /**
    * Runs and leaves the results in the directory.
    *
-   * @throws Exception as {@link ExternalCalls#Find_coms}
+   * @throws VorlaneException with the engine's message, if the run fails or is stopped, or with the
+   *     names of files that could not be written
    */
-  public void find() throws Exception {
+  public void find() throws VorlaneException {
     call(ExternalCalls::Find_coms);
   }
 
   /**
    * Runs, leaves the results in the directory and returns them too.
    *
-   * @throws Exception as {@link ExternalCalls#findAndLoadComs}
+   * @throws VorlaneException as {@link #find}
    */
-  public OutParams findAndLoad() throws Exception {
+  public OutParams findAndLoad() throws VorlaneException {
     return call(ExternalCalls::findAndLoadComs);
   }
 
@@ -98,22 +100,25 @@ public final class Run {
    * Reads the results of an earlier run, of whichever kind it was. What a stopped run has finished
    * is read as well; {@link OutParams#isFinished} tells.
    *
-   * @throws Exception as {@link ExternalCalls#loadComs}
+   * @throws VorlaneException if something can't be read, with the engine's message
    */
-  public static OutParams load(String resultsDir) throws Exception {
+  public static OutParams load(String resultsDir) throws VorlaneException {
     Path dir = Path.of(resultsDir);
     boolean unfinished = Files.exists(dir.resolve(".unfinished"), LinkOption.NOFOLLOW_LINKS);
-    OutParams results = ExternalCalls.loadComs(
-        resultsDir, Files.exists(dir.resolve("directed_graph")), isFromIntensityRun(dir));
+    boolean directed = Files.exists(dir.resolve("directed_graph"));
+    OutParams results =
+        typed(() -> ExternalCalls.loadComs(resultsDir, directed, isFromIntensityRun(dir)));
     if (unfinished) results.setUnfinished();
     return results;
   }
 
-  private static boolean isFromIntensityRun(Path dir) throws IOException {
+  private static boolean isFromIntensityRun(Path dir) throws VorlaneException {
     if (!Files.isDirectory(dir)) return false;
     try (DirectoryStream<Path> extractions = Files.newDirectoryStream(dir, "k=*")) {
       for (Path extraction : extractions)
         if (Files.exists(extraction.resolve("intensity_communities"))) return true;
+    } catch (IOException failure) {
+      throw new VorlaneException(VorlaneException.Kind.INPUT, failure.getMessage(), failure);
     }
     return false;
   }
@@ -129,7 +134,9 @@ public final class Run {
 
   /** Whether a run ended with this exception because it was stopped. */
   public static boolean isStop(Throwable failure) {
-    return STOPPED.equals(failure.getMessage());
+    return failure instanceof VorlaneException typed
+        ? typed.getKind() == VorlaneException.Kind.STOPPED
+        : STOPPED.equals(failure.getMessage());
   }
 
   private interface Entry {
@@ -142,14 +149,26 @@ public final class Run {
         boolean useTimeLimit, double timeLimitSeconds) throws Exception;
   }
 
-  private OutParams call(Entry entry) throws Exception {
-    if (memoryLimit == null) return callUnwatched(entry);
+  private OutParams call(Entry entry) throws VorlaneException {
+    if (memoryLimit == null) return typed(() -> callUnwatched(entry));
     try (MemoryWatch watch = new MemoryWatch(memoryLimit)) {
       try {
-        return callUnwatched(entry);
-      } catch (Exception failure) {
-        throw watch.hasStopped() && isStop(failure) ? watch.failure() : failure;
+        return typed(() -> callUnwatched(entry));
+      } catch (VorlaneException failure) {
+        throw watch.hasStopped() && isStop(failure) ? watch.failure(failure) : failure;
       }
+    }
+  }
+
+  /** The entries throw plain exceptions, and tell the kind beside them. */
+  private static OutParams typed(Callable<OutParams> call) throws VorlaneException {
+    try {
+      return call.call();
+    } catch (VorlaneException | RuntimeException failure) {
+      throw failure;
+    } catch (Exception failure) {
+      throw new VorlaneException(
+          VorlaneException.Kind.at(ExternalCalls.failureKind()), failure.getMessage(), failure);
     }
   }
 
