@@ -191,28 +191,17 @@ bool K_clique_search::Passes(double sum) {
 
 bool K_clique_search::Passes_exactly() {
   sub_links_.Load(k_clique_, cliques_.Logs());
-  double sum = 0.0;
-  double lowest = std::numeric_limits<double>::infinity();
-  for (std::uint32_t n = 1; n < k_; ++n) {
-    for (std::uint32_t p = 0; p < n; ++p) {
-      const double log = sub_links_.To_earlier(n)[p];
-      sum += log;
-      if (log < lowest) lowest = log;
-    }
-  }
-  if (sum > threshold_) return true;
+  if (sub_links_.Sum(k_) > threshold_) return true;
   // No clique around the k-clique has a higher lowest logarithm than the k-clique itself.
   const auto passes = [this](double min_log_w) { return Some_partial_sum_passes(min_log_w); };
-  return passes(lowest) && cliques_.Any_clique_around(k_clique_, passes);
+  return passes(sub_links_.Lowest()) && cliques_.Any_clique_around(k_clique_, passes);
 }
 
 bool K_clique_search::Some_partial_sum_passes(double min_log_w) const {
   const double total = static_cast<double>((k_ - 1) * k_) * 0.5;
-  double sum = 0.0;
-  for (std::uint32_t n = 1; n < k_; ++n) {
-    for (std::uint32_t p = 0; p < n; ++p) sum += sub_links_.To_earlier(n)[p];
-    const double done = ((n + 1) * 0.5) * ((n + 1) - 1.0);
-    if ((total - done) * min_log_w + sum > threshold_) return true;
+  for (std::uint32_t nodes = 2; nodes <= k_; ++nodes) {
+    const double done = (nodes * 0.5) * (nodes - 1.0);
+    if ((total - done) * min_log_w + sub_links_.Sum(nodes) > threshold_) return true;
   }
   return false;
 }

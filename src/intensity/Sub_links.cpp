@@ -1,7 +1,6 @@
 #include "intensity/Sub_links.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "foundation/Errors.h"
 
@@ -9,41 +8,71 @@ namespace gns {
 
 Link_logs::Link_logs(const Index_links& index_links) : index_links_(index_links) {
   logs_.reserve(index_links.size());
-  for (std::size_t place = 0; place < index_links.size(); ++place)
+  for (std::size_t place = 0; place < index_links.size(); ++place) {
     logs_.push_back(std::log(index_links.Weight_at(place)));
+    if (logs_.back() < lowest_) lowest_ = logs_.back();
+  }
 }
 
+/// Halves the row without a branch: which half it is, no processor can foresee.
 std::size_t Link_logs::Place(Node_index first, Node_index second) const {
-  const std::optional<std::size_t> place = index_links_.Place(first, second);
-  if (!place) throw Xerror_msg("ERROR: Get_sub_links_and_thresh_abs: missing link.\n");
-  return *place;
+  if (first - 1 < index_links_.Node_count()) {
+    const Node_span row = index_links_.Row(first);
+    const Node_index* at = row.data();
+    for (std::size_t count = row.size(); count > 1;) {
+      const std::size_t half = count / 2;
+      at += half * static_cast<std::size_t>(at[half - 1] < second);
+      count -= half;
+    }
+    if (!row.empty() && *at == second)
+      return index_links_.Start(first) + static_cast<std::size_t>(at - row.data());
+  }
+  throw Xerror_msg("ERROR: Get_sub_links_and_thresh_abs: missing link.\n");
 }
 
 void Sub_links::Load(Node_span node_set, const Link_logs& logs) {
   const auto differing = std::ranges::mismatch(members_, node_set).in1;
   auto n = static_cast<std::size_t>(differing - members_.begin());
   members_.assign(node_set.begin(), node_set.end());
-  logs_.resize(members_.size() * (members_.size() - 1) / 2);
+  sums_.resize(members_.size());
+  lowest_.resize(members_.size());
   for (; n < members_.size(); ++n) {
-    double* to_earlier = logs_.data() + n * (n - 1) / 2;
-    for (std::size_t p = 0; p < n; ++p) to_earlier[p] = logs.At(members_[p], members_[n]);
+    double sum = n == 0 ? 0.0 : sums_[n - 1];
+    Lowest_log lowest = n == 0 ? Lowest_log() : lowest_[n - 1];
+    for (std::size_t p = 0; p < n; ++p) {
+      const double log = logs.At(members_[p], members_[n]);
+      sum += log;
+      lowest.Offer(log);
+    }
+    sums_[n] = sum;
+    lowest_[n] = lowest;
   }
-}
-
-double Sub_links::Lowest(std::uint32_t left_out) const {
-  Lowest_log lowest;
-  for (std::uint32_t n = 1; n < size(); ++n) {
-    if (n == left_out) continue;
-    for (std::uint32_t p = 0; p < n; ++p)
-      if (p != left_out) lowest.Offer(To_earlier(n)[p]);
-  }
-  return lowest.Value();
 }
 
 void Get_sub_links_and_min_link_w(Node_span node_set, const Link_logs& logs, Sub_links& sub_links,
                                   double& min_log_w) {
   sub_links.Load(node_set, logs);
-  min_log_w = sub_links.Lowest(sub_links.size());
+  min_log_w = sub_links.Lowest();
+}
+
+namespace {
+
+double Link_count(double nodes) { return (nodes - 1.0) * (0.5 * nodes); }
+
+}  // namespace
+
+bool Passes_in_order(const Sub_links& set, double log_threshold) {
+  const double links = Link_count(set.size());
+  for (std::uint32_t done = 1; done < set.size(); ++done) {
+    const double missing = links - (done * 0.5) * (done - 1.0);
+    if (!(log_threshold >= missing * set.Lowest() + set.Sum(done))) return true;
+  }
+  return set.Sum(set.size()) > log_threshold;
+}
+
+/// The first step above passes with any lowest logarithm that a set can have.
+bool Every_set_passes(const Link_logs& logs, std::uint32_t nodes, double log_threshold) {
+  return Link_count(nodes) * logs.Lowest() > log_threshold;
 }
 
 }  // namespace gns

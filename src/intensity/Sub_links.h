@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "graph/Index_links.h"
@@ -24,10 +25,13 @@ class Link_logs {
   [[nodiscard]] std::size_t Place(Node_index first, Node_index second) const;
   [[nodiscard]] double At_place(std::size_t place) const { return logs_[place]; }
   [[nodiscard]] const Index_links& Links() const { return index_links_; }
+  /// The lowest of all that are numbers, or infinity.
+  [[nodiscard]] double Lowest() const { return lowest_; }
 
  private:
   const Index_links& index_links_;
   std::vector<double> logs_;
+  double lowest_ = std::numeric_limits<double>::infinity();
 };
 
 /// The lowest of the logarithms that are offered. One that is not a number is passed over, but if
@@ -45,7 +49,7 @@ class Lowest_log {
   bool empty_ = true;
 };
 
-/// The logarithms of all links inside one node set, by the positions of the nodes in it.
+/// The logarithms of all links inside one node set, added up node by node in ascending order.
 class Sub_links {
  public:
   /// Takes the links of `node_set`, two nodes or more. What stands before the first node that
@@ -53,17 +57,16 @@ class Sub_links {
   void Load(Node_span node_set, const Link_logs& logs);
 
   [[nodiscard]] std::uint32_t size() const { return static_cast<std::uint32_t>(members_.size()); }
-  /// The links from the node at position `n` to those in front of it, n of them.
-  [[nodiscard]] const double* To_earlier(std::uint32_t n) const {
-    return logs_.data() + std::size_t{n} * (n - 1) / 2;
-  }
-  /// The lowest logarithm, see Lowest_log, with the links of one position left out, if there is
-  /// such a position.
-  [[nodiscard]] double Lowest(std::uint32_t left_out) const;
+  /// The sum over the links among the first `nodes` nodes, 1 at least, in the order that decides on
+  /// ties: for each node, from the second one on, the links to those in front of it, ascending.
+  [[nodiscard]] double Sum(std::uint32_t nodes) const { return sums_[nodes - 1]; }
+  /// The lowest logarithm, see Lowest_log.
+  [[nodiscard]] double Lowest() const { return lowest_.back().Value(); }
 
  private:
   std::vector<Node_index> members_;
-  std::vector<double> logs_;
+  std::vector<double> sums_;        ///< per node: up to it
+  std::vector<Lowest_log> lowest_;  ///< the same
 };
 
 /// Loads `sub_links` with the links of `node_set` and sets `min_log_w` to the lowest logarithm.
@@ -82,5 +85,12 @@ inline double Log_threshold(double intensity_threshold, std::uint32_t nodes) {
   const double links = (nodes - 1.0) * (0.5 * nodes);
   return std::log(std::pow(intensity_threshold, links));
 }
+
+/// Decides on a set as it does between k-cliques. As soon as a sum passes with the lowest
+/// logarithm of the set in place of all that are to come, the set passes.
+bool Passes_in_order(const Sub_links& set, double log_threshold);
+
+/// True if every set of `nodes` nodes is sure to pass so.
+bool Every_set_passes(const Link_logs& logs, std::uint32_t nodes, double log_threshold);
 
 }  // namespace gns
