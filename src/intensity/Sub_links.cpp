@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "foundation/Errors.h"
-
 namespace gns {
 
 Link_logs::Link_logs(const Index_links& index_links) : index_links_(index_links) {
@@ -27,7 +25,7 @@ std::size_t Link_logs::Place(Node_index first, Node_index second) const {
     if (!row.empty() && *at == second)
       return index_links_.Start(first) + static_cast<std::size_t>(at - row.data());
   }
-  throw Xerror_msg("ERROR: Get_sub_links_and_thresh_abs: missing link.\n");
+  throw Missing_link();
 }
 
 void Sub_links::Load(Node_span node_set, const Link_logs& logs) {

@@ -5,10 +5,16 @@
 #include <limits>
 #include <vector>
 
+#include "foundation/Errors.h"
 #include "graph/Index_links.h"
 #include "graph/Node_set.h"
 
 namespace gns {
+
+/// For a set of nodes that lacks a link.
+inline Xerror_msg Missing_link() {
+  return Xerror_msg("ERROR: Get_sub_links_and_thresh_abs: missing link.\n");
+}
 
 /// The natural logarithm of each link's weight, computed once for a run: minus infinity for weight
 /// 0, not a number for a negative weight.

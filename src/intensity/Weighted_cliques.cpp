@@ -7,33 +7,53 @@
 
 namespace gns {
 
+namespace {
+
+constexpr std::size_t none = ~std::size_t{0};
+
+}  // namespace
+
 Weighted_cliques::Weighted_cliques(const Clique_vector& cliques, const Index_links& index_links)
     : cliques_(cliques),
       logs_(index_links),
       clique_sizes_(index_links.size(), 0),
+      largest_clique_of_(std::size_t{index_links.Node_count()} + 1, 0),
       largest_clique_(Max_clique_size_in_cl_vec(cliques)) {
-  lowest_logs_.reserve(cliques.size());
-  for (std::size_t i = 0; i < cliques.size(); ++i) {
-    const Node_span clique = cliques[i];
-    const auto size = static_cast<std::uint32_t>(clique.size());
-    Lowest_log lowest;
-    for (std::size_t a = 0; a < clique.size(); ++a) {
-      for (std::size_t b = a + 1; b < clique.size(); ++b) {
-        const std::size_t place = logs_.Place(clique[a], clique[b]);
-        clique_sizes_[place] = std::max(clique_sizes_[place], size);
-        lowest.Offer(logs_.At_place(place));
-      }
-    }
-    lowest_logs_.push_back(lowest.Value());
-  }
-  for (std::size_t place = 0; place < index_links.size(); ++place) {
-    const double log = std::abs(logs_.At_place(place));
-    if (std::isfinite(log)) largest_log_ = std::max(largest_log_, log);
-  }
+  for (std::size_t i = 0; i < cliques.size(); ++i)
+    if (cliques[i].back() > Node_count()) throw Missing_link();
   cliques_of_ = Adjacency(Node_count(), [&](auto enter) {
     for (Clique_index i = 0; i < cliques.size(); ++i)
       for (const Node_index node : cliques[i]) enter(node, i);
   });
+  Look_at_links_of_cliques();
+  for (std::size_t place = 0; place < index_links.size(); ++place) {
+    const double log = std::abs(logs_.At_place(place));
+    if (std::isfinite(log)) largest_log_ = std::max(largest_log_, log);
+  }
+}
+
+/// Goes through the links by their first nodes, so that the place of each is at hand.
+void Weighted_cliques::Look_at_links_of_cliques() {
+  std::vector<std::uint32_t> passed(cliques_.size(), 0);  // per clique: nodes
+  std::vector<Lowest_log> lowest(cliques_.size());
+  std::vector<std::size_t> place_of(std::size_t{Node_count()} + 1, none);  // of links of a node
+  for (Node_index first = 1; first <= Node_count(); ++first) {
+    const Node_span row = logs_.Links().Row(first);
+    const std::size_t start = logs_.Links().Start(first);
+    for (std::size_t i = 0; i < row.size(); ++i) place_of[row[i]] = start + i;
+    for (const Clique_index clique : cliques_of_[first]) {
+      const auto size = static_cast<std::uint32_t>(cliques_[clique].size());
+      largest_clique_of_[first] = std::max(largest_clique_of_[first], size);
+      for (const Node_index second : cliques_[clique].subspan(++passed[clique])) {
+        const std::size_t place = place_of[second];
+        if (place == none) throw Missing_link();
+        clique_sizes_[place] = std::max(clique_sizes_[place], size);
+        lowest[clique].Offer(logs_.At_place(place));
+      }
+    }
+    for (const Node_index second : row) place_of[second] = none;
+  }
+  for (const Lowest_log& log : lowest) lowest_logs_.push_back(log.Value());
 }
 
 }  // namespace gns

@@ -26,12 +26,17 @@ class Weighted_cliques {
   [[nodiscard]] std::uint32_t Largest_clique() const { return largest_clique_; }
   /// The largest finite absolute value of a logarithm.
   [[nodiscard]] double Largest_log() const { return largest_log_; }
+  /// Size of the largest clique that holds a node, 0 if there is none.
+  [[nodiscard]] std::uint32_t Largest_clique_of(Node_index node) const {
+    return largest_clique_of_[node];
+  }
 
   /// Calls use(node, logarithm) for each node behind `first` that a link inside a clique of k nodes
   /// or more leads to, ascending. Links of weight 0 are left out: no set with one has an intensity
   /// above any threshold.
   template <typename Use>
   void For_each_link(Node_index first, std::uint32_t k, Use use) const {
+    if (largest_clique_of_[first] < k) return;
     const Node_span row = logs_.Links().Row(first);
     const std::size_t start = logs_.Links().Start(first);
     for (std::size_t i = 0; i < row.size(); ++i) {
@@ -50,11 +55,14 @@ class Weighted_cliques {
   }
 
  private:
+  void Look_at_links_of_cliques();
+
   const Clique_vector& cliques_;
   Link_logs logs_;
   std::vector<std::uint32_t> clique_sizes_;  ///< per link: size of the largest clique around it
-  std::vector<double> lowest_logs_;          ///< per clique
-  Adjacency cliques_of_;                     ///< per node: the cliques that hold it
+  std::vector<std::uint32_t> largest_clique_of_;  ///< per node
+  std::vector<double> lowest_logs_;               ///< per clique
+  Adjacency cliques_of_;                          ///< per node: the cliques that hold it
   std::uint32_t largest_clique_ = 0;
   double largest_log_ = 0.0;
 };
