@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <functional>
+#include <limits>
 #include <numeric>
+#include <span>
 
 namespace gns {
 
@@ -21,26 +23,13 @@ double Sum_of_first(std::span<double> values, std::size_t count, Before before) 
 
 }  // namespace
 
-void Local_links::clear() {
-  starts_.assign(1, 0);
-  nodes_.clear();
-  logs_.clear();
-}
-
-void Local_links::Append(std::uint32_t node, double log) {
-  nodes_.push_back(node);
-  logs_.push_back(log);
-}
-
-Outlook K_clique_bounds::Judge(const Local_links& links, double sum, std::uint32_t missing,
+Outlook K_clique_bounds::Judge(const Ranked_links& links, double sum, std::uint32_t missing,
                                bool matter, Candidates& candidates) {
   for (;;) {
     if (candidates.size() < missing) return Outlook::none_passes;
-    Collect_pairs(links, candidates);
-    if (Drop_loose(missing, candidates)) continue;
+    if (Drop_loose(links, missing, matter, candidates)) continue;
     if (!matter || sum + Lowest_completion(missing, candidates) > accept_above_)
-      return Complete() ? Outlook::all_subsets_pass : Outlook::all_pass;
-    Compute_gains(missing, candidates);
+      return complete_ ? Outlook::all_subsets_pass : Outlook::all_pass;
     scratch_ = gains_;
     const double best = sum + Sum_of_first(scratch_, missing, std::greater<>());
     if (best < reject_below_) return Outlook::none_passes;
@@ -52,54 +41,53 @@ Outlook K_clique_bounds::Judge(const Local_links& links, double sum, std::uint32
   }
 }
 
-void K_clique_bounds::Collect_pairs(const Local_links& links, const Candidates& candidates) {
-  position_of_.resize(links.size(), 0);
-  starts_.assign(candidates.size() + 2, 0);
-  pairs_.clear();
-  for (std::uint32_t i = 0; i < candidates.size(); ++i) position_of_[candidates.nodes[i]] = i + 1;
-  for (std::uint32_t i = 0; i < candidates.size(); ++i) {
-    const Local_links::Row row = links[candidates.nodes[i]];
+/// Drops candidates with too few links to the others; true if there were any. Otherwise the others
+/// have been looked at.
+bool K_clique_bounds::Drop_loose(const Ranked_links& links, std::uint32_t missing, bool matter,
+                                 Candidates& candidates) {
+  is_candidate_.resize(std::max(is_candidate_.size(), links.size()), 0);
+  for (const std::uint32_t node : candidates.nodes) is_candidate_[node] = 1;
+  Look_at_links(links, missing, matter, candidates);
+  for (const std::uint32_t node : candidates.nodes) is_candidate_[node] = 0;
+  return Keep_if(candidates, [&](std::size_t i) { return link_counts_[i] + 1 >= missing; });
+}
+
+void K_clique_bounds::Look_at_links(const Ranked_links& links, std::uint32_t missing, bool matter,
+                                    const Candidates& candidates) {
+  link_counts_.clear();
+  gains_.clear();
+  lowest_ = std::numeric_limits<double>::infinity();
+  complete_ = true;
+  bool loose = false;
+  for (std::size_t i = 0; i < candidates.size(); ++i) {
+    const Ranked_links::Row row = links[candidates.nodes[i]];
+    if (logs_.size() <= row.nodes.size()) logs_.resize(row.nodes.size() + 1);
+    std::size_t count = 0;
     for (std::size_t at = 0; at < row.nodes.size(); ++at) {
-      const std::uint32_t position = position_of_[row.nodes[at]];
-      if (position == 0) continue;
-      pairs_.push_back({i, position - 1, row.logs[at]});
-      ++starts_[i + 2];
-      ++starts_[position + 1];
+      logs_[count] = row.logs[at];
+      count += is_candidate_[row.nodes[at]];
     }
-  }
-  for (const std::uint32_t node : candidates.nodes) position_of_[node] = 0;
-  std::partial_sum(starts_.begin(), starts_.end(), starts_.begin());
-  logs_.resize(2 * pairs_.size());
-  // Filling moves each start on to the start of the next candidate.
-  for (const Pair& pair : pairs_) {
-    logs_[starts_[pair.first + 1]++] = pair.log;
-    logs_[starts_[pair.second + 1]++] = pair.log;
+    link_counts_.push_back(count);
+    complete_ = complete_ && count + 1 == candidates.size();
+    loose = loose || count + 1 < missing;
+    if (loose || !matter) continue;
+    gains_.push_back(candidates.sums[i] + 0.5 * Strongest(count, missing - 1, links.Are_ranked()));
   }
 }
 
-bool K_clique_bounds::Complete() const {
-  const std::size_t count = starts_.size() - 2;
-  return pairs_.size() == count * (count - 1) / 2;
-}
-
-/// Drops candidates with too few links to the others; true if there were any.
-bool K_clique_bounds::Drop_loose(std::uint32_t missing, Candidates& candidates) {
-  return Keep_if(candidates,
-                 [&](std::size_t i) { return starts_[i + 1] - starts_[i] >= missing - 1; });
+/// The sum of the `count` strongest of so many `links` in logs_; notes the weakest of all.
+double K_clique_bounds::Strongest(std::size_t links, std::uint32_t count, bool ranked) {
+  const auto begin = logs_.begin();
+  const auto end = begin + static_cast<std::ptrdiff_t>(links);
+  lowest_ = std::min(lowest_, ranked ? *(end - 1) : *std::min_element(begin, end));
+  if (ranked) return std::reduce(begin, begin + count, 0.0);
+  return Sum_of_first(std::span(begin, end), count, std::greater<>());
 }
 
 double K_clique_bounds::Lowest_completion(std::uint32_t missing, const Candidates& candidates) {
   scratch_ = candidates.sums;
   const double lowest_sums = Sum_of_first(scratch_, missing, std::less<>());
-  return lowest_sums + Pair_count(missing) * *std::ranges::min_element(logs_);
-}
-
-void K_clique_bounds::Compute_gains(std::uint32_t missing, const Candidates& candidates) {
-  gains_.clear();
-  for (std::size_t i = 0; i < candidates.size(); ++i) {
-    const std::span<double> links(logs_.data() + starts_[i], logs_.data() + starts_[i + 1]);
-    gains_.push_back(candidates.sums[i] + 0.5 * Sum_of_first(links, missing - 1, std::greater<>()));
-  }
+  return lowest_sums + Pair_count(missing) * lowest_;
 }
 
 /// Keeps the candidates at positions with keep(position); true if any was dropped.

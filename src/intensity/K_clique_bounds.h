@@ -2,10 +2,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <vector>
 
-#include "graph/Node_set.h"
+#include "intensity/Ranked_links.h"
 
 namespace gns {
 
@@ -29,38 +28,11 @@ struct Candidates {
   }
 };
 
-/// Nodes numbered from 0, and for each its links to later ones, ascending, with their logarithms.
-class Local_links {
- public:
-  struct Row {
-    std::span<const std::uint32_t> nodes;
-    const double* logs;
-  };
-
-  [[nodiscard]] std::size_t size() const { return starts_.size() - 1; }
-  [[nodiscard]] Row operator[](std::uint32_t node) const {
-    const std::size_t start = starts_[node];
-    return {{nodes_.data() + start, starts_[node + 1] - start}, logs_.data() + start};
-  }
-  [[nodiscard]] const std::vector<double>& Logs() const { return logs_; }
-
-  void clear();
-  /// Appends a link of the node under construction, which Close_row() then ends.
-  void Append(std::uint32_t node, double log);
-  void Close_row() { starts_.push_back(nodes_.size()); }
-
- private:
-  std::vector<std::size_t> starts_ = {0};
-  std::vector<std::uint32_t> nodes_;
-  std::vector<double> logs_;
-};
-
 /// Bounds on the sum of logarithms of the k-cliques that contain a partial one.
 ///
 /// From above: a candidate brings its links to the partial k-clique and half of its best links to
 /// other candidates, and the best candidates are taken. From below: the weakest candidates, and for
-/// the links between them the weakest such link. The work is linear in the links between the
-/// candidates.
+/// the links between them the weakest such link. The work is linear in the links of the candidates.
 class K_clique_bounds {
  public:
   /// A sum below `reject_below` is sure to fail, one above `accept_above` is sure to pass.
@@ -70,31 +42,27 @@ class K_clique_bounds {
   /// Judges a partial k-clique with the sum `sum`, to which `missing` of the candidates, at least
   /// 2, have to be added, and drops candidates that can't be among them. Where the weights don't
   /// `matter` any more, only links that are missing rule candidates out.
-  Outlook Judge(const Local_links& links, double sum, std::uint32_t missing, bool matter,
+  Outlook Judge(const Ranked_links& links, double sum, std::uint32_t missing, bool matter,
                 Candidates& candidates);
 
  private:
-  struct Pair {
-    std::uint32_t first;
-    std::uint32_t second;
-    double log;
-  };
-
-  void Collect_pairs(const Local_links& links, const Candidates& candidates);
-  [[nodiscard]] bool Complete() const;
-  bool Drop_loose(std::uint32_t missing, Candidates& candidates);
+  bool Drop_loose(const Ranked_links& links, std::uint32_t missing, bool matter,
+                  Candidates& candidates);
+  void Look_at_links(const Ranked_links& links, std::uint32_t missing, bool matter,
+                     const Candidates& candidates);
+  [[nodiscard]] double Strongest(std::size_t links, std::uint32_t count, bool ranked);
   [[nodiscard]] double Lowest_completion(std::uint32_t missing, const Candidates& candidates);
-  void Compute_gains(std::uint32_t missing, const Candidates& candidates);
   template <typename Keep>
   static bool Keep_if(Candidates& candidates, Keep keep);
 
   double reject_below_;
   double accept_above_;
-  std::vector<std::uint32_t> position_of_;  ///< per node: position among the candidates + 1, or 0
-  std::vector<Pair> pairs_;                 ///< links between candidates, by their positions
-  std::vector<std::size_t> starts_;         ///< per candidate: its part of `logs_`
-  std::vector<double> logs_;                ///< per candidate: its links to other candidates
-  std::vector<double> gains_;
+  std::vector<unsigned char> is_candidate_;  ///< per node: 1 or 0
+  std::vector<std::size_t> link_counts_;     ///< per candidate: links to others
+  std::vector<double> gains_;                ///< per candidate
+  double lowest_ = 0.0;                      ///< of the links between candidates
+  bool complete_ = false;                    ///< no link is missing between candidates
+  std::vector<double> logs_;                 ///< of the candidate at hand, to others
   std::vector<double> scratch_;
 };
 

@@ -30,26 +30,37 @@ K_clique_search::K_clique_search(const Weighted_cliques& cliques, std::uint32_t 
       accept_above_(threshold_ + Rounding_margin(k, cliques.Largest_log())),
       bounds_(reject_below_, accept_above_),
       number_of_(std::size_t{cliques.Node_count()} + 1, 0),
-      levels_(k - 1),
-      k_clique_(k) {}
+      levels_(k - 2),
+      k_clique_(k) {
+  Link_nodes();
+}
+
+void K_clique_search::Link_nodes() {
+  links_.Close_row();  // there is no node 0
+  for (Node_index node = 1; node <= cliques_.Node_count(); ++node) {
+    cliques_.For_each_link(
+        node, k_, [&](Node_index neighbour, double log) { links_.Append(neighbour, log); });
+    links_.Close_row();
+  }
+}
 
 void K_clique_search::Search_from(Node_index root, K_cliques& found) {
   Tell_and_poll(found);
   if (!(threshold_ < std::numeric_limits<double>::infinity())) return;
+  if (links_[root].nodes.size() < k_ - 1) return;
   k_clique_[0] = root;
   Collect_candidates(root);
-  if (levels_[0].candidates.size() < k_ - 1) return;
   Link_candidates();
   if (!Begin_level(0, found)) return;
   for (std::uint32_t depth = 0;;) {
     Tell_and_poll(found);
     Level& level = levels_[depth];
     const std::uint32_t missing = k_ - 1 - depth;
-    if (missing > 1 && level.candidates.size() - level.next >= missing) {
+    if (missing > 2 && level.candidates.size() - level.next >= missing) {
       if (Descend(depth, found)) ++depth;
       continue;
     }
-    if (missing == 1) Take_each(level, found);
+    if (missing == 2) Take_pairs(level, found);
     if (depth == 0) return;
     --depth;
   }
@@ -64,24 +75,23 @@ void K_clique_search::Tell_and_poll(const K_cliques& found) const {
 }
 
 void K_clique_search::Collect_candidates(Node_index root) {
+  const Local_links::Row row = links_[root];
   Level& level = levels_[0];
-  level.candidates.clear();
+  level.candidates.nodes.resize(row.nodes.size());
+  std::iota(level.candidates.nodes.begin(), level.candidates.nodes.end(), 0);
+  level.candidates.sums.assign(row.logs, row.logs + row.nodes.size());
   level.sum = 0.0;
   level.all_pass = false;
-  names_.clear();
-  cliques_.For_each_link(root, k_, [&](Node_index node, double log) {
-    level.candidates.push_back(static_cast<std::uint32_t>(names_.size()), log);
-    names_.push_back(node);
-  });
+  names_.assign(row.nodes.begin(), row.nodes.end());
 }
 
 void K_clique_search::Link_candidates() {
   for (std::uint32_t i = 0; i < names_.size(); ++i) number_of_[names_[i]] = i + 1;
   local_.clear();
   for (const Node_index node : names_) {
-    cliques_.For_each_link(node, k_, [&](Node_index neighbour, double log) {
-      if (number_of_[neighbour] != 0) local_.Append(number_of_[neighbour] - 1, log);
-    });
+    const Local_links::Row row = links_[node];
+    for (std::size_t i = 0; i < row.nodes.size(); ++i)
+      if (number_of_[row.nodes[i]] != 0) local_.Append(number_of_[row.nodes[i]] - 1, row.logs[i]);
     local_.Close_row();
   }
   for (const Node_index node : names_) number_of_[node] = 0;
@@ -90,6 +100,7 @@ void K_clique_search::Link_candidates() {
   highest_log_ = -std::numeric_limits<double>::infinity();
   Note_range(levels_[0].candidates.sums);
   Note_range(local_.Logs());
+  if (bounded_ && k_ > 3) ranked_.Take(local_);
 }
 
 void K_clique_search::Note_range(std::span<const double> logs) {
@@ -107,13 +118,14 @@ bool K_clique_search::Begin_level(std::uint32_t depth, K_cliques& found) {
   if (level.candidates.size() < missing) return false;
   if (bounded_ && missing > 2) {
     const Outlook outlook =
-        bounds_.Judge(local_, level.sum, missing, !level.all_pass, level.candidates);
+        bounds_.Judge(ranked_, level.sum, missing, !level.all_pass, level.candidates);
     if (outlook == Outlook::none_passes) return false;
     if (outlook == Outlook::all_subsets_pass) {
       Take_all_subsets(level, depth, found);
       return false;
     }
     level.all_pass = outlook == Outlook::all_pass;
+    if (depth == 0 && missing > 3) ranked_.Rank(level.candidates.nodes);
   }
   level.best_sum = *std::ranges::max_element(level.candidates.sums);
   return true;
@@ -130,7 +142,10 @@ bool K_clique_search::Descend(std::uint32_t depth, K_cliques& found) {
   below.all_pass = level.all_pass;
   if (!level.all_pass && bounded_ && Is_hopeless(level, below.sum, k_ - 2 - depth)) return false;
   k_clique_[depth + 1] = names_[node];
-  Extend(level, at, below.candidates);
+  below.candidates.clear();
+  For_each_behind(level, at, [&](std::uint32_t candidate, double candidate_sum) {
+    below.candidates.push_back(candidate, candidate_sum);
+  });
   return Begin_level(depth + 1, found);
 }
 
@@ -140,26 +155,34 @@ bool K_clique_search::Is_hopeless(const Level& level, double sum, std::uint32_t 
   return sum + missing * level.best_sum + links_between * highest_log_ < reject_below_;
 }
 
-/// The candidates behind position `at` that are linked to the one there.
-void K_clique_search::Extend(const Level& level, std::size_t at, Candidates& candidates) const {
+/// Calls use(candidate, its sum with the one at position `at`) for those behind `at` that are
+/// linked to the one there.
+template <typename Use>
+void K_clique_search::For_each_behind(const Level& level, std::size_t at, Use use) const {
   const std::vector<std::uint32_t>& nodes = level.candidates.nodes;
   const Local_links::Row row = local_[nodes[at]];
-  candidates.clear();
   std::size_t next = at + 1;
   for (std::size_t i = 0; i < row.nodes.size(); ++i) {
     while (next < nodes.size() && nodes[next] < row.nodes[i]) ++next;
     if (next == nodes.size()) return;
-    if (nodes[next] == row.nodes[i])
-      candidates.push_back(nodes[next], level.candidates.sums[next] + row.logs[i]);
+    if (nodes[next] == row.nodes[i]) use(nodes[next], level.candidates.sums[next] + row.logs[i]);
   }
 }
 
-/// Completes a partial k-clique that lacks one node.
-void K_clique_search::Take_each(const Level& level, K_cliques& found) {
-  visited_ += level.candidates.size();
-  for (std::size_t i = 0; i < level.candidates.size(); ++i) {
-    k_clique_.back() = names_[level.candidates.nodes[i]];
-    if (level.all_pass || Passes(level.sum + level.candidates.sums[i])) found.push_back(k_clique_);
+/// Completes a partial k-clique that lacks two nodes.
+void K_clique_search::Take_pairs(const Level& level, K_cliques& found) {
+  for (std::size_t at = 0; at + 1 < level.candidates.size(); ++at) {
+    Tell_and_poll(found);
+    ++visited_;
+    const std::uint32_t node = level.candidates.nodes[at];
+    const double sum = level.sum + level.candidates.sums[at];
+    if (!level.all_pass && bounded_ && Is_hopeless(level, sum, 1)) continue;
+    k_clique_[k_ - 2] = names_[node];
+    For_each_behind(level, at, [&](std::uint32_t last, double last_sum) {
+      ++visited_;
+      k_clique_[k_ - 1] = names_[last];
+      if (level.all_pass || Passes(sum + last_sum)) found.push_back(k_clique_);
+    });
   }
 }
 

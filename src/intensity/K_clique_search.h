@@ -6,6 +6,7 @@
 
 #include "intensity/K_clique_bounds.h"
 #include "intensity/K_cliques.h"
+#include "intensity/Ranked_links.h"
 #include "intensity/Sub_links.h"
 #include "intensity/Weighted_cliques.h"
 
@@ -42,11 +43,13 @@ class K_clique_search {
   void Collect_candidates(Node_index root);
   void Link_candidates();
   void Note_range(std::span<const double> logs);
+  void Link_nodes();
   bool Begin_level(std::uint32_t depth, K_cliques& found);
   bool Descend(std::uint32_t depth, K_cliques& found);
   [[nodiscard]] bool Is_hopeless(const Level& level, double sum, std::uint32_t missing) const;
-  void Extend(const Level& level, std::size_t at, Candidates& candidates) const;
-  void Take_each(const Level& level, K_cliques& found);
+  template <typename Use>
+  void For_each_behind(const Level& level, std::size_t at, Use use) const;
+  void Take_pairs(const Level& level, K_cliques& found);
   void Take_all_subsets(const Level& level, std::uint32_t depth, K_cliques& found);
   [[nodiscard]] bool Passes(double sum);
   [[nodiscard]] bool Passes_exactly();
@@ -58,13 +61,15 @@ class K_clique_search {
   double reject_below_;  ///< a sum below fails, in whatever order it was added up
   double accept_above_;
   K_clique_bounds bounds_;
+  Local_links links_;                     ///< of the nodes, inside cliques of k nodes or more
   Local_links local_;                     ///< links between the candidates of the root
+  Ranked_links ranked_;                   ///< the same, or those between candidates that are left
   std::vector<Node_index> names_;         ///< per candidate of the root: its node
   std::vector<std::uint32_t> number_of_;  ///< per node: its position in names_ + 1, or 0
   double highest_log_ = 0.0;              ///< of the links at the root and in local_
   bool bounded_ = false;                  ///< all of them are finite
   std::uint64_t visited_ = 0;             ///< whole k-cliques and parts of them
-  std::vector<Level> levels_;             ///< [d]: d + 1 nodes are chosen
+  std::vector<Level> levels_;             ///< [d]: d + 1 nodes are chosen, 2 or more are missing
   std::vector<Node_index> k_clique_;
   std::vector<std::uint32_t> subset_;
   Sub_links sub_links_;  ///< of the k-clique decided exactly last
