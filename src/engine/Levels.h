@@ -42,9 +42,7 @@ struct Level {
   Level_statistics statistics;
 
   /// The links of the communities, with the intensity method: computed when they are asked for.
-  [[nodiscard]] K_clique_com_links K_clique_links() const {
-    return {*k_cliques, com_k_cliques};
-  }
+  [[nodiscard]] K_clique_com_links K_clique_links() const { return {*k_cliques, com_k_cliques}; }
 };
 
 /// Finds the communities at one k after the other, best with k descending. Touches no file. Reports

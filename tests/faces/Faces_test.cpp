@@ -4,8 +4,8 @@
 
 #include "Directory_contents.h"
 #include "Temp_dir.h"
-#include "vorlane_operations.h"
 #include "vorlane_cli.h"
+#include "vorlane_operations.h"
 
 namespace gns {
 namespace {
