@@ -4,7 +4,6 @@
 #include <functional>
 #include <limits>
 #include <numeric>
-#include <span>
 
 namespace gns {
 
@@ -45,7 +44,7 @@ Outlook K_clique_bounds::Judge(const Ranked_links& links, double sum, std::uint3
 /// have been looked at.
 bool K_clique_bounds::Drop_loose(const Ranked_links& links, std::uint32_t missing, bool matter,
                                  Candidates& candidates) {
-  is_candidate_.resize(std::max(is_candidate_.size(), links.size()), 0);
+  is_candidate_.resize(std::max(is_candidate_.size(), links.Node_count()), 0);
   for (const std::uint32_t node : candidates.nodes) is_candidate_[node] = 1;
   Look_at_links(links, missing, matter, candidates);
   for (const std::uint32_t node : candidates.nodes) is_candidate_[node] = 0;
@@ -60,7 +59,7 @@ void K_clique_bounds::Look_at_links(const Ranked_links& links, std::uint32_t mis
   complete_ = true;
   bool loose = false;
   for (std::size_t i = 0; i < candidates.size(); ++i) {
-    const Ranked_links::Row row = links[candidates.nodes[i]];
+    const Link_rows::Row row = links[candidates.nodes[i]];
     if (logs_.size() <= row.nodes.size()) logs_.resize(row.nodes.size() + 1);
     std::size_t count = 0;
     for (std::size_t at = 0; at < row.nodes.size(); ++at) {
@@ -71,17 +70,10 @@ void K_clique_bounds::Look_at_links(const Ranked_links& links, std::uint32_t mis
     complete_ = complete_ && count + 1 == candidates.size();
     loose = loose || count + 1 < missing;
     if (loose || !matter) continue;
-    gains_.push_back(candidates.sums[i] + 0.5 * Strongest(count, missing - 1, links.Are_ranked()));
+    lowest_ = std::min(lowest_, logs_[count - 1]);
+    gains_.push_back(candidates.sums[i] +
+                     0.5 * std::reduce(logs_.begin(), logs_.begin() + (missing - 1), 0.0));
   }
-}
-
-/// The sum of the `count` strongest of so many `links` in logs_; notes the weakest of all.
-double K_clique_bounds::Strongest(std::size_t links, std::uint32_t count, bool ranked) {
-  const auto begin = logs_.begin();
-  const auto end = begin + static_cast<std::ptrdiff_t>(links);
-  lowest_ = std::min(lowest_, ranked ? *(end - 1) : *std::min_element(begin, end));
-  if (ranked) return std::reduce(begin, begin + count, 0.0);
-  return Sum_of_first(std::span(begin, end), count, std::greater<>());
 }
 
 double K_clique_bounds::Lowest_completion(std::uint32_t missing, const Candidates& candidates) {

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "intensity/Ranked_links.h"
+#include "intensity/Local_links.h"
 
 namespace gns {
 
@@ -50,7 +50,6 @@ class K_clique_bounds {
                   Candidates& candidates);
   void Look_at_links(const Ranked_links& links, std::uint32_t missing, bool matter,
                      const Candidates& candidates);
-  [[nodiscard]] double Strongest(std::size_t links, std::uint32_t count, bool ranked);
   [[nodiscard]] double Lowest_completion(std::uint32_t missing, const Candidates& candidates);
   template <typename Keep>
   static bool Keep_if(Candidates& candidates, Keep keep);

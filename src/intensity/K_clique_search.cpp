@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "control/Run_control.h"
+#include "intensity/Hopeful_nodes.h"
 
 namespace gns {
 
@@ -36,10 +37,13 @@ K_clique_search::K_clique_search(const Weighted_cliques& cliques, std::uint32_t 
 }
 
 void K_clique_search::Link_nodes() {
+  const Hopeful_nodes hopeful(cliques_, k_, reject_below_);
   links_.Close_row();  // there is no node 0
   for (Node_index node = 1; node <= cliques_.Node_count(); ++node) {
-    cliques_.For_each_link(
-        node, k_, [&](Node_index neighbour, double log) { links_.Append(neighbour, log); });
+    if (hopeful[node])
+      cliques_.For_each_link(node, k_, [&](Node_index neighbour, double log, std::uint32_t) {
+        if (hopeful[neighbour]) links_.Append(neighbour, log);
+      });
     links_.Close_row();
   }
 }
@@ -51,6 +55,7 @@ void K_clique_search::Search_from(Node_index root, K_cliques& found) {
   k_clique_[0] = root;
   Collect_candidates(root);
   Link_candidates();
+  if (local_.Logs().size() < std::size_t{k_ - 1} * (k_ - 2) / 2) return;
   if (!Begin_level(0, found)) return;
   for (std::uint32_t depth = 0;;) {
     Tell_and_poll(found);
@@ -75,7 +80,7 @@ void K_clique_search::Tell_and_poll(const K_cliques& found) const {
 }
 
 void K_clique_search::Collect_candidates(Node_index root) {
-  const Local_links::Row row = links_[root];
+  const Link_rows::Row row = links_[root];
   Level& level = levels_[0];
   level.candidates.nodes.resize(row.nodes.size());
   std::iota(level.candidates.nodes.begin(), level.candidates.nodes.end(), 0);
@@ -89,18 +94,29 @@ void K_clique_search::Link_candidates() {
   for (std::uint32_t i = 0; i < names_.size(); ++i) number_of_[names_[i]] = i + 1;
   local_.clear();
   for (const Node_index node : names_) {
-    const Local_links::Row row = links_[node];
+    const Link_rows::Row row = links_[node];
     for (std::size_t i = 0; i < row.nodes.size(); ++i)
       if (number_of_[row.nodes[i]] != 0) local_.Append(number_of_[row.nodes[i]] - 1, row.logs[i]);
     local_.Close_row();
   }
-  for (const Node_index node : names_) number_of_[node] = 0;
-
   bounded_ = true;
   highest_log_ = -std::numeric_limits<double>::infinity();
   Note_range(levels_[0].candidates.sums);
   Note_range(local_.Logs());
-  if (bounded_ && k_ > 3) ranked_.Take(local_);
+  if (bounded_ && k_ > 3) Rank_links();
+  for (const Node_index node : names_) number_of_[node] = 0;
+}
+
+/// The same links as those between the candidates of the root, from both of their ends.
+void K_clique_search::Rank_links() {
+  ranked_.Begin(names_.size());
+  for (std::uint32_t i = 0; i < names_.size(); ++i) {
+    for (const Weighted_cliques::Link_end& end : cliques_.Ranked_links(names_[i]))
+      if (end.clique_size >= k_ && number_of_[end.node] != 0)
+        ranked_.Append(number_of_[end.node] - 1, end.log);
+    ranked_.Close_row_of(i);
+  }
+  levels_[0].links = &ranked_;
 }
 
 void K_clique_search::Note_range(std::span<const double> logs) {
@@ -118,14 +134,17 @@ bool K_clique_search::Begin_level(std::uint32_t depth, K_cliques& found) {
   if (level.candidates.size() < missing) return false;
   if (bounded_ && missing > 2) {
     const Outlook outlook =
-        bounds_.Judge(ranked_, level.sum, missing, !level.all_pass, level.candidates);
+        bounds_.Judge(*level.links, level.sum, missing, !level.all_pass, level.candidates);
     if (outlook == Outlook::none_passes) return false;
     if (outlook == Outlook::all_subsets_pass) {
       Take_all_subsets(level, depth, found);
       return false;
     }
     level.all_pass = outlook == Outlook::all_pass;
-    if (depth == 0 && missing > 3) ranked_.Rank(level.candidates.nodes);
+    if (missing > 3 && level.candidates.size() * 2 < level.links->Row_count()) {
+      level.own_links.Take_part(*level.links, level.candidates.nodes);
+      level.links = &level.own_links;
+    }
   }
   level.best_sum = *std::ranges::max_element(level.candidates.sums);
   return true;
@@ -140,6 +159,7 @@ bool K_clique_search::Descend(std::uint32_t depth, K_cliques& found) {
   const std::uint32_t node = level.candidates.nodes[at];
   below.sum = level.sum + level.candidates.sums[at];
   below.all_pass = level.all_pass;
+  below.links = level.links;
   if (!level.all_pass && bounded_ && Is_hopeless(level, below.sum, k_ - 2 - depth)) return false;
   k_clique_[depth + 1] = names_[node];
   below.candidates.clear();
@@ -160,7 +180,7 @@ bool K_clique_search::Is_hopeless(const Level& level, double sum, std::uint32_t 
 template <typename Use>
 void K_clique_search::For_each_behind(const Level& level, std::size_t at, Use use) const {
   const std::vector<std::uint32_t>& nodes = level.candidates.nodes;
-  const Local_links::Row row = local_[nodes[at]];
+  const Link_rows::Row row = local_[nodes[at]];
   std::size_t next = at + 1;
   for (std::size_t i = 0; i < row.nodes.size(); ++i) {
     while (next < nodes.size() && nodes[next] < row.nodes[i]) ++next;

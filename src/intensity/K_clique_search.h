@@ -6,7 +6,7 @@
 
 #include "intensity/K_clique_bounds.h"
 #include "intensity/K_cliques.h"
-#include "intensity/Ranked_links.h"
+#include "intensity/Local_links.h"
 #include "intensity/Sub_links.h"
 #include "intensity/Weighted_cliques.h"
 
@@ -37,6 +37,8 @@ class K_clique_search {
     double sum = 0.0;       ///< of the partial k-clique
     double best_sum = 0.0;  ///< of the candidates
     bool all_pass = false;
+    const Ranked_links* links = nullptr;  ///< between the candidates and perhaps some more nodes
+    Ranked_links own_links;               ///< for levels where these would be too many more
   };
 
   void Tell_and_poll(const K_cliques& found) const;
@@ -44,6 +46,7 @@ class K_clique_search {
   void Link_candidates();
   void Note_range(std::span<const double> logs);
   void Link_nodes();
+  void Rank_links();
   bool Begin_level(std::uint32_t depth, K_cliques& found);
   bool Descend(std::uint32_t depth, K_cliques& found);
   [[nodiscard]] bool Is_hopeless(const Level& level, double sum, std::uint32_t missing) const;
@@ -61,9 +64,9 @@ class K_clique_search {
   double reject_below_;  ///< a sum below fails, in whatever order it was added up
   double accept_above_;
   K_clique_bounds bounds_;
-  Local_links links_;                     ///< of the nodes, inside cliques of k nodes or more
-  Local_links local_;                     ///< links between the candidates of the root
-  Ranked_links ranked_;                   ///< the same, or those between candidates that are left
+  Link_rows links_;                       ///< of the nodes, inside cliques of k nodes or more
+  Link_rows local_;                       ///< links between the candidates of the root
+  Ranked_links ranked_;                   ///< the same
   std::vector<Node_index> names_;         ///< per candidate of the root: its node
   std::vector<std::uint32_t> number_of_;  ///< per node: its position in names_ + 1, or 0
   double highest_log_ = 0.0;              ///< of the links at the root and in local_

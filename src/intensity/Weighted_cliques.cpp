@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 #include "search/Clique_vector.h"
 
@@ -26,6 +27,7 @@ Weighted_cliques::Weighted_cliques(const Clique_vector& cliques, const Index_lin
       for (const Node_index node : cliques[i]) enter(node, i);
   });
   Look_at_links_of_cliques();
+  Rank_links();
   for (std::size_t place = 0; place < index_links.size(); ++place) {
     const double log = std::abs(logs_.At_place(place));
     if (std::isfinite(log)) largest_log_ = std::max(largest_log_, log);
@@ -54,6 +56,28 @@ void Weighted_cliques::Look_at_links_of_cliques() {
     for (const Node_index second : row) place_of[second] = none;
   }
   for (const Lowest_log& log : lowest) lowest_logs_.push_back(log.Value());
+}
+
+void Weighted_cliques::Rank_links() {
+  constexpr std::uint32_t least_k = 3;
+  first_end_.assign(Node_count() + std::size_t{2}, 0);
+  const auto for_each_end = [&](auto use) {
+    for (Node_index first = 1; first <= Node_count(); ++first)
+      For_each_link(first, least_k, [&](Node_index second, double log, std::uint32_t size) {
+        if (std::isnan(log)) log = std::numeric_limits<double>::infinity();
+        use(first, Link_end{log, second, size});
+        use(second, Link_end{log, first, size});
+      });
+  };
+  for_each_end([&](Node_index node, const Link_end&) { ++first_end_[node + std::size_t{1}]; });
+  std::partial_sum(first_end_.begin(), first_end_.end(), first_end_.begin());
+  link_ends_.resize(first_end_.back());
+  std::vector<std::size_t> next(first_end_);
+  for_each_end([&](Node_index node, const Link_end& end) { link_ends_[next[node]++] = end; });
+  for (Node_index node = 1; node <= Node_count(); ++node)
+    std::sort(link_ends_.begin() + static_cast<std::ptrdiff_t>(first_end_[node]),
+              link_ends_.begin() + static_cast<std::ptrdiff_t>(first_end_[node + 1]),
+              [](const Link_end& a, const Link_end& b) { return a.log > b.log; });
 }
 
 }  // namespace gns

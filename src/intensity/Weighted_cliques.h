@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <span>
 #include <vector>
 
 #include "graph/Adjacency.h"
@@ -31,9 +32,9 @@ class Weighted_cliques {
     return largest_clique_of_[node];
   }
 
-  /// Calls use(node, logarithm) for each node behind `first` that a link inside a clique of k nodes
-  /// or more leads to, ascending. Links of weight 0 are left out: no set with one has an intensity
-  /// above any threshold.
+  /// Calls use(node, logarithm, size of the largest clique around the link) for each node behind
+  /// `first` that a link inside a clique of k nodes or more leads to, ascending. Links of weight 0
+  /// are left out: no set with one has an intensity above any threshold.
   template <typename Use>
   void For_each_link(Node_index first, std::uint32_t k, Use use) const {
     if (largest_clique_of_[first] < k) return;
@@ -42,8 +43,19 @@ class Weighted_cliques {
     for (std::size_t i = 0; i < row.size(); ++i) {
       const double log = logs_.At_place(start + i);
       if (clique_sizes_[start + i] >= k && log != -std::numeric_limits<double>::infinity())
-        use(row[i], log);
+        use(row[i], log, clique_sizes_[start + i]);
     }
+  }
+
+  struct Link_end {
+    double log;  ///< infinite for a weight without a logarithm
+    Node_index node;
+    std::uint32_t clique_size;  ///< of the largest clique around the link
+  };
+  /// The nodes on the other side of the links of a node, the strongest first. Links outside cliques
+  /// and links of weight 0 are left out.
+  [[nodiscard]] std::span<const Link_end> Ranked_links(Node_index node) const {
+    return {link_ends_.data() + first_end_[node], first_end_[node + 1] - first_end_[node]};
   }
 
   /// True if accepts(lowest logarithm in the clique) holds for some clique around `k_clique`.
@@ -56,6 +68,7 @@ class Weighted_cliques {
 
  private:
   void Look_at_links_of_cliques();
+  void Rank_links();
 
   const Clique_vector& cliques_;
   Link_logs logs_;
@@ -63,6 +76,8 @@ class Weighted_cliques {
   std::vector<std::uint32_t> largest_clique_of_;  ///< per node
   std::vector<double> lowest_logs_;               ///< per clique
   Adjacency cliques_of_;                          ///< per node: the cliques that hold it
+  std::vector<std::size_t> first_end_;            ///< per node: position in link_ends_, and the end
+  std::vector<Link_end> link_ends_;
   std::uint32_t largest_clique_ = 0;
   double largest_log_ = 0.0;
 };
