@@ -3,10 +3,14 @@
 execute_process(COMMAND ${NM} -D --defined-only --format=just-symbols ${LIBRARY}
                 OUTPUT_VARIABLE exports COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "[^\n]+" exports "${exports}")
-list(TRANSFORM exports REPLACE "^Java_zumo_community_ExternalCalls_" "")
+list(TRANSFORM exports REPLACE "^Java_zumo_community_" "")
 list(SORT exports)
-set(entries Find_1coms Read_1error_1message Read_1state_1report Reset_1stop_1process
-            Stop_1at_1once Stop_1process failureKind findAndLoadComs loadComs)
+set(entries cliques close exactCliqueCount names next open openLinks readProgress report stop)
+list(TRANSFORM entries PREPEND "Analysis_")
+foreach(entry Find_1coms Read_1error_1message Read_1state_1report Reset_1stop_1process Stop_1at_1once
+              Stop_1process failureKind findAndLoadComs loadComs)
+  list(APPEND entries ExternalCalls_${entry})
+endforeach()
 if(NOT exports STREQUAL entries)
   message(FATAL_ERROR "exported: ${exports}")
 endif()

@@ -62,9 +62,25 @@ Int_array Pairs_of(JNIEnv* env, const std::map<std::uint32_t, std::uint32_t>& ma
   return writer.Take();
 }
 
-Int_array Ends_of(JNIEnv* env, std::span<const std::size_t> starts) {
-  Int_array_writer writer(env, starts.empty() ? 0 : starts.size() - 1);
-  for (std::size_t row = 1; row < starts.size(); ++row) writer.Put(static_cast<jint>(starts[row]));
+Int_array Pairs_of(JNIEnv* env, std::span<const vorlane::Node_pair> pairs) {
+  Int_array_writer writer(env, 2 * pairs.size());
+  for (const auto& [first, second] : pairs) {
+    writer.Put(static_cast<jint>(first));
+    writer.Put(static_cast<jint>(second));
+  }
+  return writer.Take();
+}
+
+Int_array Overlaps_of(JNIEnv* env, std::span<const vorlane::Overlap> overlaps) {
+  Int_array_writer writer(env, 3 * overlaps.size());
+  for (const auto& [first, second, shared] : overlaps)
+    for (const std::uint32_t value : {first, second, shared}) writer.Put(static_cast<jint>(value));
+  return writer.Take();
+}
+
+Int_array Int_array_of(JNIEnv* env, std::span<const std::size_t> places, std::size_t times) {
+  Int_array_writer writer(env, places.size());
+  for (const std::size_t place : places) writer.Put(static_cast<jint>(times * place));
   return writer.Take();
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "bindings/java/native/Local_ref.h"
+#include "vorlane/rows.h"
 
 namespace gns {
 
@@ -46,7 +47,15 @@ class Int_array_writer {
 Int_array Int_array_of(JNIEnv* env, std::span<const std::uint32_t> values);
 /// The keys and the values of a map in turn.
 Int_array Pairs_of(JNIEnv* env, const std::map<std::uint32_t, std::uint32_t>& map);
+/// Pairs of nodes; overlaps in threes.
+Int_array Pairs_of(JNIEnv* env, std::span<const vorlane::Node_pair> pairs);
+Int_array Overlaps_of(JNIEnv* env, std::span<const vorlane::Overlap> overlaps);
+/// Places, each a number of times.
+Int_array Int_array_of(JNIEnv* env, std::span<const std::size_t> places, std::size_t times = 1);
 /// For rows that start at these places and end with the last of them: where each row ends.
-Int_array Ends_of(JNIEnv* env, std::span<const std::size_t> starts);
+inline Int_array Ends_of(JNIEnv* env, std::span<const std::size_t> starts,
+                         std::size_t numbers_each = 1) {
+  return Int_array_of(env, starts.empty() ? starts : starts.subspan(1), numbers_each);
+}
 
 }  // namespace gns

@@ -5,7 +5,9 @@
 #include <utility>
 
 #include "bindings/java/native/Java_strings.h"
+#include "bindings/java/native/String_array.h"
 #include "bindings/java/native/Translation_steps.h"
+#include "files/Result_lines.h"
 
 namespace gns {
 
@@ -14,13 +16,13 @@ namespace {
 /// More than a part has alive at any time, what is kept of it included.
 constexpr std::size_t references_of_part = 32;
 
+constexpr std::size_t nodes_of_link = 2;
+
 /// Some JVMs count what is alive already, others what is to come.
 void Ensure_references(JNIEnv* env, std::size_t parts) {
   if (env->EnsureLocalCapacity(static_cast<jint>(references_of_part * parts)) != JNI_OK)
     throw Java_error_pending();
 }
-constexpr std::size_t nodes_of_link = 2;
-constexpr std::size_t numbers_of_overlap = 3;
 
 Row_arrays Rows_of(JNIEnv* env, const Row_array<std::uint32_t>& rows) {
   return {Ends_of(env, rows.Starts()), Int_array_of(env, rows.Values())};
@@ -44,17 +46,15 @@ Row_arrays K_clique_links_of(JNIEnv* env, const Level& level) {
   return {ends.Take(), nodes.Take()};
 }
 
-/// An array of `count` strings that are made one by one.
-template <typename Make>
-Local_ref<jobjectArray> Strings_of(JNIEnv* env, std::uint32_t count, Make make) {
-  const Local_ref<jclass> type(env, Needed(env->FindClass("java/lang/String")));
-  Local_ref<jobjectArray> strings(
-      env, Needed(env->NewObjectArray(static_cast<jsize>(count), type.Get(), nullptr)));
-  for (std::uint32_t i = 0; i < count; ++i) {
-    const Local_ref<jstring> string(env, Needed(make(i)));
-    env->SetObjectArrayElement(strings.Get(), static_cast<jsize>(i), string.Get());
-  }
-  return strings;
+/// The overlaps by the communities' signed positions, as the files are read back.
+Com_graph In_order_of_signs(const Level& level) {
+  Com_graph overlaps = level.com_graph;
+  const std::uint32_t exact_count = level.communities->exact_com_count;
+  std::ranges::sort(overlaps, {}, [exact_count](const Com_overlap& overlap) {
+    return std::pair(Signed_index(overlap.first, exact_count),
+                     Signed_index(overlap.second, exact_count));
+  });
+  return overlaps;
 }
 
 }  // namespace
@@ -76,14 +76,9 @@ void Kept_results::Keep_links(const Link_map& links) {
   Keep([&] {
     const Byte_strings strings(env_);
     const Name_table& names = links.Names();
-    Local_ref<jobjectArray> java_names = Strings_of(
+    Local_ref<jobjectArray> java_names = String_array(
         env_, names.size(), [&](std::uint32_t i) { return strings.C_to_String(names[i]); });
-    Int_array_writer ends(env_, nodes_of_link * links.Pairs().size());
-    for (const Index_pair& link : links.Pairs()) {
-      ends.Put(static_cast<jint>(link.first));
-      ends.Put(static_cast<jint>(link.second));
-    }
-    network_.emplace(Network_arrays{std::move(java_names), ends.Take()});
+    network_.emplace(Network_arrays{std::move(java_names), Pairs_of(env_, links.Pairs())});
   });
 }
 
@@ -92,7 +87,7 @@ void Kept_results::Keep_cliques(const Clique_vector& cliques, std::uint32_t exac
                                 const Node_names& names) {
   Keep([&] {
     Modified_utf8 encoding;
-    names_.emplace(Strings_of(env_, names.size() + 1, [&](Node_index node) {
+    names_.emplace(String_array(env_, names.size() + 1, [&](Node_index node) {
       return Utf_to_String(env_, encoding, names[node]);
     }));
     cliques_.emplace(Clique_arrays{Behind(exact_count, cliques.size()), Rows_of(env_, cliques)});
@@ -105,10 +100,6 @@ void Kept_results::Keep_level(const Level& level, const Index_links& links) {
 
 Level_arrays Kept_results::Arrays_of(const Level& level, const Index_links& links) const {
   const Communities& found = *level.communities;
-  Int_array_writer overlaps(env_, numbers_of_overlap * level.com_graph.size());
-  for (const Com_overlap& overlap : level.com_graph)
-    for (const std::uint32_t value : {overlap.first, overlap.second, overlap.shared})
-      overlaps.Put(static_cast<jint>(value));
   const Level_statistics& statistics = level.statistics;
   const Distributions& exact = statistics.exact ? *statistics.exact : statistics.all;
   const auto pairs_of = [this](const Distribution& pairs) { return Pairs_of(env_, pairs); };
@@ -117,29 +108,26 @@ Level_arrays Kept_results::Arrays_of(const Level& level, const Index_links& link
           Rows_of(env_, found.coms),
           Links_of(level, links),
           Rows_of(env_, found.com_cliques),
-          overlaps.Take(),
+          Overlaps_of(env_, In_order_of_signs(level)),
           {pairs_of(exact.size), pairs_of(exact.degree), pairs_of(exact.overlap),
            pairs_of(exact.membership)}};
 }
 
-/// In the direction in which the files have them.
+/// In the direction in which the files have them: that of the network. In approximate cliques there
+/// are pairs that are no links; they count as links the other way round.
 Row_arrays Kept_results::Links_of(const Level& level, const Index_links& links) const {
   if (level.k_cliques) return K_clique_links_of(env_, level);
   const Row_array<Index_pair>& found = level.communities->com_links;
-  Int_array_writer ends(env_, found.size());
+  const bool all_exact = level.communities->exact_com_count == level.communities->size();
+  if (all_exact && !directed_)
+    return {Ends_of(env_, found.Starts(), nodes_of_link), Pairs_of(env_, found.Values())};
   Int_array_writer nodes(env_, nodes_of_link * found.Values().size());
-  for (std::size_t com = 1; com < found.Starts().size(); ++com)
-    ends.Put(static_cast<jint>(nodes_of_link * found.Starts()[com]));
-  // Of a network without directions all links are known this way round, but in approximate cliques
-  // there are pairs that are no links.
-  const bool may_be_turned =
-      directed_ || level.communities->exact_com_count < level.communities->size();
   for (const auto& [first, second] : found.Values()) {
-    const bool turned = may_be_turned && !links.contains(first, second);
+    const bool turned = !links.contains(first, second);
     nodes.Put(static_cast<jint>(turned ? second : first));
     nodes.Put(static_cast<jint>(turned ? first : second));
   }
-  return {ends.Take(), nodes.Take()};
+  return {Ends_of(env_, found.Starts(), nodes_of_link), nodes.Take()};
 }
 
 /// The positions of what is approximate: behind the exact ones. Position 0 counts as exact, since

@@ -16,10 +16,14 @@ public class AgreementTest extends Fixture {
   }
 
   private void check(Run run, String kind, String file, String pattern) throws Exception {
-    Map<String, List<String>> afterRun = Told.of(run.findAndLoad(), kind);
+    OutParams found = run.findAndLoad();
+    OutParams loaded = Run.load(out.toString());
+    Map<String, List<String>> afterRun = Told.of(found, kind);
     Told.in(out, afterRun.keySet())
         .forEach((name, lines) -> assertEquals(name, lines, afterRun.get(name)));
-    assertEquals(Told.of(Run.load(out.toString()), kind), afterRun);
+    assertEquals(Told.of(loaded, kind), afterRun);
+    for (int k : found.getKs())  // in the same order, too
+      assertEquals(loaded.getCommunityGraph(k), found.getCommunityGraph(k));
     List<String> lines = afterRun.get(file);
     assertTrue(lines.toString(), lines.stream().anyMatch(line -> line.matches(pattern)));
     assertEquals(" done.", ExternalCalls.Read_state_report());

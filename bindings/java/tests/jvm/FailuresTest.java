@@ -115,7 +115,8 @@ public class FailuresTest extends Fixture {
         child.out().lines().filter(line -> !line.startsWith(" ")).toList());
   }
 
-  /** What appears on the terminal is the trace lines, to the letter, and not a word of the JVM. */
+  /** What appears on the terminal is the trace lines, to the letter, and not a word of the JVM. An
+   * analysis shows nothing. */
   @Test
   public void andWhatIsShown() throws Exception {
     String choir = example("choir.txt");
@@ -126,7 +127,7 @@ public class FailuresTest extends Fixture {
         "findAndLoad|" + choir + "|" + newDir(),
         "limited|" + hardLinks(30) + "|" + newDir(),
         "find|nowhere|" + newDir(), "findAndLoad|nowhere|" + newDir(),
-        "load|" + path("stopped")));
+        "load|" + path("stopped"), "analyse|" + choir, "analyse|nowhere"));
     assertEquals("""
          starting c++
          in/out args converted
@@ -149,6 +150,9 @@ public class FailuresTest extends Fixture {
         ! VorlaneException INPUT ERROR : File not found: 'nowhere'\s
          process ended succesfully
         = 27 nodes, 14 cliques, k [3, 4, 5], not finished
+        = [Emil, Greta, Hugo, Ines, Jonas]
+        = 0 nodes, 0 cliques, k []
+        ! VorlaneException INPUT ERROR : File not found: 'nowhere'\s
         """,
         child.out().replaceFirst("= 33 nodes.*", "= 33 nodes, ..."));
     assertEquals("calling Load_coms: \nLoad_coms finished.\n".repeat(2), child.err());

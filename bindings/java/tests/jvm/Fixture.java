@@ -108,6 +108,12 @@ public abstract class Fixture {
 
   private static OutParams call(String[] words) throws Exception {
     if (words[0].equals("load")) return Run.load(words[1]);
+    if (words[0].equals("analyse")) {
+      try (Analysis analysis = new Analysis(words[1], new Options())) {
+        System.out.println("= " + analysis.next().names(0));
+      }
+      return new OutParams();
+    }
     Run run = new Run(words[1], words[2]);
     if (words[0].equals("limited")) run.timeLimit(1e-6);
     if (words[0].equals("weighted")) run.lowerThreshold(4.5).intensityThreshold(5.25);

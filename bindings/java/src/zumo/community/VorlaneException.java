@@ -1,6 +1,6 @@
 package zumo.community;
 
-/** A failure of a {@link Run} or an {@link Analysis}; the kind is for programs, the text for people. */
+/** A failure of a {@link Run} or {@link Analysis}: its kind for programs, its text for people. */
 public final class VorlaneException extends Exception {
   /** What a program may want to tell apart. */
   public enum Kind {
@@ -29,18 +29,43 @@ public final class VorlaneException extends Exception {
   private static final long serialVersionUID = 1;
 
   private final Kind kind;
+  private final String source;
+  private final long line;
+  private final long column;
 
-  public VorlaneException(Kind kind, String text, Throwable cause) {
+  VorlaneException(Kind kind, String text, Throwable cause) {
     super(text, cause);
     this.kind = kind;
+    source = "";
+    line = 0;
+    column = 0;
   }
 
   /** For native code. */
-  VorlaneException(int kind, String text) {
-    this(Kind.at(kind), text, null);
+  VorlaneException(int kind, String text, String source, long line, long column) {
+    super(text);
+    this.kind = Kind.at(kind);
+    this.source = source;
+    this.line = line;
+    this.column = column;
   }
 
   public Kind getKind() {
     return kind;
+  }
+
+  /** The file that an analysis could not read; empty if the failure is about none. */
+  public String getSource() {
+    return source;
+  }
+
+  /** The line there, from 1; 0 if it isn't known. */
+  public long getLine() {
+    return line;
+  }
+
+  /** The column in the line, from 1; 0 if it isn't known. */
+  public long getColumn() {
+    return column;
   }
 }
