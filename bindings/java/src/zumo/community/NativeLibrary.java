@@ -1,6 +1,7 @@
 package zumo.community;
 
 import java.io.File;
+import java.io.IOException;
 import java.net.URISyntaxException;
 import java.nio.file.Files;
 import java.nio.file.Path;
@@ -14,52 +15,77 @@ public final class NativeLibrary {
   /** The system property that names the library's file. */
   public static final String PROPERTY = "vorlane.library";
 
-  private static final String FILE_NAME = System.mapLibraryName("vorlane_java");
+  /** The system property that names the folder for the copy of the library that the jar carries. */
+  public static final String FOLDER_PROPERTY = "vorlane.native.dir";
+
+  static final String NAME = "vorlane_java";
+  private static final String FILE_NAME = System.mapLibraryName(NAME);
   private static boolean loaded;
 
   private NativeLibrary() {}
 
   /**
-   * Loads the file that the system property names. If it isn't set, looks in the folder of the jar,
-   * then in those of {@code java.library.path}. Does nothing if the library is loaded already.
+   * Loads the file that {@link #PROPERTY} names. If it isn't set, looks in the folder of the jar,
+   * then in those of {@code java.library.path}; then takes the library that the jar carries and
+   * unpacks it into the folder that {@link #FOLDER_PROPERTY} names, else {@code vorlane} in the
+   * user's folder for caches. Does nothing if the library is loaded already.
    *
    * @throws UnsatisfiedLinkError if there is none, with all places where it was looked for
    */
   public static synchronized void load() {
     String named = System.getProperty(PROPERTY);
-    loadOnce(named != null ? List.of(Path.of(named)) : candidates());
+    if (named != null) load(Path.of(named));
+    else loadOnce(candidates(), CarriedLibrary::unpacked);
   }
 
   /** Loads this file and no other, unless the library is loaded already. */
   public static synchronized void load(Path library) {
-    loadOnce(List.of(library));
+    loadOnce(List.of(library), null);
+  }
+
+  /** Makes a file of the library, and yields it. */
+  interface Unpacking {
+    Path unpacked() throws IOException;
   }
 
   @SuppressWarnings("restricted")  // To load native code is what this class is for.
-  private static void loadOnce(List<Path> candidates) {
+  private static void loadOnce(List<Path> candidates, Unpacking carried) {
     if (loaded) return;
-    loadFirst(candidates, System::load);
+    loadFirst(candidates, carried, System::load);
     loaded = true;
   }
 
-  static void loadFirst(List<Path> candidates, Consumer<String> loader) {
+  /** Has the first file loaded that can be; `carried` comes last, and may be null. */
+  static void loadFirst(List<Path> candidates, Unpacking carried, Consumer<String> loader) {
     StringBuilder tried = new StringBuilder();
     for (Path candidate : candidates) {
-      String file = candidate.toAbsolutePath().toString();
-      tried.append("\n  ").append(file).append(": ");
-      if (!Files.exists(candidate)) {
-        tried.append("no such file");
-        continue;
-      }
-      try {
-        loader.accept(file);
-        return;
-      } catch (UnsatisfiedLinkError failure) {
-        tried.append(failure.getMessage());
-      }
+      tried.append("\n  ").append(candidate.toAbsolutePath()).append(": ");
+      if (!Files.exists(candidate)) tried.append("no such file");
+      else if (isLoaded(candidate, loader, tried)) return;
     }
-    throw new UnsatisfiedLinkError("The native library of Vorlane could not be loaded. Tried:"
-        + tried + "\nThe option -D" + PROPERTY + "=FILE of java tells where it is.");
+    String cure = "\nThe option -D" + PROPERTY + "=FILE of java tells where it is.";
+    if (carried != null) {
+      tried.append("\n  the copy in the jar: ");
+      try {
+        if (isLoaded(carried.unpacked(), loader, tried)) return;
+      } catch (IOException failure) {
+        tried.append(failure);
+      }
+      cure += "\nThe option -D" + FOLDER_PROPERTY + "=FOLDER names another folder for the copy in"
+          + " the jar:\none that can be written to and isn't mounted noexec.";
+    }
+    throw new UnsatisfiedLinkError(
+        "The native library of Vorlane could not be loaded. Tried:" + tried + cure);
+  }
+
+  private static boolean isLoaded(Path file, Consumer<String> loader, StringBuilder tried) {
+    try {
+      loader.accept(file.toAbsolutePath().toString());
+      return true;
+    } catch (UnsatisfiedLinkError failure) {
+      tried.append(failure.getMessage());
+      return false;
+    }
   }
 
   private static List<Path> candidates() {
