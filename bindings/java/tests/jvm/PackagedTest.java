@@ -47,7 +47,7 @@ public class PackagedTest extends Fixture {
       for (JarEntry entry : Collections.list(in.entries())) {
         if (entry.getName().startsWith("META-INF") || entry.isDirectory()) continue;
         out.putNextEntry(new JarEntry(entry.getName()));
-        out.write(in.getInputStream(entry).readAllBytes());
+        in.getInputStream(entry).transferTo(out);
       }
       out.putNextEntry(new JarEntry("Application.class"));
       out.write(Application.class.getResourceAsStream("Application.class").readAllBytes());
