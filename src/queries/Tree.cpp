@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <ranges>
 
 namespace vorlane::queries {
 
@@ -53,8 +52,8 @@ std::vector<Tree_node> Tree_of(const Results& results) {
   std::vector<Tree_node> tree;
   Rows lower;
   bool has_lower = false;
-  const std::vector<std::uint32_t>& ks = results.Ks();
-  for (const std::uint32_t k : std::views::reverse(ks)) {
+  const std::vector<std::uint32_t> ascending(results.Ks().rbegin(), results.Ks().rend());
+  for (const std::uint32_t k : ascending) {
     const Rows rows = by_cliques ? results.Cliques_at(k) : results.At(k).members;
     std::vector<std::size_t> parents(rows.size(), none);
     if (has_lower)

@@ -1,5 +1,4 @@
 #include <map>
-#include <ranges>
 #include <string>
 #include <utility>
 #include <vector>
@@ -35,15 +34,18 @@ class Shown_tree {
   /// A line for each, indented by depth. Without recursion, since levels may be many.
   void Print(std::ostream& out) const {
     std::vector<std::pair<std::size_t, std::size_t>> to_show;  // node, depth
-    for (const std::size_t root : std::views::reverse(roots_)) to_show.emplace_back(root, 0);
+    const auto put_off = [&](const std::vector<std::size_t>& nodes, std::size_t depth) {
+      const std::vector<std::size_t> last_first(nodes.rbegin(), nodes.rend());
+      for (const std::size_t node : last_first) to_show.emplace_back(node, depth);
+    };
+    put_off(roots_, 0);
     while (!to_show.empty()) {
       const auto [node, depth] = to_show.back();
       to_show.pop_back();
       const auto& place = nodes_[node].place;
       out << std::string(2 * depth, ' ') << "k=" << place.k << " " << place.community << ": "
           << Size(node) << " nodes\n";
-      for (const std::size_t child : std::views::reverse(children_[node]))
-        to_show.emplace_back(child, depth + 1);
+      put_off(children_[node], depth + 1);
     }
   }
 
