@@ -18,13 +18,13 @@ Adjacency Core_of(const Adjacency& neighs, std::size_t least_degree) {
     for (const Node_index neigh : neighs[node])
       if (degrees[neigh]-- == least_degree) to_leave_out.push_back(neigh);
   }
-  return Adjacency(count, [&](auto enter) {
-    for (Node_index node = 1; node <= count; ++node) {
-      if (degrees[node] < least_degree) continue;
-      for (const Node_index neigh : neighs[node])
-        if (degrees[neigh] >= least_degree) enter(node, neigh);
-    }
-  });
+  return {count, [&](auto enter) {
+            for (Node_index node = 1; node <= count; ++node) {
+              if (degrees[node] < least_degree) continue;
+              for (const Node_index neigh : neighs[node])
+                if (degrees[neigh] >= least_degree) enter(node, neigh);
+            }
+          }};
 }
 
 }  // namespace gns

@@ -7,10 +7,10 @@ namespace gns {
 Row_index Holders_of_nodes(const Row_array<Node_index>& sets) {
   const Node_span members = sets.Values();
   const Node_index greatest = members.empty() ? 0 : *std::ranges::max_element(members);
-  return Row_index(greatest, [&](auto enter) {
-    for (std::size_t set = 0; set < sets.size(); ++set)
-      for (const Node_index node : sets[set]) enter(node, static_cast<std::uint32_t>(set));
-  });
+  return {greatest, [&](auto enter) {
+            for (std::size_t set = 0; set < sets.size(); ++set)
+              for (const Node_index node : sets[set]) enter(node, static_cast<std::uint32_t>(set));
+          }};
 }
 
 }  // namespace gns
