@@ -50,8 +50,8 @@ std::string Bash_case(const Option& option) {
   return text + "      return ;;\n";
 }
 
-/// What zsh is told of one option: a specification of _arguments.
-std::string Zsh_specification(const Option& option) {
+/// What zsh is told of one option, as its _arguments takes it.
+std::string Zsh_argument(const Option& option) {
   std::string text(option.adds_up ? "*" : "");
   text.append(option.word);
   if (option.Is_long() && !option.argument.empty()) text += "=-";
@@ -140,8 +140,7 @@ std::string Bash_completion() {
 
 std::string Zsh_completion() {
   std::string text = "#compdef vorlane\n" + std::string(first_line) + "_arguments";
-  for (const Option& option : All_options())
-    text += " \\\n  " + Shell_word(Zsh_specification(option));
+  for (const Option& option : All_options()) text += " \\\n  " + Shell_word(Zsh_argument(option));
   return text + "\n";
 }
 

@@ -28,7 +28,7 @@ struct Link_options {
 ///
 /// The nodes are those with links to others. They are numbered as the links meet them in the order
 /// of their names, byte by byte, first name before second: the same links in any order are the same
-/// network. It costs some 20 bytes a link, 28 with weights, and the names.
+/// network. It costs some 20 bytes a link, 28 if directed, 16 more with weights, and the names.
 class VORLANE_API Network {
  public:
   class Builder;

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <utility>
 
-#include "engine/Check_switches.h"
 #include "engine/Levels.h"
 #include "engine/Work_of_levels.h"
 #include "face/Control_body.h"

@@ -1,7 +1,5 @@
 #include "face/Errors_of_face.h"
 
-#include "foundation/text/Shown_text.h"
-
 namespace vorlane::face {
 
 std::string In_words(const gns::Place_in_file& place) {

@@ -3,6 +3,8 @@
 # from there into a prefix of its own: by find_package and pkg-config; without, the sources: by
 # add_subdirectory and FetchContent, whose own code is compiled.
 file(REMOVE_RECURSE ${BINARY})
+file(STRINGS ${SOURCE}/include/vorlane/version.h version REGEX "^#define VORLANE_VERSION \"")
+string(REGEX REPLACE ".*\"(.*)\"" "\\1" version "${version}")
 
 function(run)
   execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output COMMAND_ECHO STDOUT ECHO_OUTPUT_VARIABLE
@@ -12,7 +14,7 @@ endfunction()
 
 function(expect_answer)
   run(${ARGN})
-  if(NOT output STREQUAL "1.0.0: 1 community\n")
+  if(NOT output STREQUAL "${version}: 1 community\n")
     message(SEND_ERROR "${ARGN} printed: ${output}")
   endif()
 endfunction()
@@ -37,6 +39,12 @@ function(check_installed)
     expect_answer(${BINARY}/find_package/consumer)
     expect_answer(${BINARY}/find_package/consumer_static)
   endforeach()
+
+  # What the README shows: its project, with its first program.
+  file(COPY_FILE ${BUILD}/examples/readme_file.cpp ${BUILD}/examples/readme_package/communities.cpp)
+  run(${CMAKE_COMMAND} -S ${BUILD}/examples/readme_package -B ${BINARY}/readme -G ${GENERATOR}
+      -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_PREFIX_PATH=${BINARY}/to)
+  run(${CMAKE_COMMAND} --build ${BINARY}/readme)
 
   file(GLOB_RECURSE pc ${BINARY}/to/*/vorlane.pc)
   cmake_path(GET pc PARENT_PATH pc_dir)

@@ -287,8 +287,8 @@ TEST(CliqueSearch, OfLargeCliquesLeavesOutTheSmallOnes) {
   for (std::uint32_t seed = 1; seed <= 400; ++seed) {
     SCOPED_TRACE(seed);
     const Sample sample = Sample_for(false, seed);
+    std::vector<Set> large = Result(false, sample).cliques;
     for (const std::uint32_t least : {3U, 4U, 5U, 7U}) {
-      std::vector<Set> large = Result(false, sample).cliques;
       std::erase_if(large, [&](const Set& clique) { return clique.size() < least; });
       Clique_vector found;
       Clique_find_of_size_ec(found, sample.vertices, least);

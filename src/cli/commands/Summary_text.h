@@ -17,7 +17,7 @@ Text_table Table_of(const vorlane::queries::Summary& summary);
 /// The same with one row for neighbouring k that have the same figures.
 Text_table Folded_table_of(const vorlane::queries::Summary& summary);
 
-/// {"method","finished","nodes","levels":[{"k","communities", ...}]}; docs/json.md.
+/// {"method","finished","nodes","levels":[{"k","communities", ...}]}
 std::string In_json(const vorlane::queries::Summary& summary);
 
 std::string Name_of(vorlane::Method method);
