@@ -17,12 +17,15 @@ const Search_kind kind = {
     .closing_line = " no approximation was needed",
 };
 
+constexpr std::uint32_t least_clique = 3;
+
+/// In `neighs`, all of the graph or its core, in the order of the whole graph.
 Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix, const Vertex_map& vtx_map,
-                const Time_limit* limit) {
+                const Adjacency& neighs, std::uint32_t least_size, const Time_limit* limit) {
   Node_order order;
   Sort_Vtx_map(order, vtx_map);
-  Undirected_node_search search(vtx_map.Rows(), order);
-  return Search_all(search, vtx_map.Rows(), order, kind, limit, cliques, overlap_matrix);
+  Undirected_node_search search(neighs, order, least_size);
+  return Search_all(search, neighs, order, kind, limit, cliques, overlap_matrix);
 }
 
 }  // namespace
@@ -65,23 +68,19 @@ void Undirected_node_search::Sort_found() {
 
 void Clique_find_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
                     const Vertex_map& vtx_map) {
-  Search(cliques, overlap_matrix, vtx_map, nullptr);
+  Search(cliques, overlap_matrix, vtx_map, vtx_map.Rows(), least_clique, nullptr);
 }
 
 void Clique_find_of_size_ec(Clique_vector& cliques, const Vertex_map& vtx_map,
                             std::uint32_t least_size) {
-  Node_order order;
-  Sort_Vtx_map(order, vtx_map);
-  const Adjacency core = Core_of(vtx_map.Rows(), least_size - 1);
-  Undirected_node_search search(core, order, least_size);
   Overlap_matrix view;
-  Search_all(search, core, order, kind, nullptr, cliques, view);
+  Search(cliques, view, vtx_map, Core_of(vtx_map.Rows(), least_size - 1), least_size, nullptr);
 }
 
 void Clique_find_part_time_ec(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
                               const Vertex_map& vtx_map, Left_map& left_map,
                               const Time_limit& time_limit) {
-  left_map = Search(cliques, overlap_matrix, vtx_map, &time_limit);
+  left_map = Search(cliques, overlap_matrix, vtx_map, vtx_map.Rows(), least_clique, &time_limit);
 }
 
 }  // namespace gns
