@@ -1,6 +1,6 @@
 #include "engine/Extract_coms.h"
 
-#include "engine/Write_level.h"
+#include "engine/Find_level.h"
 
 namespace gns {
 
@@ -17,7 +17,8 @@ void Extract(std::uint32_t k, const Clique_vector& cliques, std::uint32_t exact_
   if (use_intensity) input.intensity_threshold = intensity_threshold;
   input.max_clique_size = max_clique_size;
   Levels levels(input);
-  Find_and_write_level(k, levels, results, names);
+  const Level_output output = {results, names};
+  Find_level(k, levels, &output);
 }
 
 }  // namespace

@@ -18,20 +18,6 @@ Levels::Levels(const Levels_input& input) : input_(input) {
   if (percolation_ && !input.links_are_kept) percolation_->Give_up_links();
 }
 
-Level Levels::At(std::uint32_t k) {
-  Level level;
-  level.k = k;
-  if (input_.intensity_threshold) Find_k_cliques(level);
-  Find_communities(level);
-  external_control::Check_for_stop_signal();
-  Link_communities(level);
-  external_control::Check_for_stop_signal();
-  Report_state(" Calculating statistics...\n");
-  Count(level);
-  Report_state(" done.\n");
-  return level;
-}
-
 void Levels::Find_k_cliques(Level& level) {
   level.k_cliques.emplace(level.k);
   Generate_k_cls_from_cls_ec(*weighted_cliques_, *level.k_cliques, level.k,

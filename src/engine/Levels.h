@@ -45,16 +45,14 @@ struct Level {
   [[nodiscard]] K_clique_com_links K_clique_links() const { return {*k_cliques, com_k_cliques}; }
 };
 
-/// Finds the communities at one k after the other, best with k descending. Touches no file. Reports
-/// and polls; throws what the methods throw.
+/// Finds the communities at one k after the other, best with k descending. Touches no file;
+/// Find_level() takes the steps, with or without writing. Reports and polls; throws what the
+/// methods throw.
 class Levels {
  public:
   explicit Levels(const Levels_input& input);
 
   [[nodiscard]] const Levels_input& Input() const { return input_; }
-
-  /// All of a level.
-  Level At(std::uint32_t k);
 
   /// The steps of a level, in their order, each with what it needs from those before it. The first
   /// one is of the intensity method.

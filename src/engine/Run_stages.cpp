@@ -1,14 +1,15 @@
 #include "engine/Run_stages.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 
 #include "control/Run_control.h"
 #include "engine/Check_switches.h"
+#include "engine/Find_level.h"
 #include "engine/Levels.h"
 #include "engine/Own_input.h"
 #include "engine/Work_of_levels.h"
-#include "engine/Write_level.h"
 #include "files/Results_directory.h"
 #include "files/Results_writer.h"
 #include "files/Unfinished_mark.h"
@@ -28,6 +29,17 @@ using external_control::Check_for_stop_signal;
 using external_control::Report_state;
 
 constexpr std::uint32_t least_k = 3;  ///< of a run over all k
+
+K_summary Summary_of(const Level& level, std::uint32_t node_count) {
+  const Communities& found = *level.communities;
+  K_summary summary;
+  summary.k = level.k;
+  summary.communities = found.size();
+  for (std::size_t com = 0; com < found.size(); ++com)
+    summary.largest = std::max(summary.largest, found.coms[com].size());
+  summary.nodes_covered = node_count - level.statistics.all.membership.at(0);
+  return summary;
+}
 
 class Run {
  public:
@@ -164,10 +176,12 @@ class Run {
     Tell_bound(input, from, to);
     Levels levels(input);
     Work_of_levels work(summary_.cliques_of_size, from, to);
+    const Level_output output = {*results_, graph_.names};
     const auto find_and_write = [&](std::uint32_t k) {
       mark_->Check();
-      summary_.extractions.push_back(
-          Find_and_write_level(k, levels, *results_, graph_.names, wishes_.keeper));
+      const Level level = Find_level(k, levels, &output);
+      if (wishes_.keeper != nullptr) wishes_.keeper->Keep_level(level, graph_.links);
+      summary_.extractions.push_back(Summary_of(level, summary_.nodes));
     };
     if (single) return find_and_write(from);
     for (std::uint32_t k = from; k >= to; --k) {

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "engine/Find_level.h"
 #include "engine/Levels.h"
 #include "engine/Work_of_levels.h"
 #include "face/Control_body.h"
@@ -98,7 +99,7 @@ struct Analysis::Inside {
     if (!levels) Begin_levels();
     external_control::Check_for_stop_signal();
     const std::uint32_t k = next_k--;
-    Level level = face::Level_of(levels->At(k), options.links);
+    Level level = face::Level_of(gns::Find_level(k, *levels), options.links);
     if (!options.k) work->End_level(k);
     return level;
   }
