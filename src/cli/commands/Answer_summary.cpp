@@ -18,11 +18,11 @@ void Answer_summary(const Word_line& line, std::ostream& out) {
     return;
   }
   if (line.Has("--csv")) {
-    Table_of(summary).Print_csv(out);
+    Table_of(summary, Alike_rows::each).Print_csv(out);
     return;
   }
   out << Kind_in_words(summary) << "\n\n";
-  Table_of(summary).Print(out);
+  Table_of(summary, Alike_rows::each).Print(out);
 }
 
 void Answer_which_k(const Word_line& line, std::ostream& out) {
@@ -42,7 +42,7 @@ void Answer_which_k(const Word_line& line, std::ostream& out) {
     out << "There are no communities.\n";
     return;
   }
-  Folded_table_of(summaries[chosen->result]).Print(out);
+  Table_of(summaries[chosen->result], Alike_rows::folded).Print(out);
   out << "\nk = " << chosen->level.k;
   if (line.arguments.size() > 1) out << " of " << line.arguments[chosen->result];
   out << ": " << chosen->reason << "\n";

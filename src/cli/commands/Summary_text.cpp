@@ -14,11 +14,6 @@ std::string Share(std::size_t part, std::size_t whole) {
   return std::to_string(std::lround(100 * share)) + " %";
 }
 
-std::vector<std::string> Head() {
-  return {"k",       "communities",   "largest",     "second",
-          "covered", "covered share", "overlapping", "overlaps"};
-}
-
 std::vector<std::string> Cells(const std::string& k, const Level_summary& level,
                                std::size_t nodes) {
   return {k,
@@ -67,19 +62,14 @@ std::string Kind_in_words(const Summary& summary) {
   return words;
 }
 
-Text_table Table_of(const Summary& summary) {
-  Text_table table(Head());
-  for (const Level_summary& level : summary.levels)
-    table.Add(Cells(std::to_string(level.k), level, summary.nodes));
-  return table;
-}
-
-Text_table Folded_table_of(const Summary& summary) {
-  Text_table table(Head());
+Text_table Table_of(const Summary& summary, Alike_rows alike) {
+  Text_table table({"k", "communities", "largest", "second", "covered", "covered share",
+                    "overlapping", "overlaps"});
   const auto& levels = summary.levels;
   for (std::size_t first = 0, last = 0; first < levels.size(); first = last + 1) {
     last = first;
-    while (last + 1 < levels.size() && Is_alike(levels[first], levels[last + 1])) ++last;
+    if (alike == Alike_rows::folded)
+      while (last + 1 < levels.size() && Is_alike(levels[first], levels[last + 1])) ++last;
     std::string k = std::to_string(levels[last].k);
     if (last > first) k.append("-").append(std::to_string(levels[first].k));
     table.Add(Cells(k, levels[first], summary.nodes));

@@ -13,9 +13,10 @@ namespace gns {
 /// "undirected, 27 nodes" and the like.
 std::string Kind_in_words(const vorlane::queries::Summary& summary);
 
-Text_table Table_of(const vorlane::queries::Summary& summary);
-/// The same with one row for neighbouring k that have the same figures.
-Text_table Folded_table_of(const vorlane::queries::Summary& summary);
+enum class Alike_rows { each, folded };
+
+/// `folded`: one row for neighbouring k that have the same figures.
+Text_table Table_of(const vorlane::queries::Summary& summary, Alike_rows alike);
 
 /// {"method","finished","nodes","levels":[{"k","communities", ...}]}
 std::string In_json(const vorlane::queries::Summary& summary);

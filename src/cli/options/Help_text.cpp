@@ -14,19 +14,6 @@ namespace {
 
 constexpr std::size_t width = 80;
 
-/// A term and, from a column on, what it means. A term that doesn't fit gets a line of its own.
-void Put_entry(std::string_view term, std::size_t column, std::string_view meaning,
-               std::ostream& out) {
-  constexpr std::size_t indent = 2;
-  out << std::string(indent, ' ') << term;
-  const std::size_t used = indent + term.size();
-  if (used + indent > column)
-    out << "\n" << std::string(column, ' ');
-  else
-    out << std::string(column - used, ' ');
-  out << Wrapped(Without_marks(meaning), width, column, column) << "\n";
-}
-
 void Put_options(const Option_group& group, std::ostream& out) {
   constexpr std::size_t column = 20;
   out << "\n" << group.title << ":\n";
@@ -34,7 +21,7 @@ void Put_options(const Option_group& group, std::ostream& out) {
     if (option.group != group.group) continue;
     std::string meaning(option.summary);
     if (!option.without.empty()) meaning.append(" [").append(option.without).append("]");
-    Put_entry(option.Form(), column, meaning, out);
+    out << Help_entry(option.Form(), column, meaning);
   }
 }
 
@@ -44,7 +31,7 @@ void Put_words(const std::string& prog_name, std::ostream& out) {
   for (const Word& word : All_words()) {
     std::string term(word.word);
     term.append(" ").append(word.arguments);
-    Put_entry(term, column, word.summary, out);
+    out << Help_entry(term, column, word.summary);
   }
 }
 
@@ -52,21 +39,21 @@ void Put_exit_codes(std::ostream& out) {
   constexpr std::size_t column = 7;
   out << "\nExit codes:\n";
   for (const Exit_meaning& exit : Exit_meanings())
-    Put_entry(std::to_string(static_cast<int>(exit.code)), column, exit.meaning, out);
+    out << Help_entry(std::to_string(static_cast<int>(exit.code)), column, exit.meaning);
 }
 
 void Put_variables(std::ostream& out) {
   constexpr std::size_t column = 24;
   out << "\nEnvironment:\n";
   for (const Variable& variable : Variables())
-    Put_entry(variable.name, column, variable.meaning, out);
+    out << Help_entry(variable.name, column, variable.meaning);
 }
 
 void Put_examples(const std::string& prog_name, std::ostream& out) {
   constexpr std::size_t column = 6;
   out << "\nExamples:\n";
   for (const Example& example : Examples())
-    Put_entry(prog_name + " " + std::string(example.arguments), column, example.effect, out);
+    out << Help_entry(prog_name + " " + std::string(example.arguments), column, example.effect);
 }
 
 }  // namespace

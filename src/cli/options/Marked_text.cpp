@@ -31,4 +31,16 @@ std::string Wrapped(std::string_view text, std::size_t width, std::size_t indent
   return lines;
 }
 
+std::string Help_entry(std::string_view term, std::size_t column, std::string_view meaning) {
+  constexpr std::size_t width = 80;
+  constexpr std::size_t indent = 2;
+  std::string entry(indent, ' ');
+  entry.append(term);
+  if (entry.size() + indent > column)
+    entry.append("\n").append(column, ' ');
+  else
+    entry.resize(column, ' ');
+  return entry.append(Wrapped(Without_marks(meaning), width, column, column)).append("\n");
+}
+
 }  // namespace gns

@@ -9,6 +9,13 @@ namespace gns {
 
 namespace {
 
+/// An option of a word needs its argument, and takes it with a blank, too.
+std::string Form_of(const Option& option) {
+  std::string form(option.word);
+  if (!option.argument.empty()) form.append(" ").append(option.argument);
+  return form;
+}
+
 [[noreturn]] void Refuse(const Word& word, const std::string& why) {
   throw Xerror_msg(why + "\nusage: " + Usage_of(word) + "\n");
 }
@@ -52,9 +59,7 @@ std::string Usage_of(const Word& word) {
   std::string usage = "vorlane ";
   usage.append(word.word);
   for (const Option& option : word.options) {
-    usage.append(" [").append(option.word);
-    if (!option.argument.empty()) usage.append(" ").append(option.argument);
-    usage.append("]");
+    usage.append(" [").append(Form_of(option)).append("]");
   }
   return usage.append(" ").append(word.arguments);
 }
@@ -66,14 +71,8 @@ std::string Help_on(const Word& word) {
   help.append(Usage_of(word)).append("\n\n");
   help.append(Wrapped(Without_marks(word.description), width)).append("\n");
   if (!word.options.empty()) help.append("\n");
-  for (const Option& option : word.options) {
-    std::string form = "  ";
-    form.append(option.word);
-    if (!option.argument.empty()) form.append(" ").append(option.argument);
-    form.resize(std::max(form.size() + 1, column), ' ');
-    help.append(form);
-    help.append(Wrapped(Without_marks(option.summary), width, column, column)).append("\n");
-  }
+  for (const Option& option : word.options)
+    help.append(Help_entry(Form_of(option), column, option.summary));
   return help;
 }
 

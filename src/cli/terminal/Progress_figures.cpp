@@ -9,6 +9,7 @@
 #include "cli/terminal/State_lines.h"
 #include "control/Clique_find_ext_cont.h"
 #include "control/Work_done.h"
+#include "foundation/text/Json_text.h"
 #include "foundation/text/My_double2string.h"
 
 namespace gns {
@@ -50,19 +51,12 @@ std::string Work_that_fits(const Progress_figures& figures, std::size_t width) {
 
 std::string Bound_in_json(const Progress_figures& figures) {
   if (figures.files == 0) return "null";
-  return "{\"entries\":" + std::to_string(figures.entries) +
-         ",\"files\":" + std::to_string(figures.files) +
-         ",\"bytes\":" + std::to_string(figures.bytes) +
-         ",\"pair_bytes\":" + std::to_string(figures.pair_bytes) + "}";
-}
-
-std::string In_quotes(const std::string& text) {
-  std::string quoted = "\"";
-  for (const char c : text) {
-    if (c == '"' || c == '\\') quoted += '\\';
-    quoted += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
-  }
-  return quoted += '"';
+  return Json_list(Json_list::Kind::object)
+      .Add("entries", std::to_string(figures.entries))
+      .Add("files", std::to_string(figures.files))
+      .Add("bytes", std::to_string(figures.bytes))
+      .Add("pair_bytes", std::to_string(figures.pair_bytes))
+      .Text();
 }
 
 }  // namespace
@@ -131,18 +125,20 @@ std::string In_one_line(const Progress_figures& figures) {
 }
 
 std::string In_json(const Progress_figures& figures) {
-  std::string report;
-  for (const std::string& line : figures.report)
-    report.append(report.empty() ? "" : ",").append(In_quotes(line));
-  return "{\"seconds\":" + double2string(figures.seconds, 2) + ",\"report\":[" + report +
-         "],\"cliques\":" + std::to_string(figures.cliques) +
-         ",\"k_cliques\":" + std::to_string(figures.k_cliques) +
-         ",\"nodes_left\":" + std::to_string(figures.nodes_left) +
-         ",\"failed_in_a_row\":" + std::to_string(figures.failed_in_a_row) +
-         ",\"peak_memory\":" + std::to_string(figures.peak_memory) +
-         ",\"work_done\":" + double2string(figures.share_done, 4) + ",\"seconds_left\":" +
-         (figures.seconds_left ? double2string(*figures.seconds_left, 1) : "null") +
-         ",\"bound\":" + Bound_in_json(figures) + "}";
+  Json_list report(Json_list::Kind::array);
+  for (const std::string& line : figures.report) report.Add(Json_string(line));
+  return Json_list(Json_list::Kind::object)
+      .Add("seconds", double2string(figures.seconds, 2))
+      .Add("report", report.Text())
+      .Add("cliques", std::to_string(figures.cliques))
+      .Add("k_cliques", std::to_string(figures.k_cliques))
+      .Add("nodes_left", std::to_string(figures.nodes_left))
+      .Add("failed_in_a_row", std::to_string(figures.failed_in_a_row))
+      .Add("peak_memory", std::to_string(figures.peak_memory))
+      .Add("work_done", double2string(figures.share_done, 4))
+      .Add("seconds_left", figures.seconds_left ? double2string(*figures.seconds_left, 1) : "null")
+      .Add("bound", Bound_in_json(figures))
+      .Text();
 }
 
 }  // namespace gns
