@@ -29,15 +29,36 @@ Outlook K_clique_bounds::Judge(const Ranked_links& links, double sum, std::uint3
     if (Drop_loose(links, missing, matter, candidates)) continue;
     if (!matter || sum + Lowest_completion(missing, candidates) > accept_above_)
       return complete_ ? Outlook::all_subsets_pass : Outlook::all_pass;
-    scratch_ = gains_;
-    const double best = sum + Sum_of_first(scratch_, missing, std::greater<>());
-    if (best < reject_below_) return Outlook::none_passes;
-    const double weakest_of_best = scratch_[missing - 1];
-    if (!Keep_if(candidates, [&](std::size_t i) {
-          return !(best - weakest_of_best + gains_[i] < reject_below_);
-        }))
-      return Outlook::undecided;
+    switch (Cut_to_gains(sum, missing, candidates)) {
+      case Cut::all:
+        return Outlook::none_passes;
+      case Cut::nothing:
+        return Outlook::undecided;
+      case Cut::some:
+        break;
+    }
   }
+}
+
+bool K_clique_bounds::Are_out_of_reach(double sum, std::uint32_t missing, Candidates& candidates) {
+  gains_.resize(candidates.size());
+  for (std::size_t i = 0; i < candidates.size(); ++i)
+    gains_[i] = candidates.sums[i] + candidates.reach[i];
+  return Cut_to_gains(sum, missing, candidates) == Cut::all || candidates.size() < missing;
+}
+
+/// Drops the candidates that pass with none of the best gains of the others.
+K_clique_bounds::Cut K_clique_bounds::Cut_to_gains(double sum, std::uint32_t missing,
+                                                   Candidates& candidates) {
+  scratch_ = gains_;
+  const double best = sum + Sum_of_first(scratch_, missing, std::greater<>());
+  if (best < reject_below_) return Cut::all;
+  const double weakest_of_best = scratch_[missing - 1];
+  return Keep_if(
+             candidates,
+             [&](std::size_t i) { return !(best - weakest_of_best + gains_[i] < reject_below_); })
+             ? Cut::some
+             : Cut::nothing;
 }
 
 /// Drops candidates with too few links to the others; true if there were any. Otherwise the others
@@ -52,9 +73,10 @@ bool K_clique_bounds::Drop_loose(const Ranked_links& links, std::uint32_t missin
 }
 
 void K_clique_bounds::Look_at_links(const Ranked_links& links, std::uint32_t missing, bool matter,
-                                    const Candidates& candidates) {
+                                    Candidates& candidates) {
   link_counts_.clear();
   gains_.clear();
+  candidates.reach.clear();
   lowest_ = std::numeric_limits<double>::infinity();
   complete_ = true;
   bool loose = false;
@@ -69,10 +91,14 @@ void K_clique_bounds::Look_at_links(const Ranked_links& links, std::uint32_t mis
     link_counts_.push_back(count);
     complete_ = complete_ && count + 1 == candidates.size();
     loose = loose || count + 1 < missing;
-    if (loose || !matter) continue;
+    if (loose || !matter) {
+      candidates.reach.clear();
+      continue;
+    }
     lowest_ = std::min(lowest_, logs_[count - 1]);
-    gains_.push_back(candidates.sums[i] +
-                     0.5 * std::reduce(logs_.begin(), logs_.begin() + (missing - 1), 0.0));
+    const double all_but_last = std::reduce(logs_.begin(), logs_.begin() + (missing - 2), 0.0);
+    candidates.reach.push_back(0.5 * all_but_last);
+    gains_.push_back(candidates.sums[i] + 0.5 * (all_but_last + logs_[missing - 2]));
   }
 }
 
@@ -89,11 +115,13 @@ bool K_clique_bounds::Keep_if(Candidates& candidates, Keep keep) {
   for (std::size_t i = 0; i < candidates.size(); ++i) {
     if (!keep(i)) continue;
     candidates.nodes[kept] = candidates.nodes[i];
+    if (!candidates.reach.empty()) candidates.reach[kept] = candidates.reach[i];
     candidates.sums[kept++] = candidates.sums[i];
   }
   const bool dropped = kept < candidates.size();
   candidates.nodes.resize(kept);
   candidates.sums.resize(kept);
+  if (!candidates.reach.empty()) candidates.reach.resize(kept);
   return dropped;
 }
 

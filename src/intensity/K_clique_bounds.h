@@ -14,17 +14,19 @@ enum class Outlook { none_passes, undecided, all_pass, all_subsets_pass };
 /// Nodes that a partial k-clique can be completed with, ascending, each linked to all its nodes.
 struct Candidates {
   std::vector<std::uint32_t> nodes;
-  std::vector<double>
-      sums;  ///< per node: logarithms of its links to the partial k-clique, added up
+  std::vector<double> sums;   ///< per node: logarithms of its links to the partial k-clique
+  std::vector<double> reach;  ///< per node: what it brings at most by half of its other links
 
   [[nodiscard]] std::size_t size() const { return nodes.size(); }
   void clear() {
     nodes.clear();
     sums.clear();
+    reach.clear();
   }
-  void push_back(std::uint32_t node, double sum) {
+  void push_back(std::uint32_t node, double sum, double node_reach) {
     nodes.push_back(node);
     sums.push_back(sum);
+    reach.push_back(node_reach);
   }
 };
 
@@ -39,6 +41,10 @@ class K_clique_bounds {
   K_clique_bounds(double reject_below, double accept_above)
       : reject_below_(reject_below), accept_above_(accept_above) {}
 
+  /// True if the reach of the candidates shows that no k-clique passes; drops candidates that are
+  /// not within it.
+  bool Are_out_of_reach(double sum, std::uint32_t missing, Candidates& candidates);
+
   /// Judges a partial k-clique with the sum `sum`, to which `missing` of the candidates, at least
   /// 2, have to be added, and drops candidates that can't be among them. Where the weights don't
   /// `matter` any more, only links that are missing rule candidates out.
@@ -49,8 +55,10 @@ class K_clique_bounds {
   bool Drop_loose(const Ranked_links& links, std::uint32_t missing, bool matter,
                   Candidates& candidates);
   void Look_at_links(const Ranked_links& links, std::uint32_t missing, bool matter,
-                     const Candidates& candidates);
+                     Candidates& candidates);
   [[nodiscard]] double Lowest_completion(std::uint32_t missing, const Candidates& candidates);
+  enum class Cut { nothing, some, all };
+  Cut Cut_to_gains(double sum, std::uint32_t missing, Candidates& candidates);
   template <typename Keep>
   static bool Keep_if(Candidates& candidates, Keep keep);
 

@@ -30,32 +30,17 @@ K_clique_search::K_clique_search(const Weighted_cliques& cliques, std::uint32_t 
       reject_below_(threshold_ - Rounding_margin(k, cliques.Largest_log())),
       accept_above_(threshold_ + Rounding_margin(k, cliques.Largest_log())),
       bounds_(reject_below_, accept_above_),
-      number_of_(std::size_t{cliques.Node_count()} + 1, 0),
+      root_links_(cliques, k, reject_below_),
       levels_(k - 2),
-      k_clique_(k) {
-  Link_nodes();
-}
-
-void K_clique_search::Link_nodes() {
-  const Hopeful_nodes hopeful(cliques_, k_, reject_below_);
-  links_.Close_row();  // there is no node 0
-  for (Node_index node = 1; node <= cliques_.Node_count(); ++node) {
-    if (hopeful[node])
-      cliques_.For_each_link(node, k_, [&](Node_index neighbour, double log, std::uint32_t) {
-        if (hopeful[neighbour]) links_.Append(neighbour, log);
-      });
-    links_.Close_row();
-  }
-}
+      k_clique_(k) {}
 
 void K_clique_search::Search_from(Node_index root, K_cliques& found) {
   Tell_and_poll(found);
   if (!(threshold_ < std::numeric_limits<double>::infinity())) return;
-  if (links_[root].nodes.size() < k_ - 1) return;
+  if (!root_links_.Begin(root, levels_[0].candidates)) return;
   k_clique_[0] = root;
-  Collect_candidates(root);
-  Link_candidates();
-  if (local_.Logs().size() < std::size_t{k_ - 1} * (k_ - 2) / 2) return;
+  levels_[0].all_pass = false;
+  levels_[0].links = &root_links_.Ranked();
   if (!Begin_level(0, found)) return;
   for (std::uint32_t depth = 0;;) {
     Tell_and_poll(found);
@@ -79,60 +64,13 @@ void K_clique_search::Tell_and_poll(const K_cliques& found) const {
   external_control::Check_for_stop_signal();
 }
 
-void K_clique_search::Collect_candidates(Node_index root) {
-  const Link_rows::Row row = links_[root];
-  Level& level = levels_[0];
-  level.candidates.nodes.resize(row.nodes.size());
-  std::iota(level.candidates.nodes.begin(), level.candidates.nodes.end(), 0);
-  level.candidates.sums.assign(row.logs, row.logs + row.nodes.size());
-  level.sum = 0.0;
-  level.all_pass = false;
-  names_.assign(row.nodes.begin(), row.nodes.end());
-}
-
-void K_clique_search::Link_candidates() {
-  for (std::uint32_t i = 0; i < names_.size(); ++i) number_of_[names_[i]] = i + 1;
-  local_.clear();
-  for (const Node_index node : names_) {
-    const Link_rows::Row row = links_[node];
-    for (std::size_t i = 0; i < row.nodes.size(); ++i)
-      if (number_of_[row.nodes[i]] != 0) local_.Append(number_of_[row.nodes[i]] - 1, row.logs[i]);
-    local_.Close_row();
-  }
-  bounded_ = true;
-  highest_log_ = -std::numeric_limits<double>::infinity();
-  Note_range(levels_[0].candidates.sums);
-  Note_range(local_.Logs());
-  if (bounded_ && k_ > 3) Rank_links();
-  for (const Node_index node : names_) number_of_[node] = 0;
-}
-
-/// The same links as those between the candidates of the root, from both of their ends.
-void K_clique_search::Rank_links() {
-  ranked_.Begin(names_.size());
-  for (std::uint32_t i = 0; i < names_.size(); ++i) {
-    for (const Weighted_cliques::Link_end& end : cliques_.Ranked_links(names_[i]))
-      if (end.clique_size >= k_ && number_of_[end.node] != 0)
-        ranked_.Append(number_of_[end.node] - 1, end.log);
-    ranked_.Close_row_of(i);
-  }
-  levels_[0].links = &ranked_;
-}
-
-void K_clique_search::Note_range(std::span<const double> logs) {
-  for (const double log : logs) {
-    bounded_ = bounded_ && std::isfinite(log);
-    highest_log_ = std::max(highest_log_, log);
-  }
-}
-
 /// Looks at the candidates of a new level; false if there is nothing left to do with them.
 bool K_clique_search::Begin_level(std::uint32_t depth, K_cliques& found) {
   Level& level = levels_[depth];
   const std::uint32_t missing = k_ - 1 - depth;
   level.next = 0;
   if (level.candidates.size() < missing) return false;
-  if (bounded_ && missing > 2) {
+  if (root_links_.Are_bounded() && missing > 2) {
     const Outlook outlook =
         bounds_.Judge(*level.links, level.sum, missing, !level.all_pass, level.candidates);
     if (outlook == Outlook::none_passes) return false;
@@ -156,23 +94,31 @@ bool K_clique_search::Descend(std::uint32_t depth, K_cliques& found) {
   Level& below = levels_[depth + 1];
   const std::size_t at = level.next++;
   ++visited_;
+  const std::uint32_t missing_below = k_ - 2 - depth;
   const std::uint32_t node = level.candidates.nodes[at];
   below.sum = level.sum + level.candidates.sums[at];
   below.all_pass = level.all_pass;
   below.links = level.links;
-  if (!level.all_pass && bounded_ && Is_hopeless(level, below.sum, k_ - 2 - depth)) return false;
-  k_clique_[depth + 1] = names_[node];
+  if (!level.all_pass && root_links_.Are_bounded() && Is_hopeless(level, below.sum, missing_below))
+    return false;
+  k_clique_[depth + 1] = root_links_.Name_of(node);
   below.candidates.clear();
-  For_each_behind(level, at, [&](std::uint32_t candidate, double candidate_sum) {
-    below.candidates.push_back(candidate, candidate_sum);
+  const bool with_reach = !below.all_pass && root_links_.Are_bounded();
+  For_each_behind(level, at, [&](std::size_t position, double candidate_sum) {
+    below.candidates.push_back(level.candidates.nodes[position], candidate_sum,
+                               with_reach ? level.candidates.reach[position] : 0.0);
   });
+  if (below.candidates.size() < missing_below) return false;
+  if (with_reach && missing_below > 2 &&
+      bounds_.Are_out_of_reach(below.sum, missing_below, below.candidates))
+    return false;
   return Begin_level(depth + 1, found);
 }
 
 /// A rough bound from above: the best candidate and the highest logarithm for all that is missing.
 bool K_clique_search::Is_hopeless(const Level& level, double sum, std::uint32_t missing) const {
   const double links_between = 0.5 * missing * (missing + 1.0);
-  return sum + missing * level.best_sum + links_between * highest_log_ < reject_below_;
+  return sum + missing * level.best_sum + links_between * root_links_.Highest_log() < reject_below_;
 }
 
 /// Calls use(candidate, its sum with the one at position `at`) for those behind `at` that are
@@ -180,12 +126,12 @@ bool K_clique_search::Is_hopeless(const Level& level, double sum, std::uint32_t 
 template <typename Use>
 void K_clique_search::For_each_behind(const Level& level, std::size_t at, Use use) const {
   const std::vector<std::uint32_t>& nodes = level.candidates.nodes;
-  const Link_rows::Row row = local_[nodes[at]];
+  const Link_rows::Row row = root_links_[nodes[at]];
   std::size_t next = at + 1;
   for (std::size_t i = 0; i < row.nodes.size(); ++i) {
     while (next < nodes.size() && nodes[next] < row.nodes[i]) ++next;
     if (next == nodes.size()) return;
-    if (nodes[next] == row.nodes[i]) use(nodes[next], level.candidates.sums[next] + row.logs[i]);
+    if (nodes[next] == row.nodes[i]) use(next, level.candidates.sums[next] + row.logs[i]);
   }
 }
 
@@ -196,11 +142,11 @@ void K_clique_search::Take_pairs(const Level& level, K_cliques& found) {
     ++visited_;
     const std::uint32_t node = level.candidates.nodes[at];
     const double sum = level.sum + level.candidates.sums[at];
-    if (!level.all_pass && bounded_ && Is_hopeless(level, sum, 1)) continue;
-    k_clique_[k_ - 2] = names_[node];
-    For_each_behind(level, at, [&](std::uint32_t last, double last_sum) {
+    if (!level.all_pass && root_links_.Are_bounded() && Is_hopeless(level, sum, 1)) continue;
+    k_clique_[k_ - 2] = root_links_.Name_of(node);
+    For_each_behind(level, at, [&](std::size_t last, double last_sum) {
       ++visited_;
-      k_clique_[k_ - 1] = names_[last];
+      k_clique_[k_ - 1] = root_links_.Name_of(level.candidates.nodes[last]);
       if (level.all_pass || Passes(sum + last_sum)) found.push_back(k_clique_);
     });
   }
@@ -215,7 +161,8 @@ void K_clique_search::Take_all_subsets(const Level& level, std::uint32_t depth, 
   for (;;) {
     Tell_and_poll(found);
     ++visited_;
-    for (std::size_t i = 0; i < missing; ++i) k_clique_[depth + 1 + i] = names_[nodes[subset_[i]]];
+    for (std::size_t i = 0; i < missing; ++i)
+      k_clique_[depth + 1 + i] = root_links_.Name_of(nodes[subset_[i]]);
     found.push_back(k_clique_);
     std::size_t last = missing;
     while (last > 0 && subset_[last - 1] == nodes.size() - missing + last - 1) --last;

@@ -7,6 +7,7 @@
 #include "intensity/K_clique_bounds.h"
 #include "intensity/K_cliques.h"
 #include "intensity/Local_links.h"
+#include "intensity/Root_links.h"
 #include "intensity/Sub_links.h"
 #include "intensity/Weighted_cliques.h"
 
@@ -42,11 +43,6 @@ class K_clique_search {
   };
 
   void Tell_and_poll(const K_cliques& found) const;
-  void Collect_candidates(Node_index root);
-  void Link_candidates();
-  void Note_range(std::span<const double> logs);
-  void Link_nodes();
-  void Rank_links();
   bool Begin_level(std::uint32_t depth, K_cliques& found);
   bool Descend(std::uint32_t depth, K_cliques& found);
   [[nodiscard]] bool Is_hopeless(const Level& level, double sum, std::uint32_t missing) const;
@@ -64,15 +60,9 @@ class K_clique_search {
   double reject_below_;  ///< a sum below fails, in whatever order it was added up
   double accept_above_;
   K_clique_bounds bounds_;
-  Link_rows links_;                       ///< of the nodes, inside cliques of k nodes or more
-  Link_rows local_;                       ///< links between the candidates of the root
-  Ranked_links ranked_;                   ///< the same
-  std::vector<Node_index> names_;         ///< per candidate of the root: its node
-  std::vector<std::uint32_t> number_of_;  ///< per node: its position in names_ + 1, or 0
-  double highest_log_ = 0.0;              ///< of the links at the root and in local_
-  bool bounded_ = false;                  ///< all of them are finite
-  std::uint64_t visited_ = 0;             ///< whole k-cliques and parts of them
-  std::vector<Level> levels_;             ///< [d]: d + 1 nodes are chosen, 2 or more are missing
+  Root_links root_links_;
+  std::uint64_t visited_ = 0;  ///< whole k-cliques and parts of them
+  std::vector<Level> levels_;  ///< [d]: d + 1 nodes are chosen, 2 or more are missing
   std::vector<Node_index> k_clique_;
   std::vector<std::uint32_t> subset_;
   Sub_links sub_links_;  ///< of the k-clique decided exactly last

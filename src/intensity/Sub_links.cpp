@@ -1,6 +1,7 @@
 #include "intensity/Sub_links.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace gns {
 
@@ -10,22 +11,22 @@ Link_logs::Link_logs(const Index_links& index_links) : index_links_(index_links)
     logs_.push_back(std::log(index_links.Weight_at(place)));
     if (logs_.back() < lowest_) lowest_ = logs_.back();
   }
+  Fill_table();
 }
 
-/// Halves the row without a branch: which half it is, no processor can foresee.
-std::size_t Link_logs::Place(Node_index first, Node_index second) const {
-  if (first - 1 < index_links_.Node_count()) {
-    const Node_span row = index_links_.Row(first);
-    const Node_index* at = row.data();
-    for (std::size_t count = row.size(); count > 1;) {
-      const std::size_t half = count / 2;
-      at += half * static_cast<std::size_t>(at[half - 1] < second);
-      count -= half;
+/// At most half of the entries are taken.
+void Link_logs::Fill_table() {
+  const std::size_t slots = std::bit_ceil(2 * logs_.size() + 2);
+  shift_ = 64U - static_cast<unsigned>(std::countr_zero(slots));
+  table_.resize(slots, none);
+  std::uint32_t place = 0;
+  for (Node_index first = 1; first <= index_links_.Node_count(); ++first) {
+    for (const Node_index second : index_links_.Row(first)) {
+      std::size_t slot = Slot_of(first, second);
+      while (table_[slot] != none) slot = (slot + 1) & (slots - 1);
+      table_[slot] = place++;
     }
-    if (!row.empty() && *at == second)
-      return index_links_.Start(first) + static_cast<std::size_t>(at - row.data());
   }
-  throw Missing_link();
 }
 
 void Sub_links::Load(Node_span node_set, const Link_logs& logs) {

@@ -25,18 +25,32 @@ class Link_logs {
 
   /// The logarithm of a link, smaller node first. Throws Xerror_msg if there is no such link.
   [[nodiscard]] double At(Node_index first, Node_index second) const {
-    return logs_[Place(first, second)];
+    const std::size_t start = index_links_.Start(first);
+    const Node_span row = index_links_.Row(first);
+    for (std::size_t slot = Slot_of(first, second);; slot = (slot + 1) & (table_.size() - 1)) {
+      if (table_[slot] == none) throw Missing_link();
+      const std::size_t in_row = table_[slot] - start;
+      if (in_row < row.size() && row[in_row] == second) return logs_[table_[slot]];
+    }
   }
-  /// Position of a link in the order of `index_links`. Throws Xerror_msg if there is none.
-  [[nodiscard]] std::size_t Place(Node_index first, Node_index second) const;
   [[nodiscard]] double At_place(std::size_t place) const { return logs_[place]; }
   [[nodiscard]] const Index_links& Links() const { return index_links_; }
   /// The lowest of all that are numbers, or infinity.
   [[nodiscard]] double Lowest() const { return lowest_; }
 
  private:
+  static constexpr std::uint32_t none = ~std::uint32_t{0};
+
+  [[nodiscard]] std::size_t Slot_of(Node_index first, Node_index second) const {
+    const std::uint64_t both = (std::uint64_t{first} << 32U) | second;
+    return static_cast<std::size_t>((both * 0x9e3779b97f4a7c15ULL) >> shift_);
+  }
+  void Fill_table();
+
   const Index_links& index_links_;
   std::vector<double> logs_;
+  std::vector<std::uint32_t> table_;  ///< places; open addressing, the size is a power of two
+  unsigned shift_ = 0;                ///< leaves as many bits as a slot has
   double lowest_ = std::numeric_limits<double>::infinity();
 };
 
