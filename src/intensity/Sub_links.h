@@ -25,6 +25,7 @@ class Link_logs {
 
   /// The logarithm of a link, smaller node first. Throws Xerror_msg if there is no such link.
   [[nodiscard]] double At(Node_index first, Node_index second) const {
+    if (first > index_links_.Node_count()) throw Missing_link();
     const std::size_t start = index_links_.Start(first);
     const Node_span row = index_links_.Row(first);
     for (std::size_t slot = Slot_of(first, second);; slot = (slot + 1) & (table_.size() - 1)) {

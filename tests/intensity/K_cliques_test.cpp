@@ -12,6 +12,7 @@
 #include "Literal_intensity.h"
 #include "Thrown_message.h"
 #include "control/Clique_find_ext_cont.h"
+#include "intensity/Hopeful_nodes.h"
 #include "intensity/K_clique_communities.h"
 #include "intensity/K_clique_generation.h"
 
@@ -131,6 +132,25 @@ TEST(Intensity, EqualsTheLiteralMethod) {
   }
 }
 
+/// Weights that differ everywhere, in graphs of a few large cliques: branches are cut, narrowed and
+/// taken whole at every depth, and k-cliques share subsets that pass beside some that don't.
+TEST(Intensity, EqualsTheLiteralMethodInLargeCliques) {
+  for (unsigned round = 0; round < 60; ++round) {
+    std::mt19937 random(round);
+    std::lognormal_distribution<double> weight(0.0, round % 2 == 0 ? 0.3 : 1.0);
+    Weighted_links links;
+    const Node_index nodes = 10 + round % 4;
+    for (Node_index a = 1; a <= nodes; ++a)
+      for (Node_index b = a + 1; b <= nodes; ++b)
+        if (random() % 12 > 0) links[{a, b}] = weight(random) * (a % 4 == 0 ? 0.5 : 1.0);
+    if (round % 6 == 5) links[{1, 2}] = -1.0;
+    Intensity_run run(links);
+    for (unsigned k = 7; k >= 4; --k)
+      for (const double threshold : {0.5, 0.9, 1.2}) Compare(run, links, k, threshold);
+    if (HasFatalFailure()) FAIL() << "round " << round;
+  }
+}
+
 /// Cliques of consecutive nodes, each from its first node to its last; all links weigh the same.
 Weighted_links Cliques(const std::vector<std::pair<Node_index, Node_index>>& ranges,
                        double weight) {
@@ -151,7 +171,19 @@ TEST(KCliques, HopelessBranchesAreCut) {
   EXPECT_EQ(run.k_cliques.size(), 17U);
 }
 
-/// More shared subsets than are held in memory at a time.
+/// A strong clique of 20 nodes, a weak one of 40, and one with a single strong link for each node.
+TEST(KCliques, NodesWithoutHopeAreLeftOut) {
+  Weighted_links links = Cliques({{1, 20}, {20, 59}, {60, 69}}, 0.5);
+  for (auto& [link, weight] : links)
+    if (link.second <= 20 || (link.first >= 60 && link.second == link.first + 1)) weight = 2.0;
+  Intensity_run run(links);
+  const Hopeful_nodes hopeful(run.weighted, 8, literal::Log_of_power(1.5, 8));
+  for (Node_index node = 1; node <= 69; ++node) EXPECT_EQ(hopeful[node], node <= 20) << node;
+  const double no_threshold = literal::Log_of_power(0.0, 11);
+  const Hopeful_nodes in_cliques(run.weighted, 11, no_threshold);
+  for (Node_index node = 1; node <= 69; ++node) EXPECT_EQ(in_cliques[node], node < 60) << node;
+}
+
 TEST(KCliques, ManyOfThem) {
   constexpr std::size_t subsets_of_9 = 48620;
   for (const Node_index second_begins : {12U, 11U}) {
@@ -166,14 +198,16 @@ TEST(KCliques, ManyOfThem) {
 
 TEST(KCliques, MissingLink) {
   Weighted_links links = Cliques({{1, 4}}, 1.0);
-  const Clique_vector maximal = literal::Rows_of(Maximal_cliques(links));
   links.erase({2, 3});
   const Index_links fewer = Index_links_of(links);
   const std::string text = "ERROR: Get_sub_links_and_thresh_abs: missing link.\n";
-  EXPECT_EQ(Thrown_message([&] { const Weighted_cliques cliques(maximal, fewer); }), text);
-  const std::vector<Node_index> set = {1, 2, 3};
-  const Link_logs logs(fewer);
-  EXPECT_EQ(Thrown_message([&] { Coms_from_k_cls_sub::Check_intersection(set, logs, 0.5); }), text);
+  for (const auto& set : std::vector<std::vector<Node_index>>{{1, 2, 3}, {1, 2, 9}, {8, 9}}) {
+    const Clique_vector cliques = literal::Rows_of({Set(set.begin(), set.end())});
+    EXPECT_EQ(Thrown_message([&] { const Weighted_cliques weighted(cliques, fewer); }), text);
+    const Link_logs logs(fewer);
+    EXPECT_EQ(Thrown_message([&] { Coms_from_k_cls_sub::Check_intersection(set, logs, 0.5); }),
+              text);
+  }
 }
 
 TEST(ThreadsKCliques, ReportAndStop) {
