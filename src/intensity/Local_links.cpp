@@ -15,8 +15,9 @@ void Ranked_links::Take_part(const Ranked_links& links, std::span<const std::uin
   for (const std::uint32_t node : nodes) is_in_part_[node] = 1;
   for (const std::uint32_t node : nodes) {
     const Link_rows::Row row = links[node];
+    Make_room(row.nodes.size());
     for (std::size_t i = 0; i < row.nodes.size(); ++i)
-      if (is_in_part_[row.nodes[i]] != 0) Append(row.nodes[i], row.logs[i]);
+      Append(row.nodes[i], row.logs[i], is_in_part_[row.nodes[i]] != 0);
     Close_row_of(node);
   }
   for (const std::uint32_t node : nodes) is_in_part_[node] = 0;

@@ -21,22 +21,29 @@ class Link_rows {
     return {{nodes_.data() + start, starts_[row + 1] - start}, logs_.data() + start};
   }
   /// The logarithms of all rows.
-  [[nodiscard]] const std::vector<double>& Logs() const { return logs_; }
+  [[nodiscard]] std::span<const double> Logs() const { return {logs_.data(), starts_.back()}; }
 
   void clear() {
     starts_.assign(1, 0);
-    nodes_.clear();
-    logs_.clear();
+    size_ = 0;
   }
-  /// Appends a link to the row under construction, which Close_row() then ends.
-  void Append(std::uint32_t node, double log) {
-    nodes_.push_back(node);
-    logs_.push_back(log);
+  /// To be called before up to `count` links are entered.
+  void Make_room(std::size_t count) {
+    if (size_ + count < nodes_.size()) return;
+    nodes_.resize(2 * (size_ + count + 1));
+    logs_.resize(nodes_.size());
   }
-  void Close_row() { starts_.push_back(nodes_.size()); }
+  /// Appends a link to the row under construction, if it is wanted, which no processor can foresee.
+  void Append(std::uint32_t node, double log, bool wanted = true) {
+    nodes_[size_] = node;
+    logs_[size_] = log;
+    size_ += wanted ? 1 : 0;
+  }
+  void Close_row() { starts_.push_back(size_); }
 
  private:
   std::vector<std::size_t> starts_ = {0};
+  std::size_t size_ = 0;  ///< of what stands in both below, with room for one more at least
   std::vector<std::uint32_t> nodes_;
   std::vector<double> logs_;
 };
@@ -46,7 +53,8 @@ class Link_rows {
 class Ranked_links {
  public:
   void Begin(std::size_t node_count);
-  void Append(std::uint32_t node, double log) { rows_.Append(node, log); }
+  void Make_room(std::size_t count) { rows_.Make_room(count); }
+  void Append(std::uint32_t node, double log, bool wanted) { rows_.Append(node, log, wanted); }
   void Close_row_of(std::uint32_t node) {
     row_of_[node] = static_cast<std::uint32_t>(rows_.size());
     rows_.Close_row();

@@ -13,9 +13,10 @@ Root_links::Root_links(const Weighted_cliques& cliques, std::uint32_t k, double 
   const Hopeful_nodes hopeful(cliques, k, reject_below);
   rows_.Close_row();  // there is no node 0
   for (Node_index node = 1; node <= cliques.Node_count(); ++node) {
+    rows_.Make_room(cliques.Ranked_links(node).size());
     if (hopeful[node])
       cliques.For_each_link(node, k, [&](Node_index neighbour, double log, std::uint32_t) {
-        if (hopeful[neighbour]) rows_.Append(neighbour, log);
+        rows_.Append(neighbour, log, hopeful[neighbour]);
       });
     rows_.Close_row();
   }
@@ -38,8 +39,11 @@ void Root_links::Link_names() {
   links_.clear();
   for (const Node_index node : names_) {
     const Link_rows::Row row = rows_[node];
-    for (std::size_t i = 0; i < row.nodes.size(); ++i)
-      if (number_of_[row.nodes[i]] != 0) links_.Append(number_of_[row.nodes[i]] - 1, row.logs[i]);
+    links_.Make_room(row.nodes.size());
+    for (std::size_t i = 0; i < row.nodes.size(); ++i) {
+      const std::uint32_t number = number_of_[row.nodes[i]];
+      links_.Append(number - 1, row.logs[i], number != 0);
+    }
     links_.Close_row();
   }
 }
@@ -67,9 +71,12 @@ void Root_links::Collect(const double* logs, Candidates& candidates) {
 void Root_links::Rank(const Candidates& candidates) {
   ranked_.Begin(names_.size());
   for (const std::uint32_t candidate : candidates.nodes) {
-    for (const Weighted_cliques::Link_end& end : cliques_.Ranked_links(names_[candidate]))
-      if (end.clique_size >= k_ && number_of_[end.node] != 0)
-        ranked_.Append(number_of_[end.node] - 1, end.log);
+    const auto ends = cliques_.Ranked_links(names_[candidate]);
+    ranked_.Make_room(ends.size());
+    for (const Weighted_cliques::Link_end& end : ends) {
+      const std::uint32_t number = number_of_[end.node];
+      ranked_.Append(number - 1, end.log, number != 0 && end.clique_size >= k_);
+    }
     ranked_.Close_row_of(candidate);
   }
 }

@@ -135,8 +135,8 @@ TEST(Intensity, EqualsTheLiteralMethod) {
 /// Weights that differ everywhere, in graphs of a few large cliques: branches are cut, narrowed and
 /// taken whole at every depth, and k-cliques share subsets that pass beside some that don't.
 TEST(Intensity, EqualsTheLiteralMethodInLargeCliques) {
+  std::mt19937 random(1);
   for (unsigned round = 0; round < 60; ++round) {
-    std::mt19937 random(round);
     std::lognormal_distribution<double> weight(0.0, round % 2 == 0 ? 0.3 : 1.0);
     Weighted_links links;
     const Node_index nodes = 10 + round % 4;
