@@ -1,22 +1,11 @@
 #include "cli/terminal/Text_table.h"
 
 #include <algorithm>
-#include <iomanip>
 
+#include "foundation/text/Csv_text.h"
 #include "foundation/text/Shown_text.h"
 
 namespace gns {
-
-namespace {
-
-std::string In_csv(const std::string& cell) {
-  if (cell.find_first_of(",\"\r\n") == std::string::npos) return cell;
-  std::string quoted = "\"";
-  for (const char c : cell) quoted.append(c == '"' ? 2 : 1, c);
-  return quoted + "\"";
-}
-
-}  // namespace
 
 void Text_table::Print(std::ostream& stream) const {
   std::vector<std::size_t> widths(rows_.front().size(), 0);
@@ -32,8 +21,12 @@ void Text_table::Print(std::ostream& stream) const {
 
 void Text_table::Print_csv(std::ostream& stream) const {
   for (const auto& row : rows_) {
-    for (std::size_t i = 0; i < row.size(); ++i) stream << (i > 0 ? "," : "") << In_csv(row[i]);
-    stream << "\n";
+    std::string line;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      if (i > 0) line += ',';
+      Append_csv(row[i], ',', line);
+    }
+    stream << line << "\n";
   }
 }
 

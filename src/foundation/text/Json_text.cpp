@@ -1,30 +1,15 @@
 #include "foundation/text/Json_text.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
-#include <cstdint>
+
+#include "foundation/text/Number_text.h"
+#include "foundation/text/Utf8.h"
 
 namespace gns {
 
 namespace {
 
-/// The length of the character of UTF-8 at the front; 0 if there is none.
-std::size_t Character_length(std::string_view text) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-  const unsigned char first = byte(0);
-  const std::size_t length = first < 0x80 ? 1 : first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
-  if (length == 1) return 1;
-  if (first < 0xC2 || first > 0xF4 || text.size() < length) return 0;
-  for (std::size_t i = 1; i < length; ++i)
-    if ((byte(i) & 0xC0U) != 0x80) return 0;
-  const bool too_long = (first == 0xE0 && byte(1) < 0xA0) || (first == 0xF0 && byte(1) < 0x90);
-  const bool surrogate = first == 0xED && byte(1) >= 0xA0;
-  const bool beyond = first == 0xF4 && byte(1) >= 0x90;
-  return too_long || surrogate || beyond ? 0 : length;
-}
-
-void Append_escaped(char c, std::string& json) {
+void Append_json_escape(char c, std::string& json) {
   constexpr std::string_view digits = "0123456789abcdef";
   const auto byte = static_cast<unsigned char>(c);
   if (c == '"' || c == '\\')
@@ -37,27 +22,31 @@ void Append_escaped(char c, std::string& json) {
 
 }  // namespace
 
+bool Append_json(std::string_view text, std::string& out) {
+  constexpr unsigned char first_printable = 0x20;
+  out += '"';
+  const bool whole = Append_escaped(
+      text, out,
+      [](char c) {
+        return static_cast<unsigned char>(c) >= first_printable && c != '"' && c != '\\' &&
+               c != 0x7F;
+      },
+      Append_json_escape);
+  out += '"';
+  return whole;
+}
+
 std::string Json_string(std::string_view text) {
-  std::string json = "\"";
-  while (!text.empty()) {
-    const std::size_t length = Character_length(text);
-    if (length == 0)
-      json += "\xEF\xBF\xBD";
-    else if (length == 1)
-      Append_escaped(text.front(), json);
-    else
-      json += text.substr(0, length);
-    text.remove_prefix(length == 0 ? 1 : length);
-  }
-  return json + "\"";
+  std::string json;
+  Append_json(text, json);
+  return json;
 }
 
 std::string Json_number(double value) {
   if (!std::isfinite(value)) return "null";
-  constexpr std::size_t enough = 32;
-  std::array<char, enough> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
-  return {text.data(), end};
+  std::string json;
+  Append_number(value, json);
+  return json;
 }
 
 Json_list& Json_list::Add(std::string_view key, const std::string& value) {

@@ -8,6 +8,8 @@ namespace gns {
 /// A text as a string of JSON, with its quotes. Bytes that are no UTF-8 become U+FFFD, since JSON
 /// has no other texts.
 std::string Json_string(std::string_view text);
+/// Appends the same; false if there were such bytes.
+bool Append_json(std::string_view text, std::string& out);
 
 /// A number with what it needs of 17 digits; null for what JSON has no number for.
 std::string Json_number(double value);

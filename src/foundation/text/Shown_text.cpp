@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "foundation/text/Utf8.h"
+
 namespace gns {
 
 namespace {
@@ -11,15 +13,13 @@ unsigned Byte(char c) { return static_cast<unsigned char>(c); }
 /// The bytes of the character with which the text begins; 0 if it is no UTF-8 or a control
 /// character.
 std::size_t Shown_length(std::string_view text) {
+  constexpr unsigned printable = ' ';
+  constexpr unsigned second_controls = 0xA0;
+  const std::size_t length = Character_length(text);
   const unsigned lead = Byte(text[0]);
-  if (lead < 0x80) return lead >= ' ' && lead != 0x7F ? 1 : 0;
-  const std::size_t length = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-  if (lead < 0xC2 || lead > 0xF4 || text.size() < length) return 0;
-  if (!std::ranges::all_of(text.substr(1, length - 1), Continues_character)) return 0;
-  const unsigned next = Byte(text[1]);
-  const bool control = lead == 0xC2 && next < 0xA0;
-  const bool longer_than_need_be = (lead == 0xE0 && next < 0xA0) || (lead == 0xF0 && next < 0x90);
-  return control || longer_than_need_be ? 0 : length;
+  const bool control = length == 1 ? lead < printable || lead == 0x7F
+                                   : length == 2 && lead == 0xC2 && Byte(text[1]) < second_controls;
+  return control ? 0 : length;
 }
 
 void Append_hexadecimal(char c, std::string& text) {
