@@ -21,6 +21,12 @@ struct Place {
   bool operator==(const Place&) const = default;
 };
 
+/// The communities at a k, as in a Level.
+struct Communities {
+  Rows members;
+  std::size_t exact_count = 0;
+};
+
 /// All that was found in a network, whether it was found just now or stands in a directory. Never
 /// changes, is cheap to copy and may be read from any thread.
 class VORLANE_API Results {
@@ -45,10 +51,12 @@ class VORLANE_API Results {
   [[nodiscard]] const Level& At(std::uint32_t k) const;
 
   /// Parts of a level that can be had for less than all of it, and are not kept: its statistics,
-  /// the number of nodes of each community, Level::cliques and Level::overlaps.
+  /// the number of nodes of each community, and what has these names in a Level.
   [[nodiscard]] Statistics Statistics_at(std::uint32_t k) const;
   [[nodiscard]] Array<std::uint32_t> Sizes_at(std::uint32_t k) const;
+  [[nodiscard]] Communities Communities_at(std::uint32_t k) const;
   [[nodiscard]] Rows Cliques_at(std::uint32_t k) const;
+  [[nodiscard]] Rows K_cliques_at(std::uint32_t k) const;
   [[nodiscard]] Array<Overlap> Overlaps_at(std::uint32_t k) const;
   /// The names of the nodes in a community; throws an Error of kind `parameters` if there is none
   /// of this number.

@@ -26,7 +26,11 @@ struct Found : Results::Body {
       sizes.push_back(static_cast<std::uint32_t>(members.size()));
     return face::Held(std::move(sizes));
   }
+  [[nodiscard]] Communities Communities_at(std::uint32_t k) const override {
+    return {At(k).members, At(k).exact_count};
+  }
   [[nodiscard]] Rows Cliques_at(std::uint32_t k) const override { return At(k).cliques; }
+  [[nodiscard]] Rows K_cliques_at(std::uint32_t k) const override { return At(k).k_cliques; }
 
   [[nodiscard]] Array<Overlap> Overlaps_at(std::uint32_t k) const override {
     return At(k).overlaps;
@@ -70,7 +74,11 @@ const Cliques& Results::Cliques() const { return body_->Cliques(); }
 const Level& Results::At(std::uint32_t k) const { return Body_with(k).At(k); }
 Statistics Results::Statistics_at(std::uint32_t k) const { return Body_with(k).Statistics_at(k); }
 Array<std::uint32_t> Results::Sizes_at(std::uint32_t k) const { return Body_with(k).Sizes_at(k); }
+Communities Results::Communities_at(std::uint32_t k) const {
+  return Body_with(k).Communities_at(k);
+}
 Rows Results::Cliques_at(std::uint32_t k) const { return Body_with(k).Cliques_at(k); }
+Rows Results::K_cliques_at(std::uint32_t k) const { return Body_with(k).K_cliques_at(k); }
 Array<Overlap> Results::Overlaps_at(std::uint32_t k) const { return Body_with(k).Overlaps_at(k); }
 
 std::vector<std::string> Results::Names_in(Place place) const {

@@ -19,11 +19,13 @@ struct Results::Body {
 
   [[nodiscard]] virtual const vorlane::Network& Network() const = 0;
   [[nodiscard]] virtual const vorlane::Cliques& Cliques() const = 0;
-  /// These six of one of the ks.
+  /// These eight of one of the ks.
   [[nodiscard]] virtual const Level& At(std::uint32_t k) const = 0;
   [[nodiscard]] virtual vorlane::Statistics Statistics_at(std::uint32_t k) const = 0;
   [[nodiscard]] virtual Array<std::uint32_t> Sizes_at(std::uint32_t k) const = 0;
+  [[nodiscard]] virtual Communities Communities_at(std::uint32_t k) const = 0;
   [[nodiscard]] virtual Rows Cliques_at(std::uint32_t k) const = 0;
+  [[nodiscard]] virtual Rows K_cliques_at(std::uint32_t k) const = 0;
   [[nodiscard]] virtual Array<Overlap> Overlaps_at(std::uint32_t k) const = 0;
   /// Nothing if there is no such community.
   [[nodiscard]] virtual std::optional<std::vector<std::string>> Names_in(Place place) const = 0;

@@ -94,6 +94,20 @@ class In_directory : public Results::Body {
     return Reading([&] { return Held(Reader(k).Read_sizes()); });
   }
 
+  [[nodiscard]] Communities Communities_at(std::uint32_t k) const override {
+    const std::lock_guard guard(lock_);
+    return Reading([&] {
+      gns::Read_rows read = Reader(k).Read_communities(Nodes());
+      return Communities{Held(std::move(read.rows)), read.exact_count};
+    });
+  }
+
+  [[nodiscard]] Rows K_cliques_at(std::uint32_t k) const override {
+    if (method != Method::intensity) return {};
+    const std::lock_guard guard(lock_);
+    return Reading([&] { return Held(Reader(k).Read_k_cliques(Nodes())); });
+  }
+
   [[nodiscard]] Rows Cliques_at(std::uint32_t k) const override {
     if (method == Method::intensity) return {};
     return Reading([&] { return Held(Reader(k).Read_com_cliques()); });
