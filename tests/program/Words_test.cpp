@@ -76,6 +76,18 @@ TEST_F(ProgramWords, AnswerForPeopleAndPrograms) {
   }
 }
 
+TEST_F(ProgramWords, ExportGoesToFilesOrThroughAPipe) {
+  EXPECT_EQ(Run({"export", "out/", "--format", "csv,tables", "--k=4"}), 0) << err_;
+  EXPECT_EQ(out_, "out.csv\nout.nodes.csv\nout.edges.csv\n");
+  EXPECT_EQ(temp_.Read("out.csv"), "k,community,node,exact\n4,0,c,1\n4,0,d,1\n4,0,e,1\n4,0,f,1\n");
+  EXPECT_EQ(Run({"export", "out", "--format=csv", "--k", "4", "-o", "-"}), 0) << err_;
+  EXPECT_EQ(out_, temp_.Read("out.csv"));
+  EXPECT_EQ(Run({"export", "out", "--format=jsonl", "-o", "out.csv"}), 1);
+  EXPECT_EQ(err_, "vorlane: 'out.csv' exists. With --force it is replaced.\n");
+  EXPECT_EQ(Run({"export", "out", "--format=jsonl", "-o", "out.csv", "--force"}), 0) << err_;
+  EXPECT_EQ(temp_.Read("out.csv").substr(0, 7), "{\"k\":3,");
+}
+
 TEST_F(ProgramWords, WhatIsWrongIsToldWithTheCure) {
   const struct {
     Words words;
@@ -94,6 +106,12 @@ TEST_F(ProgramWords, WhatIsWrongIsToldWithTheCure) {
       {{"query", "out", "--community", "3:2"}, 2, "no community 2 at k = 3: 2 are counted from 0"},
       {{"query", "out", "--community", "9:0"}, 2, "no level at k = 9; the levels are those of k ="},
       {{"query", "out", "--overlap", "3:0:1:2"}, 2, "not of the form K:I:J"},
+      {{"export", "out"}, 2, "Which format? See: vorlane help export"},
+      {{"export", "out", "--format", "png"}, 2, "no format 'png'; there are gexf, graphml, cx2"},
+      {{"export", "out", "--format=csv", "--k", "3a"}, 2, "--k needs a number or 'all', not '3a'"},
+      {{"export", "out", "--format=csv", "--k=5"}, 2, "no level at k = 5"},
+      {{"export", "out", "--format=tables", "-o", "-"}, 2, "has several files"},
+      {{"export", "out", "--format=csv", "-o", "no/such"}, 1, "'no/such' can't be written: open"},
       {{"help", "me"}, 2, "There is no word 'me'"},
   };
   for (const auto& [words, code, told] : cases) {

@@ -14,4 +14,7 @@ void Answer_which_k(const Word_line& line, std::ostream& out);
 void Answer_query(const Word_line& line, std::ostream& out);
 void Answer_tree(const Word_line& line, std::ostream& out);
 
+/// Writes files, and their names on `out`.
+void Answer_export(const Word_line& line, std::ostream& out);
+
 }  // namespace gns

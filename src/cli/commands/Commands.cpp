@@ -28,15 +28,21 @@ void Answer_help(const Word_line& line, std::ostream& out) {
 using Answer = void (*)(const Word_line& line, std::ostream& out);
 
 Answer Answer_of(const Word& word) {
-  constexpr std::array<std::pair<std::string_view, Answer>, 5> answers = {
+  constexpr std::array<std::pair<std::string_view, Answer>, 6> answers = {
       {{"summary", Answer_summary},
        {"which-k", Answer_which_k},
        {"query", Answer_query},
        {"tree", Answer_tree},
+       {"export", Answer_export},
        {"help", Answer_help}}};
   for (const auto& [name, answer] : answers)
     if (name == word.word) return answer;
   throw Xerror_msg("'" + std::string(word.word) + "' has no answer.\n");
+}
+
+Exit_code Code_of(vorlane::Error_kind kind) {
+  if (kind == vorlane::Error_kind::stopped) return Exit_code::stopped;
+  return kind == vorlane::Error_kind::parameters ? Exit_code::wrong_usage : Exit_code::run_failed;
 }
 
 }  // namespace
@@ -47,8 +53,7 @@ Exit_code Do_word(const Word& word, const std::vector<std::string>& words) {
     return Exit_code::finished;
   } catch (const vorlane::Error& failure) {
     Tell(failure.what());
-    return failure.Kind() == vorlane::Error_kind::parameters ? Exit_code::wrong_usage
-                                                             : Exit_code::run_failed;
+    return Code_of(failure.Kind());
   } catch (const Xerror_msg& failure) {
     Tell(failure.what());
     return Exit_code::wrong_usage;

@@ -16,6 +16,11 @@ struct Word_line {
   std::map<std::string, std::string, std::less<>> options;  ///< with their dashes; empty: no value
 
   [[nodiscard]] bool Has(std::string_view option) const { return options.contains(option); }
+  /// Empty without the option.
+  [[nodiscard]] std::string Value(std::string_view option) const {
+    const auto found = options.find(option);
+    return found == options.end() ? std::string() : found->second;
+  }
 };
 
 /// Takes it apart; an option's argument may follow it as the next word or behind "=", and behind

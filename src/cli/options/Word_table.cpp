@@ -51,6 +51,54 @@ constexpr std::array query_options{
     },
 };
 
+constexpr std::array export_options{
+    Option{
+        .word = "--format",
+        .argument = "F,...",
+        .kind = Option::Argument::words,
+        .group = Option::Group::display,
+        .summary = "gexf (for Gephi), graphml (igraph, networkx), cx2 (Cytoscape), csv, tsv, "
+                   "csv-wide, tsv-wide, tables (nodes and edges), json, jsonl, cdlib",
+        .without = "",
+        .description = "In which formats: `gexf` for Gephi, `graphml` for igraph and networkx, "
+                       "`cx2` for Cytoscape, `csv` and `tsv` with a line for each node of a "
+                       "community, `csv-wide` and `tsv-wide` with a line for each node, `tables` "
+                       "with nodes and edges, `json`, `jsonl` with a community on a line, `cdlib`. "
+                       "Must be given.",
+        .mandatory = true,
+    },
+    Option{
+        .word = "--k",
+        .argument = "K",
+        .kind = Option::Argument::number,
+        .group = Option::Group::display,
+        .summary = "the communities at this k only",
+        .without = "all",
+        .description = "Exports the communities at this k only; `all` is all of them, as without "
+                       "the option.",
+    },
+    Option{
+        .word = "-o",
+        .argument = "FILE",
+        .kind = Option::Argument::file,
+        .group = Option::Group::display,
+        .summary = "the file; `-` is standard output; a beginning of names where a format has "
+                   "several files",
+        .without = "the name of DIR with an ending",
+        .description = "Writes to FILE, or, if that is `-`, to standard output. Where a format has "
+                       "several files, or there are several formats, their names begin with FILE. "
+                       "Without it they begin with the name of DIR.",
+    },
+    Option{
+        .word = "--force",
+        .argument = "",
+        .group = Option::Group::display,
+        .summary = "replaces files that exist",
+        .without = "",
+        .description = "Replaces files that exist, each once the new one is whole.",
+    },
+};
+
 constexpr std::array words{
     Word{
         .word = "run",
@@ -96,6 +144,15 @@ constexpr std::array words{
             "Shows for each community at a k the communities at the next greater k inside it, "
             "indented below it: its k and number, and how many nodes it has.",
         .options = json_only,
+    },
+    Word{
+        .word = "export",
+        .arguments = "DIR",
+        .summary = "network and communities as files for other programs",
+        .description =
+            "Writes the network and the communities in DIR in formats of other programs. Files "
+            "that exist are not replaced.",
+        .options = export_options,
     },
     Word{
         .word = "help",

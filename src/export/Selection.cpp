@@ -1,0 +1,32 @@
+#include "export/Selection.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "queries/Summary.h"
+#include "queries/Which_k.h"
+
+namespace vorlane::exporting {
+
+Selection::Selection(vorlane::Results results, std::optional<std::uint32_t> k)
+    : results_(std::move(results)), ks_(results_.Ks().rbegin(), results_.Ks().rend()), shown_k_(k) {
+  if (k) {
+    (void)results_.Sizes_at(*k);  // throws if there is no such level
+    ks_ = {*k};
+  } else if (const auto chosen = queries::Which_k({queries::Summary_of(results_)})) {
+    shown_k_ = chosen->level.k;
+  }
+}
+
+Memberships Selection::Memberships() const {
+  std::vector<Rows> levels;
+  for (const std::uint32_t k : ks_) levels.push_back(results_.Communities_at(k).members);
+  return {Network().size(), levels};
+}
+
+std::string Attribute(std::string_view name, std::uint32_t k) {
+  std::string attribute(name);
+  return attribute.append("_k").append(std::to_string(k));
+}
+
+}  // namespace vorlane::exporting
