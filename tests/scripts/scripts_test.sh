@@ -49,11 +49,11 @@ bare() {
 # Folders named like programs are no programs, and files are looked for where they belong.
 run="cmake g++ ninja-build"
 java="cmake default-jdk-headless g++ ninja-build"
-ci="clang clang-format clang-tidy cmake default-jdk-headless fish g++ libclang-rt-dev llvm mandoc ninja-build shellcheck zsh"
+ci="clang clang-format clang-tidy cmake default-jdk-headless fish g++ libclang-rt-dev llvm mandoc ninja-build nodejs npm python3 python3-venv shellcheck zsh"
 while IFS='|' read -r task packages; do
   bare scripts/setup "$task" >/dev/null
   expect "setup $task" "apt-get update apt-get install -y --no-install-recommends $packages" \
-    "$(sed 's/ junit4\| libgtest-dev\| strace//g' "$log" | paste -sd ' ')"
+    "$(sed 's/ junit4\| r-cran-igraph\| libgtest-dev\| strace//g' "$log" | paste -sd ' ')"
 done <<END
 --run|$run
 --java|$java
