@@ -76,6 +76,25 @@ TEST_F(ProgramWords, AnswerForPeopleAndPrograms) {
   }
 }
 
+TEST_F(ProgramWords, DiffTellsOfTwoResults) {
+  EXPECT_EQ(Run({"-i", "net", "-o", "strong", "-w", "0.5"}), 0) << err_;
+  temp_.Write("less", "b c\nc a\na b\n");
+  EXPECT_EQ(Run({"-i", "less", "-o", "less_out"}), 0) << err_;
+  EXPECT_EQ(Run({"diff", "out", "strong", "--csv"}), 0) << err_;
+  EXPECT_EQ(out_,
+            "k,kept,grown,shrunk,changed,merged,split,died,born,omega index,NMI\n"
+            "4,1,0,0,0,0,0,0,0,1.000,1.000\n3,2,0,0,0,0,0,0,0,1.000,1.000\n");
+  EXPECT_EQ(Run({"diff", "--k", "3", "out", "less_out"}), 0) << err_;
+  EXPECT_EQ(out_.substr(0, out_.find("omega")),
+            "        before  nodes  after  nodes  Jaccard\n"
+            "  kept       0      3      0      3    1.000\n"
+            "  died       1      4      -      -    0.000\n\n");
+  EXPECT_EQ(Run({"diff", "less_out", "less_out", "--json"}), 0) << err_;
+  EXPECT_EQ(out_,
+            "[{\"k\":3,\"omega\":1,\"nmi\":1,\"changes\":[{\"fate\":\"kept\",\"before\":0,"
+            "\"after\":0,\"nodes_before\":3,\"nodes_after\":3,\"jaccard\":1}]}]\n");
+}
+
 TEST_F(ProgramWords, ExportGoesToFilesOrThroughAPipe) {
   EXPECT_EQ(Run({"export", "out/", "--format", "csv,tables", "--k=4"}), 0) << err_;
   EXPECT_EQ(out_, "out.csv\nout.nodes.csv\nout.edges.csv\n");
@@ -106,6 +125,8 @@ TEST_F(ProgramWords, WhatIsWrongIsToldWithTheCure) {
       {{"query", "out", "--community", "3:2"}, 2, "no community 2 at k = 3: 2 are counted from 0"},
       {{"query", "out", "--community", "9:0"}, 2, "no level at k = 9; the levels are those of k ="},
       {{"query", "out", "--overlap", "3:0:1:2"}, 2, "not of the form K:I:J"},
+      {{"diff", "out"}, 2, "'diff' needs more than that"},
+      {{"diff", "out", "out", "--k=7"}, 2, "no level at k = 7"},
       {{"export", "out"}, 2, "Which format? See: vorlane help export"},
       {{"export", "out", "--format", "png"}, 2, "no format 'png'; there are gexf, graphml, cx2"},
       {{"export", "out", "--format=csv", "--k", "3a"}, 2, "--k needs a number or 'all', not '3a'"},

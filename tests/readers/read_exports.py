@@ -282,6 +282,7 @@ class Readers(unittest.TestCase):
                 "summary": [["summary", run.directory]],
                 "which-k": [["which-k", run.directory]],
                 "tree": [["tree", run.directory]],
+                "diff": [["diff", run.directory, self.runs[0].directory]],
                 "query": [["query", run.directory, *names],
                           ["query", run.directory, "--community", f"{k}:{number}"],
                           ["query", run.directory, "--overlap", f"{k}:{number}:{number}"]],

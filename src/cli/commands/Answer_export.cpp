@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <string>
 #include <vector>
@@ -35,15 +34,6 @@ std::vector<const Format*> Formats_in(std::string_view names) {
   return formats;
 }
 
-std::optional<std::uint32_t> K_in(const std::string& word) {
-  if (word.empty() || word == "all") return std::nullopt;
-  std::uint32_t k = 0;
-  const auto [end, failure] = std::from_chars(word.data(), word.data() + word.size(), k);
-  if (failure != std::errc() || end != word.data() + word.size())
-    throw Xerror_msg("--k needs a number or 'all', not " + Quoted(word) + ".\n");
-  return k;
-}
-
 std::string Without_slashes(std::string path) {
   while (path.size() > 1 && path.ends_with('/')) path.pop_back();
   return path;
@@ -70,7 +60,7 @@ void To_stream(const Format& format, const Selection& selection, std::ostream& o
 void Answer_export(const Word_line& line, std::ostream& out) {
   if (!line.Has("--format")) throw Xerror_msg("Which format? See: vorlane help export\n");
   const std::vector<const Format*> formats = Formats_in(line.Value("--format"));
-  const std::optional<std::uint32_t> k = K_in(line.Value("--k"));
+  const std::optional<std::uint32_t> k = K_of(line);
   const std::string& directory = line.arguments.front();
   const std::string file = line.Value("-o");
   const Selection selection(vorlane::Results::Open(directory), k);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <ostream>
 
 #include "cli/options/Word_line.h"
@@ -13,8 +15,12 @@ void Answer_summary(const Word_line& line, std::ostream& out);
 void Answer_which_k(const Word_line& line, std::ostream& out);
 void Answer_query(const Word_line& line, std::ostream& out);
 void Answer_tree(const Word_line& line, std::ostream& out);
+void Answer_diff(const Word_line& line, std::ostream& out);
 
 /// Writes files, and their names on `out`.
 void Answer_export(const Word_line& line, std::ostream& out);
+
+/// The argument of --k, nothing for "all" and without it.
+std::optional<std::uint32_t> K_of(const Word_line& line);
 
 }  // namespace gns

@@ -1,6 +1,7 @@
 #include "cli/commands/Commands.h"
 
 #include <array>
+#include <charconv>
 #include <iostream>
 
 #include "cli/Side_words.h"
@@ -8,6 +9,7 @@
 #include "cli/options/Help_text.h"
 #include "cli/options/Word_line.h"
 #include "foundation/Errors.h"
+#include "foundation/text/Shown_text.h"
 #include "vorlane/error.h"
 
 namespace gns {
@@ -28,11 +30,12 @@ void Answer_help(const Word_line& line, std::ostream& out) {
 using Answer = void (*)(const Word_line& line, std::ostream& out);
 
 Answer Answer_of(const Word& word) {
-  constexpr std::array<std::pair<std::string_view, Answer>, 6> answers = {
+  constexpr std::array<std::pair<std::string_view, Answer>, 7> answers = {
       {{"summary", Answer_summary},
        {"which-k", Answer_which_k},
        {"query", Answer_query},
        {"tree", Answer_tree},
+       {"diff", Answer_diff},
        {"export", Answer_export},
        {"help", Answer_help}}};
   for (const auto& [name, answer] : answers)
@@ -46,6 +49,16 @@ Exit_code Code_of(vorlane::Error_kind kind) {
 }
 
 }  // namespace
+
+std::optional<std::uint32_t> K_of(const Word_line& line) {
+  const std::string word = line.Value("--k");
+  if (word.empty() || word == "all") return std::nullopt;
+  std::uint32_t k = 0;
+  const auto [end, failure] = std::from_chars(word.data(), word.data() + word.size(), k);
+  if (failure != std::errc() || end != word.data() + word.size())
+    throw Xerror_msg("--k needs a number or 'all', not " + Quoted(word) + ".\n");
+  return k;
+}
 
 Exit_code Do_word(const Word& word, const std::vector<std::string>& words) {
   try {

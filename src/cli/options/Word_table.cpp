@@ -51,6 +51,17 @@ constexpr std::array query_options{
     },
 };
 
+constexpr Option k_only{
+    .word = "--k",
+    .argument = "K",
+    .kind = Option::Argument::number,
+    .group = Option::Group::display,
+    .summary = "this k only",
+    .without = "all",
+    .description = "Only the communities at this k; `all` is every k, as without the option.",
+};
+constexpr std::array diff_options{k_only, json, csv};
+
 constexpr std::array export_options{
     Option{
         .word = "--format",
@@ -67,16 +78,7 @@ constexpr std::array export_options{
                        "Must be given.",
         .mandatory = true,
     },
-    Option{
-        .word = "--k",
-        .argument = "K",
-        .kind = Option::Argument::number,
-        .group = Option::Group::display,
-        .summary = "the communities at this k only",
-        .without = "all",
-        .description = "Exports the communities at this k only; `all` is all of them, as without "
-                       "the option.",
-    },
+    k_only,
     Option{
         .word = "-o",
         .argument = "FILE",
@@ -144,6 +146,20 @@ constexpr std::array words{
             "Shows for each community at a k the communities at the next greater k inside it, "
             "indented below it: its k and number, and how many nodes it has.",
         .options = json_only,
+    },
+    Word{
+        .word = "diff",
+        .arguments = "DIR1 DIR2",
+        .summary = "what became of the communities from one result to another",
+        .description =
+            "Compares the communities in DIR1 and DIR2, by the names of nodes: how many at each k "
+            "are kept, have grown, shrunk, changed, merged into others, split off, died, or were "
+            "born, and how alike they are on the whole: the omega index and the normalised mutual "
+            "information are 1 for the same and about 0 for unrelated ones. With `--k` each "
+            "community is told.",
+        .least_arguments = 2,
+        .most_arguments = 2,
+        .options = diff_options,
     },
     Word{
         .word = "export",
