@@ -12,10 +12,20 @@ function(vorlane_objects out name)
   set(${out} ${objects} PARENT_SCOPE)
 endfunction()
 
-# vorlane_folder(NAME [BESIDE FOLDER...] [IN DIRECTORY]): it may use the folders declared before, but
-# for those that it stands beside. A directory of the project other than src/NAME has to be told.
+# What the objects of a folder, and of all that it may use, are linked with.
+function(vorlane_libraries out name)
+  set(libraries Threads::Threads)
+  foreach(folder IN LISTS VORLANE_USED_BY_${name} ITEMS ${name})
+    list(APPEND libraries ${VORLANE_LIBRARIES_OF_${folder}})
+  endforeach()
+  set(${out} ${libraries} PARENT_SCOPE)
+endfunction()
+
+# vorlane_folder(NAME [BESIDE FOLDER...] [IN DIRECTORY] [LINKED LIBRARY...]): it may use the folders
+# declared before, but for those that it stands beside. A directory of the project other than
+# src/NAME has to be told, and libraries that it needs.
 function(vorlane_folder name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "IN" "BESIDE")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "IN" "BESIDE;LINKED")
   if(NOT arg_IN)
     set(arg_IN src/${name})
   endif()
@@ -24,12 +34,14 @@ function(vorlane_folder name)
     list(REMOVE_ITEM used ${arg_BESIDE})
   endif()
   set(VORLANE_USED_BY_${name} ${used} CACHE INTERNAL "")
+  set(VORLANE_LIBRARIES_OF_${name} ${arg_LINKED} CACHE INTERNAL "")
 
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${arg_IN}/*.cpp)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$|/module/")
   add_library(folder_${name} OBJECT ${sources})
   target_include_directories(folder_${name} PUBLIC ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src
                              ${PROJECT_SOURCE_DIR})
+  target_link_libraries(folder_${name} PRIVATE ${arg_LINKED})
 
   set(VORLANE_FOLDERS ${VORLANE_FOLDERS} ${name} CACHE INTERNAL "")
   if(NOT PROJECT_IS_TOP_LEVEL)
@@ -37,7 +49,9 @@ function(vorlane_folder name)
   endif()
   vorlane_objects(objects ${name})
   file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/layers/${name}.cpp CONTENT "int main() {}\n")
+  vorlane_libraries(libraries ${name})
   add_executable(layer_${name} ${PROJECT_BINARY_DIR}/layers/${name}.cpp ${objects})
+  target_link_libraries(layer_${name} PRIVATE ${libraries})
   set_target_properties(layer_${name} PROPERTIES
                         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/layers)
 endfunction()
@@ -50,7 +64,8 @@ function(vorlane_library name kind top)
   target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
                                             $<INSTALL_INTERFACE:include>)
   target_compile_features(${name} PUBLIC cxx_std_20)
-  target_link_libraries(${name} PUBLIC Threads::Threads)
+  vorlane_libraries(libraries ${top})
+  target_link_libraries(${name} PUBLIC Threads::Threads PRIVATE ${libraries})
   set_target_properties(${name} PROPERTIES OUTPUT_NAME vorlane VERSION ${PROJECT_VERSION}
                                            SOVERSION ${PROJECT_VERSION_MAJOR})
   if(kind STREQUAL SHARED)

@@ -20,6 +20,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/packaging/vorlaneConfigVe
                                  COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/packaging/vorlaneConfig.cmake
               ${PROJECT_BINARY_DIR}/packaging/vorlaneConfigVersion.cmake
+              ${PROJECT_SOURCE_DIR}/cmake/FindZstd.cmake
         DESTINATION ${config_dir})
 
 # The path from the file to the prefix, so that an installation can be moved.

@@ -40,7 +40,9 @@ std::string Bash_case(const Option& option) {
   const auto offer = [](const std::string& action) {
     return "      mapfile -t COMPREPLY < <(compgen " + action + " -- \"$current\")\n";
   };
-  std::string text = "    " + std::string(option.word) + (option.Is_long() ? "=)\n" : ")\n");
+  std::string text = "    " + std::string(option.word);
+  if (option.needs_argument) text += " | " + std::string(option.word);
+  text += option.Is_long() ? "=)\n" : ")\n";
   if (option.kind == Argument::file)
     text += offer("-f") + "      compopt -o filenames -o bashdefault -o default 2>/dev/null\n";
   if (option.kind == Argument::directory)
@@ -54,13 +56,15 @@ std::string Bash_case(const Option& option) {
 std::string Zsh_argument(const Option& option) {
   std::string text(option.adds_up ? "*" : "");
   text.append(option.word);
-  if (option.Is_long() && !option.argument.empty()) text += "=-";
+  if (option.Is_long() && !option.argument.empty()) text += option.needs_argument ? "=" : "=-";
   text += "[";
   for (const char letter : Headline(option))
     text.append(letter == '[' || letter == ']' ? "\\" : "").append(1, letter);
   text += "]";
   if (option.argument.empty()) return text;
-  text.append(option.Is_long() ? "::" : ":").append(option.argument).append(":");
+  text.append(option.Is_long() && !option.needs_argument ? "::" : ":")
+      .append(option.argument)
+      .append(":");
   switch (option.kind) {
     case Argument::file:
       return text + "_files";
@@ -83,7 +87,7 @@ std::string Fish_argument(const Option& option) {
     case Argument::directory:
       return " -x -a '(__fish_complete_directories)'";
     case Argument::words:
-      return " -a '" + Choices_of(option) + "'";
+      return (option.needs_argument ? " -x -a '" : " -a '") + Choices_of(option) + "'";
     default:
       return " -x";
   }
@@ -129,7 +133,7 @@ std::string Bash_completion() {
     (option.adds_up ? often : once).push_back(option.word);
     if (option.argument.empty()) continue;
     cases += Bash_case(option);
-    if (option.Is_long()) open.push_back(option.word);
+    if (option.Is_long() && !option.needs_argument) open.push_back(option.word);
   }
   std::string text = std::string(first_line).append(bash_start).append(cases);
   text += "  esac\n  local word left=(" + Joined(often, " ");

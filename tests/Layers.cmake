@@ -7,7 +7,7 @@ cmake_minimum_required(VERSION 3.25)
 # The folders that each folder may use: those declared before it, less those that it is beside.
 file(STRINGS ${SOURCE}/CMakeLists.txt declarations REGEX "^ *vorlane_folder\\(")
 foreach(declaration IN LISTS declarations)
-  string(REGEX REPLACE "^ *vorlane_folder\\(|\\)| IN .*" "" words "${declaration}")
+  string(REGEX REPLACE "^ *vorlane_folder\\(|\\)| (IN|LINKED) .*" "" words "${declaration}")
   string(REPLACE " " ";" words "${words}")
   list(POP_FRONT words folder)
   set(may_use_${folder} ${folders})

@@ -37,8 +37,10 @@ class VORLANE_API Network {
   Network();
 
   /// From a text file with a link in each line: two names and, if wanted, a weight, with blanks
-  /// between them; what follows, and lines that begin with '#', are skipped. Throws an Error of
-  /// kind `input` that tells the line and column of what can't be read.
+  /// between them; what follows, and lines that begin with '#', are skipped. Also from csv, tsv,
+  /// GraphML, Pajek, MatrixMarket and METIS files, told by their endings, and from any of them
+  /// packed by gzip or zstd; "-" is standard input. Throws an Error of kind `input` that tells the
+  /// line and column of what can't be read.
   static Network Read(const std::string& path, const Link_options& options = {},
                       const Control& control = {});
 

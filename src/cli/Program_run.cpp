@@ -6,6 +6,7 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "cli/Process_input.h"
@@ -20,6 +21,8 @@
 #include "engine/Memory_limit.h"
 #include "engine/Run_stages.h"
 #include "files/Unfinished_mark.h"
+#include "formats/Network_file.h"
+#include "formats/Unpacked_input.h"
 #include "foundation/io/File_faults.h"
 #include "foundation/paths/Free_space.h"
 #include "foundation/paths/Total_path.h"
@@ -31,8 +34,11 @@ namespace {
 /// One run of the program, from its switches to its exit code.
 class Program_run : private Run_listener {
  public:
-  Program_run(const Switch_values& values, const Progress_option& progress)
-      : parameters_(Parameters_of(values)), progress_(progress) {}
+  Program_run(const Switch_values& values, const Progress_option& progress, Input_wishes input)
+      : parameters_(Parameters_of(values)), progress_(progress), input_(std::move(input)) {
+    input_.directed = parameters_.directed;
+    input_.for_files = true;
+  }
 
   Exit_code Run() { return Report_end(Message()); }
 
@@ -78,6 +84,9 @@ class Program_run : private Run_listener {
       Run_wishes wishes;
       wishes.read_first = true;
       wishes.listener = this;
+      wishes.links_source = [this](const Link_rule& rule, Link_map& links, Link_file_check& check) {
+        Read_network_file(parameters_.input_file, input_, rule, links, check);
+      };
       bool approximation_needed = false;
       Run_stages(parameters_, wishes, approximation_needed, summary_);
       return run_finished;
@@ -143,6 +152,7 @@ class Program_run : private Run_listener {
 
   Run_parameters parameters_;
   Progress_option progress_;
+  Input_wishes input_;
   std::string way_out_;  ///< of a failure
   Stopwatch watch_;
   std::uint64_t memory_limit_ = 0;
@@ -153,12 +163,17 @@ class Program_run : private Run_listener {
 
 }  // namespace
 
-Exit_code Run_program(int argc, const char* const* argv, const Progress_option& progress) {
+Exit_code Run_program(int argc, const char* const* argv, const Progress_option& progress,
+                      const Input_wishes& input) {
   std::vector<std::string> unheeded;
   try {
     const Switch_values values = Read_command_line(argc, argv, unheeded);
     for (const std::string& text : unheeded) Tell("warning: " + text);
-    return Program_run(values, progress).Run();
+    if (values.input_file == standard_input && !values.use_output_dir) {
+      Tell("standard input has no name to call the results after; give them a directory by -o DIR");
+      return Exit_code::wrong_usage;
+    }
+    return Program_run(values, progress, input).Run();
   } catch (const Xusage_printed& usage) {
     if (usage.on_request) return Exit_code::finished;
     if (!Outputs_are_one()) Tell(usage.errors);

@@ -29,10 +29,12 @@ namespace {
 std::string Of_wrong_line(const Xep_wrong_line& failure) {
   const Place_in_file& place = failure.place;
   if (place.line == 0) return "";
-  std::string text = place.file + ", line " + std::to_string(place.line) + ", column " +
-                     std::to_string(place.column) + ": expected " + place.expected;
+  std::string text = place.file + ", line " + std::to_string(place.line);
+  if (place.column > 0) text += ", column " + std::to_string(place.column);
+  text += ": expected " + place.expected;
   text +=
       place.found.empty() ? ", but the line ends there." : ", found " + Quoted(place.found) + ".";
+  if (!place.cure.empty()) return text + " " + place.cure;
   if (place.expected == expected_second_name &&
       failure.wrong_line.find_first_of(",;|") != std::string::npos)
     return text + " Fields are separated by blanks or tabs: tr ',;|' ' ' < " +

@@ -12,6 +12,7 @@
 #include "cli/Side_words.h"
 #include "cli/commands/Commands.h"
 #include "cli/options/Help_text.h"
+#include "cli/options/Input_options.h"
 #include "cli/options/Usage.h"
 #include "cli/options/Word_table.h"
 #include "cli/terminal/Stop_signals.h"
@@ -31,9 +32,14 @@ Exit_code Answer(int argc, const char* const* argv) {
   }
   std::vector<const char*> words(argv, argv + std::min(argc, 1));
   gns::Progress_option progress;
+  gns::Input_wishes input;
   for (int i = 1; i < argc; ++i) {
     const std::string_view word = argv[i];
     if (gns::Read_progress_option(word, progress)) continue;
+    if (const std::size_t taken = gns::Read_input_option({argv + i, argv + argc}, input)) {
+      i += static_cast<int>(taken) - 1;
+      continue;
+    }
     words.push_back(argv[i]);
     if (word == "--help") {
       std::cout << gns::Help_text(std::filesystem::path(argv[0]).filename());
@@ -44,7 +50,7 @@ Exit_code Answer(int argc, const char* const* argv) {
       return Exit_code::finished;
     }
   }
-  return gns::Run_program(static_cast<int>(words.size()), words.data(), progress);
+  return gns::Run_program(static_cast<int>(words.size()), words.data(), progress, input);
 }
 
 /// A reader that went away is no failure, any other loss of output is.

@@ -41,6 +41,11 @@ K_summary Summary_of(const Level& level, std::uint32_t node_count) {
   return summary;
 }
 
+Link_rule Rule_of(const Run_parameters& p) {
+  return {Needs_weights(p), p.use_lower_threshold, p.lower_threshold, p.use_upper_threshold,
+          p.upper_threshold};
+}
+
 class Run {
  public:
   Run(const Run_parameters& parameters, const Run_wishes& wishes, Run_summary& summary)
@@ -100,7 +105,12 @@ class Run {
       if (wishes_.listener != nullptr) wishes_.listener->Input_read(check, read);
     };
     try {
-      Read_links(parameters_, links, check);
+      if (wishes_.links_source) {
+        Report_state(" Reading input ...\n");
+        wishes_.links_source(Rule_of(parameters_), links, check);
+      } else {
+        Read_links(parameters_, links, check);
+      }
     } catch (const Xep_wrong_line&) {
       tell(nullptr);
       throw;

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <functional>
+
 #include "engine/Results_bound.h"
 #include "engine/Run_keeper.h"
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
 #include "graph/Link_map.h"
 #include "input/Link_file_check.h"
+#include "input/Link_intake.h"
 #include "results/Com_result_tables.h"
 #include "search/Attempt.h"
 
@@ -25,6 +28,10 @@ class Run_listener {
   virtual void Bound_known(const Results_bound& bound) = 0;
 };
 
+/// Reads the links of a run from wherever they are, by the rule. It throws what leaves the run.
+using Links_source =
+    std::function<void(const Link_rule& rule, Link_map& links, Link_file_check& check)>;
+
 /// In what the callers of a run differ.
 struct Run_wishes {
   /// The input is read in front of the checks and of the results directory, as the program does;
@@ -34,6 +41,7 @@ struct Run_wishes {
   Table_pointers tables = {};        ///< those that are wanted are filled beside the files
   Run_keeper* keeper = nullptr;      ///< takes the same as the tables, by number
   Run_listener* listener = nullptr;  ///< without one, no bound is formed
+  Links_source links_source;         ///< without one, the input is a link file
 };
 
 /// A run, from the link file to a results directory that is whole. Reports and polls. Throws what

@@ -7,8 +7,8 @@
 #include "face/Errors_of_face.h"
 #include "face/Network_body.h"
 #include "face/Views.h"
+#include "formats/Network_file.h"
 #include "graph/Link_conversion.h"
-#include "input/Link_file_reader.h"
 
 namespace vorlane {
 
@@ -45,13 +45,14 @@ Network Network::Read(const std::string& path, const Link_options& options,
     external_control::Report_state(" Reading input ...\n");
     Link_options taken = options;
     taken.weighted = taken.weighted || taken.min_weight || taken.max_weight;
+    const gns::Link_rule rule = {taken.weighted, taken.min_weight.has_value(),
+                                 taken.min_weight.value_or(0), taken.max_weight.has_value(),
+                                 taken.max_weight.value_or(0)};
     gns::Link_map links;
-    if (taken.weighted)
-      gns::Read_weighted_links(path, links, taken.min_weight.has_value(),
-                               taken.min_weight.value_or(0), taken.max_weight.has_value(),
-                               taken.max_weight.value_or(0), nullptr);
-    else
-      gns::Read_unw_links(path, links, nullptr);
+    gns::Link_file_check unheard;
+    gns::Input_wishes wishes;
+    wishes.directed = taken.directed;
+    gns::Read_network_file(path, wishes, rule, links, unheard);
     return face::Network_of(std::move(links), taken);
   });
 }

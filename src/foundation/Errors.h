@@ -45,6 +45,7 @@ struct Place_in_file {
   std::size_t column = 0;  ///< from 1, in characters of UTF-8
   std::string expected;    ///< in words: "a second name"
   std::string found;       ///< the field that stands there; empty if the line ends
+  std::string cure = {};   ///< a sentence on what to do about it, if one is known
 };
 
 /// A line of an input file can't be read. Of a line of more than 4,096 bytes the message shows the

@@ -38,13 +38,6 @@ bool Either_name(const Fields& fields, bool (*is_odd)(std::string_view)) {
   return is_odd(fields.first) || is_odd(fields.second);
 }
 
-std::string Lower_case(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return lower;
-}
-
 bool Begins_other_format(const Fields& fields) {
   constexpr std::array starts = {"*vertices"sv, "*network"sv, "*edges"sv,   "*arcs"sv,  "<"sv,
                                  "{"sv,         "["sv,        "nodedef>"sv, "graph ["sv};

@@ -4,7 +4,10 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "input/Link_intake.h"
 
 namespace gns {
 
@@ -13,15 +16,6 @@ struct Link_file_warning {
   std::size_t line = 0;
   std::string fault;  ///< "the names end with a comma"
   std::string cure;   ///< what to do about it
-};
-
-/// What a reader made of the lines of a link file.
-struct Link_counts {
-  std::size_t links = 0;       ///< lines that are links
-  std::size_t self_links = 0;  ///< of these, links of a node with itself
-  std::size_t outside = 0;     ///< of these, links whose weight is outside the thresholds
-  double least_outside = 0.0;  ///< the weights of the latter
-  double greatest_outside = 0.0;
 };
 
 /// Watches a link file being read, once from front to end, and notes each kind of thing that can't
@@ -44,6 +38,9 @@ class Link_file_check {
 
   /// What follows a number that was read as a weight.
   void Look_behind_weight(std::string_view rest, std::size_t line_number);
+
+  /// Notes what another one has found.
+  void Note(Link_file_warning warning) { warnings_.push_back(std::move(warning)); }
 
   [[nodiscard]] const std::vector<Link_file_warning>& Warnings() const { return warnings_; }
 

@@ -1,6 +1,5 @@
 #include "input/Link_file_reader.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "control/Run_control.h"
@@ -26,25 +25,15 @@ Place_in_file Place_of(std::string_view rest, const std::string& file_name, std:
           std::string(Beginning(Extract_word(rest), enough))};
 }
 
-/// Counts a link that is dropped for its weight.
-void Count_outside(double weight, Link_counts& counts) {
-  if (counts.outside++ == 0) counts.least_outside = counts.greatest_outside = weight;
-  counts.least_outside = std::min(counts.least_outside, weight);
-  counts.greatest_outside = std::max(counts.greatest_outside, weight);
-}
-
-/// The loop of both readers. `accept(rest, weight)` takes off what it reads behind the two names;
-/// it yields false if the line is bad. `keeps(weight)` tells whether a good line enters the map.
-template <typename Accept, typename Keeps>
-void Read_links(const std::string& file_name, Link_map& links, bool weighted,
-                Link_file_check* check, Accept accept, Keeps keeps) {
-  Line_reader reader(file_name, Line_reader::Source::any_file, {'\n'},
-                     external_control::Check_inside_long_stage);
+/// The loop of all readers. `accept(rest, weight)` takes off what it reads behind the two names; it
+/// yields false if the line is bad.
+template <typename Accept>
+void Read_lines(Line_reader& reader, const std::string& file_name, const Link_rule& rule,
+                Link_map& links, Link_file_check* check, Accept accept) {
   if (check != nullptr) check->Begin(file_name, reader.Peek(kind_bytes));
   std::size_t to_look_at = check == nullptr ? 0 : Link_file_check::lines_to_look_at;
-  Link_counts counts;
   links.clear();
-  Link_map_builder builder(weighted);
+  Link_intake intake(rule);
   std::string_view line;
   for (std::string_view cut_line; Next_cut_line(reader, cut_line, line);) {
     external_control::Check_inside_long_stage();
@@ -57,50 +46,48 @@ void Read_links(const std::string& file_name, Link_map& links, bool weighted,
     const std::string_view second = Extract_word(rest);
     double weight = 0.0;
     if (second.empty() || !accept(rest, weight)) {
-      links = builder.Build();
+      links = intake.Build();
       throw Xep_wrong_line(std::string(cut_line),
                            Place_of(rest, file_name, reader.Lines_taken(), line,
                                     second.empty() ? expected_second_name : expected_weight));
     }
-    ++counts.links;
-    if (first == second) {
-      ++counts.self_links;
-    } else if (keeps(weight)) {
-      builder.Add(first, second, weight);
-    } else {
-      Count_outside(weight, counts);
-    }
+    intake.Take(first, second, weight);
     if (check != nullptr && rest.starts_with(','))
       check->Look_behind_weight(rest, reader.Lines_taken());
   }
-  if (check != nullptr) check->counts = counts;
-  links = builder.Build();
+  if (check != nullptr) check->counts = intake.Counts();
+  links = intake.Build();
+}
+
+void Read_file(const std::string& file_name, const Link_rule& rule, Link_map& links,
+               Link_file_check* check) {
+  Line_reader reader(file_name, Line_reader::Source::any_file, {'\n'},
+                     external_control::Check_inside_long_stage);
+  Read_link_lines(reader, file_name, rule, links, check);
 }
 
 }  // namespace
 
-bool Link_in_interval(double weight, bool use_lower_threshold, double lower_threshold,
-                      bool use_upper_threshold, double upper_threshold) {
-  if (use_lower_threshold && !(weight > lower_threshold)) return false;
-  return !(use_upper_threshold && !(weight < upper_threshold));
+void Read_link_lines(Line_reader& reader, const std::string& file_name, const Link_rule& rule,
+                     Link_map& links, Link_file_check* check) {
+  if (rule.weighted)
+    Read_lines(reader, file_name, rule, links, check,
+               [](std::string_view& rest, double& weight) { return Extract_double(rest, weight); });
+  else
+    Read_lines(reader, file_name, rule, links, check,
+               [](std::string_view&, double&) { return true; });
 }
 
 void Read_weighted_links(const std::string& file_name, Link_map& links, bool use_lower_threshold,
                          double lower_threshold, bool use_upper_threshold, double upper_threshold,
                          Link_file_check* check) {
-  Read_links(
-      file_name, links, true, check,
-      [](std::string_view& rest, double& weight) { return Extract_double(rest, weight); },
-      [&](double weight) {
-        return Link_in_interval(weight, use_lower_threshold, lower_threshold, use_upper_threshold,
-                                upper_threshold);
-      });
+  Read_file(file_name,
+            {true, use_lower_threshold, lower_threshold, use_upper_threshold, upper_threshold},
+            links, check);
 }
 
 void Read_unw_links(const std::string& file_name, Link_map& links, Link_file_check* check) {
-  Read_links(
-      file_name, links, false, check, [](std::string_view&, double&) { return true; },
-      [](double) { return true; });
+  Read_file(file_name, {}, links, check);
 }
 
 }  // namespace gns

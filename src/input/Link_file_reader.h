@@ -3,8 +3,10 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/io/Line_reader.h"
 #include "graph/Link_map.h"
 #include "input/Link_file_check.h"
+#include "input/Link_intake.h"
 
 namespace gns {
 
@@ -29,9 +31,8 @@ void Read_weighted_links(const std::string& file_name, Link_map& links, bool use
 void Read_unw_links(const std::string& file_name, Link_map& links,
                     Link_file_check* check = nullptr);
 
-/// True if the weight is strictly above the lower and strictly below the upper bound, as far as
-/// set.
-bool Link_in_interval(double weight, bool use_lower_threshold, double lower_threshold,
-                      bool use_upper_threshold, double upper_threshold);
+/// The same of a file that is being read already, from its front on; messages call it `file_name`.
+void Read_link_lines(Line_reader& reader, const std::string& file_name, const Link_rule& rule,
+                     Link_map& links, Link_file_check* check);
 
 }  // namespace gns

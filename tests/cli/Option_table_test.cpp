@@ -6,7 +6,9 @@
 #include <set>
 #include <sstream>
 
+#include "Thrown_message.h"
 #include "cli/options/Help_text.h"
+#include "cli/options/Input_options.h"
 #include "cli/options/Marked_text.h"
 #include "cli/options/Parameters.h"
 #include "cli/options/Progress_option.h"
@@ -67,8 +69,52 @@ TEST(OptionTable, TellsLongOptionsFromOtherWords) {
 /// What completions offer behind "=" is taken.
 TEST(OptionTable, OffersWhatIsTaken) {
   for (const std::string_view choice : Long_option_of("--progress")->choices) {
+    if (choice.empty()) continue;
     Progress_option option;
     EXPECT_TRUE(Read_progress_option("--progress=" + std::string(choice), option)) << choice;
+  }
+  std::set<Format> formats;
+  for (const std::string_view choice : Long_option_of("--format")->choices) {
+    if (choice.empty()) continue;
+    Input_wishes wishes;
+    const std::string word = "--format=" + std::string(choice);
+    const char* const words[] = {word.c_str()};
+    EXPECT_EQ(Read_input_option(words, wishes), 1U);
+    formats.insert(*wishes.format);
+  }
+  EXPECT_EQ(formats.size(), All_formats().size());
+}
+
+TEST(InputOptions, TakeWhatTheyCanAndTellWhatTheyCant) {
+  struct Case {
+    std::vector<const char*> words;
+    std::size_t taken;
+    std::string told;  ///< beginning; empty if all is well
+  };
+  const std::vector<Case> cases{
+      {{"--format", "csv", "x"}, 2, ""},
+      {{"--columns=a,b", "x"}, 1, ""},
+      {{"--columns", "2,1,3"}, 2, ""},
+      {{"--blanks=_"}, 1, ""},
+      {{"--blanks", "\xC2\xB7"}, 2, ""},
+      {{"--formats=csv"}, 0, ""},
+      {{"--progress"}, 0, ""},
+      {{}, 0, ""},
+      {{"--format=xls"}, 0, "--format can't be 'xls': it must be links, csv, "},
+      {{"--format"}, 0, "--format needs FORMAT.\n"},
+      {{"--columns=a"}, 0, "--columns can't be 'a': it must be two or three"},
+      {{"--columns=a,,b"}, 0, "--columns can't be 'a,,b'"},
+      {{"--columns=a,b,c,d"}, 0, "--columns can't be 'a,b,c,d'"},
+      {{"--blanks="}, 0, "--blanks can't be '': it must be a single character"},
+      {{"--blanks", " "}, 0, "--blanks can't be ' '"},
+      {{"--blanks", "__"}, 0, "--blanks can't be '__'"},
+      {{"--blanks", "#"}, 0, "--blanks can't be '#'"}};
+  for (const Case& c : cases) {
+    Input_wishes wishes;
+    std::size_t taken = 0;
+    const std::string told = Thrown_message([&] { taken = Read_input_option(c.words, wishes); });
+    EXPECT_EQ(taken, c.taken) << told;
+    EXPECT_TRUE(told.starts_with(c.told.empty() ? "nothing was thrown" : c.told)) << told;
   }
 }
 

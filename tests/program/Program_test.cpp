@@ -163,7 +163,7 @@ TEST_F(Program, TellsWhatIsOddAboutLinks) {
       {"a b 2\nc d 0.5\n", {"-w", "2"}, 0, {"none is within", "go from 0.5 to 2\n"}},
       {"a b\nb c\nc a\n", {"-k", "4"}, 0, {"at k = 4, as the largest clique has 3 nodes"}},
       {"a b\n", {}, 0, {"as no three nodes are all linked"}},
-      {"\x1F\x8B\x08 x\n", {}, 1, {"a gzip file. Try zcat odd | vorlane -i /dev/stdin"}},
+      {"BZh91AY&SY x\n", {}, 1, {"a bzip2 file. Try bzcat odd | vorlane -i /dev/stdin"}},
       {"PK\3\4 x\n", {}, 1, {"a zip archive"}},
       {"\xFF\xFE"
        "a\0 \0b\0"s,

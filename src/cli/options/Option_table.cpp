@@ -20,8 +20,9 @@ constexpr std::array options{
         .description =
             "Reads the links from FILE: one on a line, two names and perhaps a weight, separated "
             "by blanks or tabs. Empty lines and lines that begin with `#` are skipped. Runs with "
-            "`-w`, `-W` or `-I` need a weight on every line; others don't look at it. "
-            "`/dev/stdin` reads what comes through a pipe; give `-o` then. Must be given.",
+            "`-w`, `-W` or `-I` need a weight on every line; others don't look at it. Files of "
+            "other formats are told by their names or by `--format`; gzip and zstd are unpacked. "
+            "`-` reads standard input; give `-o` then. Must be given.",
         .names = {"input", "file"},
         .mandatory = true,
     },
@@ -38,6 +39,48 @@ constexpr std::array options{
             "thresholds of `-w` and `-W` and the mark of `-D` if these are given. The threshold "
             "of `-I` comes behind a name that is given here, too.",
         .names = {"output", "outdir"},
+    },
+    Option{
+        .word = "--format",
+        .argument = "FORMAT",
+        .kind = Argument::words,
+        .group = Group::files,
+        .summary = "what the link file is, whatever its name",
+        .without =
+            "by the ending: `.csv` `.tsv` `.graphml` `.net` `.mtx` `.graph`; else plain links",
+        .description =
+            "Reads the link file as `csv`, `tsv`, `graphml`, `pajek`, `mtx` (MatrixMarket) or "
+            "`metis`, or as plain `links`.",
+        .names = {"format"},
+        .choices = {"links", "csv", "tsv", "graphml", "pajek", "mtx", "metis"},
+        .needs_argument = true,
+    },
+    Option{
+        .word = "--columns",
+        .argument = "A,B,W",
+        .kind = Argument::number,
+        .group = Group::files,
+        .summary = "of csv and tsv: the columns of a link, by name or number; weights may lack",
+        .without = "those that the header names, or the first three",
+        .description = "Takes the two names of a link and its weight from the columns A, B and W "
+                       "of a csv or tsv file, told by their names in the first line or by numbers "
+                       "from 1. The third may be left out.",
+        .names = {"columns"},
+        .needs_argument = true,
+    },
+    Option{
+        .word = "--blanks",
+        .argument = "C",
+        .kind = Argument::number,
+        .group = Group::files,
+        .summary = "takes the place of blanks in names, which results can't hold",
+        .without = "a name with blanks ends the run",
+        .description =
+            "Puts the character C in the place of each blank in a name of csv, tsv, GraphML or "
+            "Pajek files, and of a `#` in front of one; results files can't hold them. Two names "
+            "that become equal end the run.",
+        .names = {"blanks"},
+        .needs_argument = true,
     },
     Option{
         .word = "-w",
@@ -192,7 +235,8 @@ const Option* First(Predicate holds) {
 std::string Option::Form() const {
   std::string form(word);
   if (argument.empty()) return form;
-  return form.append(Is_long() ? "[=" : " ").append(argument).append(Is_long() ? "]" : "");
+  if (!Is_long() || needs_argument) return form.append(" ").append(argument);
+  return form.append("[=").append(argument).append("]");
 }
 
 std::span<const Option> All_options() { return options; }

@@ -27,12 +27,14 @@ struct Option {
   /// What people call it, for guesses at a word that there isn't.
   std::array<std::string_view, 3> names = {};
   /// Arguments worth offering, of the kind `words`.
-  std::array<std::string_view, 2> choices = {};
+  std::array<std::string_view, 8> choices = {};
   bool mandatory = false;
+  bool needs_argument = false;  ///< of a long word
   /// Whether each time that it is given counts, and not the last alone.
   bool adds_up = false;
 
-  /// A long word takes its argument behind a "=" and may lack it, a switch as the next word.
+  /// A long word takes its argument behind a "=" and may lack it, unless it needs it; then the next
+  /// word will do, too. A switch takes the next word.
   [[nodiscard]] bool Is_long() const { return word.starts_with("--"); }
 
   /// The option with its argument, as documents write it: "-i FILE", "--progress[=HOW]".

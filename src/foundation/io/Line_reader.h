@@ -6,7 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/io/Descriptor.h"
+#include "foundation/io/Byte_source.h"
+#include "foundation/io/File_bytes.h"
 #include "foundation/text/Character_set.h"
 
 namespace gns {
@@ -14,18 +15,14 @@ namespace gns {
 /// Reads a text file line by line, in big blocks; lines may be of any length and hold any bytes.
 class Line_reader {
  public:
-  /// What may stand at the path. Pipes and devices can let a reader wait for ever.
-  enum class Source { any_file, regular_file };
+  using Source = File_bytes::Source;
+  using Poll = File_bytes::Poll;
 
-  /// Called before each block is read, and several times a second while a pipe or device has
-  /// nothing to give; what it throws leaves Next().
-  using Poll = void (*)();
-
-  /// Throws Xep_file_not_found if the file can't be opened, is a directory, or isn't what `source`
-  /// admits. A line ends at each of the characters `line_ends`. A pipe that nobody writes to yet
-  /// is opened at once; its first line is what gets waited for.
+  /// Of a file; throws as File_bytes does. A line ends at each of the characters `line_ends`.
   explicit Line_reader(std::string path, Source source = Source::any_file,
                        Character_set line_ends = {'\n'}, Poll poll = nullptr);
+  /// Of bytes from anywhere.
+  explicit Line_reader(std::unique_ptr<Byte_source> bytes, Character_set line_ends = {'\n'});
   Line_reader(const Line_reader&) = delete;
   Line_reader& operator=(const Line_reader&) = delete;
 
@@ -48,7 +45,7 @@ class Line_reader {
   /// How many lines have been taken.
   [[nodiscard]] std::size_t Lines_taken() const { return lines_taken_; }
 
-  /// The size of the file when it was opened, in bytes.
+  /// The size of the file when it was opened, in bytes; 0 of what is no file.
   [[nodiscard]] std::size_t File_size() const { return file_size_; }
 
   /// True if the line that was taken last had its end.
@@ -61,14 +58,10 @@ class Line_reader {
 
   void Resize_buffer(std::size_t capacity);
   void Make_room();
-  void Wait_for_more() const;
   bool Fill();
 
-  std::string path_;
+  std::unique_ptr<Byte_source> bytes_;
   Character_set line_ends_;
-  Poll poll_;
-  Descriptor file_;
-  bool regular_ = false;
   std::size_t file_size_ = 0;
   std::unique_ptr<char[], Free> buffer_;
   std::size_t capacity_ = 0;

@@ -2,6 +2,13 @@
 
 namespace gns {
 
+std::string Lower_case(std::string_view text) {
+  std::string lower(text);
+  for (char& c : lower)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  return lower;
+}
+
 std::string_view Trimmed(std::string_view text, std::string_view characters) {
   const std::size_t first = text.find_first_not_of(characters);
   if (first == std::string_view::npos) return {};

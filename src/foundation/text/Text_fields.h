@@ -32,6 +32,9 @@ inline std::string_view Extract_word(std::string_view& text) {
   return word;
 }
 
+/// The text with small letters in place of the capitals of ASCII.
+std::string Lower_case(std::string_view text);
+
 /// The part of `text` that is left without the characters of the set `characters` at its two ends.
 std::string_view Trimmed(std::string_view text, std::string_view characters);
 

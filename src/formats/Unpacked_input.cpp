@@ -1,0 +1,50 @@
+#include "formats/Unpacked_input.h"
+
+#include <unistd.h>
+
+#include <string_view>
+#include <utility>
+
+#include "control/Run_control.h"
+#include "formats/Gzip_bytes.h"
+#include "formats/Zstd_bytes.h"
+#include "input/Link_file_kind.h"
+
+namespace gns {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+struct Packing {
+  std::string_view start;
+  std::unique_ptr<Byte_source> (*unpack)(std::unique_ptr<Line_reader>, const std::string&);
+};
+
+constexpr Packing packings[] = {{"\x1F\x8B"sv, Gzip_bytes}, {"\x28\xB5\x2F\xFD"sv, Zstd_bytes}};
+
+std::unique_ptr<Line_reader> Opened(const std::string& path) {
+  constexpr auto poll = external_control::Check_inside_long_stage;
+  if (path == standard_input)
+    return std::make_unique<Line_reader>(
+        std::make_unique<File_bytes>(STDIN_FILENO, "standard input", poll));
+  return std::make_unique<Line_reader>(path, Line_reader::Source::any_file, Character_set{'\n'},
+                                       poll);
+}
+
+}  // namespace
+
+Unpacked_input Open_input(const std::string& path) {
+  Unpacked_input input = {Opened(path), false};
+  for (const Packing& packing : packings) {
+    const std::string start(input.reader->Peek(packing.start.size()));
+    if (start != packing.start) continue;
+    auto bytes = packing.unpack(std::move(input.reader), path);
+    input = {std::make_unique<Line_reader>(std::move(bytes)), true};
+    break;
+  }
+  Refuse_other_kinds(path, input.reader->Peek(kind_bytes));
+  return input;
+}
+
+}  // namespace gns
