@@ -12,6 +12,8 @@
 #include "cli/Process_input.h"
 #include "cli/Run_table.h"
 #include "cli/Side_words.h"
+#include "cli/commands/Export_all.h"
+#include "cli/commands/Summary_text.h"
 #include "cli/terminal/Live_display.h"
 #include "cli/terminal/Resources.h"
 #include "cli/terminal/State_lines.h"
@@ -20,6 +22,7 @@
 #include "engine/Find_coms.h"
 #include "engine/Memory_limit.h"
 #include "engine/Run_stages.h"
+#include "face/Results_body.h"
 #include "files/Unfinished_mark.h"
 #include "formats/Network_file.h"
 #include "formats/Unpacked_input.h"
@@ -34,18 +37,27 @@ namespace {
 /// One run of the program, from its switches to its exit code.
 class Program_run : private Run_listener {
  public:
-  Program_run(const Switch_values& values, const Progress_option& progress, Input_wishes input)
-      : parameters_(Parameters_of(values)), progress_(progress), input_(std::move(input)) {
-    input_.directed = parameters_.directed;
-    input_.for_files = true;
+  Program_run(const Switch_values& values, Long_wishes wishes)
+      : parameters_(Parameters_of(values)), wishes_(std::move(wishes)) {
+    wishes_.input.directed = parameters_.directed;
+    wishes_.input.for_files = true;
   }
 
-  Exit_code Run() { return Report_end(Message()); }
+  /// Throws an Error if an export would meet a file that exists.
+  Exit_code Run() {
+    vorlane::exporting::Export_order order = Order();
+    for (const auto* const format : wishes_.output.formats) {
+      order.format = format;
+      vorlane::exporting::Refuse_existing_files(Files_of(order));
+    }
+    return Report_end(Message());
+  }
 
  private:
   /// Prints what is to be said about a run that ended with this message.
   Exit_code Report_end(const std::string& message) const {
-    std::cout << message << (message.ends_with('\n') ? "" : "\n");
+    (wishes_.output.json ? std::cerr : std::cout)
+        << message << (message.ends_with('\n') ? "" : "\n");
     const bool stopped = message == "Process stopped by user.\n" && Stop_signal_came();
     if (message == std::bad_alloc().what())
       Explain_lack_of_memory();
@@ -56,9 +68,10 @@ class Program_run : private Run_listener {
     List_file_faults();
     if (stopped) return Exit_code::stopped;
     if (message != run_finished || !File_faults().empty()) return Exit_code::run_failed;
+    const bool exported = Export();
     Print_findings();
     Tell(Why_no_communities(summary_, parameters_));
-    return Exit_code::finished;
+    return exported ? Exit_code::finished : Exit_code::run_failed;
   }
 
   /// Ends the process at the poll that found a stop, without giving memory back.
@@ -79,13 +92,13 @@ class Program_run : private Run_listener {
 
   std::string Message_of_stages() {
     try {
-      display_.emplace(watch_, progress_);
+      display_.emplace(watch_, wishes_.progress);
       memory_limit_ = Limit_memory();
       Run_wishes wishes;
       wishes.read_first = true;
       wishes.listener = this;
       wishes.links_source = [this](const Link_rule& rule, Link_map& links, Link_file_check& check) {
-        Read_network_file(parameters_.input_file, input_, rule, links, check);
+        Read_network_file(parameters_.input_file, wishes_.input, rule, links, check);
       };
       bool approximation_needed = false;
       Run_stages(parameters_, wishes, approximation_needed, summary_);
@@ -143,7 +156,31 @@ class Program_run : private Run_listener {
     std::cerr << ".\n";
   }
 
+  [[nodiscard]] vorlane::exporting::Export_order Order() const {
+    vorlane::exporting::Export_order order;
+    order.stem = parameters_.output_dir;
+    return order;
+  }
+
+  /// Of the results as they stand in their files; false, with the reason told, if that fails.
+  bool Export() const {
+    if (wishes_.output.formats.empty()) return true;
+    try {
+      const auto results = vorlane::Results::Open(parameters_.output_dir);
+      Export_all(wishes_.output.formats, Order(), {results, std::nullopt});
+      return true;
+    } catch (const vorlane::Error& failure) {
+      Tell(failure.what());
+      return false;
+    }
+  }
+
   void Print_findings() const {
+    if (wishes_.output.json) {
+      const gns::Method method = Method_of(parameters_.directed, parameters_.use_intensity);
+      std::cout << In_json(Summary_of_run(summary_, vorlane::face::Method_of(method))) << "\n";
+      return;
+    }
     std::cout << "\n";
     Print_run_table(std::cout, summary_);
     std::cout << "\n  " << Resources_used(watch_) << "\n  results in "
@@ -151,8 +188,7 @@ class Program_run : private Run_listener {
   }
 
   Run_parameters parameters_;
-  Progress_option progress_;
-  Input_wishes input_;
+  Long_wishes wishes_;
   std::string way_out_;  ///< of a failure
   Stopwatch watch_;
   std::uint64_t memory_limit_ = 0;
@@ -163,8 +199,7 @@ class Program_run : private Run_listener {
 
 }  // namespace
 
-Exit_code Run_program(int argc, const char* const* argv, const Progress_option& progress,
-                      const Input_wishes& input) {
+Exit_code Run_program(int argc, const char* const* argv, const Long_wishes& wishes) {
   std::vector<std::string> unheeded;
   try {
     const Switch_values values = Read_command_line(argc, argv, unheeded);
@@ -173,7 +208,7 @@ Exit_code Run_program(int argc, const char* const* argv, const Progress_option& 
       Tell("standard input has no name to call the results after; give them a directory by -o DIR");
       return Exit_code::wrong_usage;
     }
-    return Program_run(values, progress, input).Run();
+    return Program_run(values, wishes).Run();
   } catch (const Xusage_printed& usage) {
     if (usage.on_request) return Exit_code::finished;
     if (!Outputs_are_one()) Tell(usage.errors);

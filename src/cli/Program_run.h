@@ -1,15 +1,22 @@
 #pragma once
 
+#include "cli/options/Output_options.h"
 #include "cli/options/Program_facts.h"
 #include "cli/options/Progress_option.h"
 #include "formats/Input_wishes.h"
 
 namespace gns {
 
-/// Does what a command line asks for; `input` is what it says about the link file in long words.
-/// The message of the run and a table of what was found go to standard output; what went wrong, and
-/// where the input or a switch can't be meant, to standard error.
-Exit_code Run_program(int argc, const char* const* argv, const Progress_option& progress,
-                      const Input_wishes& input);
+/// What the long words of a command line say about a run.
+struct Long_wishes {
+  Progress_option progress;
+  Input_wishes input;
+  Output_wishes output;
+};
+
+/// Does what a command line asks for, without its long words. The message of the run and a table of
+/// what was found go to standard output; what went wrong, and where the input or a switch can't be
+/// meant, to standard error.
+Exit_code Run_program(int argc, const char* const* argv, const Long_wishes& wishes);
 
 }  // namespace gns

@@ -1,38 +1,43 @@
 #include "cli/Run_table.h"
 
-#include <numeric>
 #include <string>
-#include <vector>
 
-#include "cli/terminal/Text_table.h"
+#include "cli/commands/Summary_text.h"
+#include "face/Level_of_face.h"
 
 namespace gns {
 
 namespace {
 
-void Print_counts(std::ostream& stream, const Run_summary& summary) {
-  const std::vector<std::size_t>& sizes = summary.cliques_of_size;
-  stream << "  nodes " << summary.nodes << ", links " << summary.links << ", cliques "
-         << std::accumulate(sizes.begin(), sizes.end(), std::size_t{0});
-  if (summary.approximate_cliques > 0)
-    stream << " (" << summary.approximate_cliques << " of them approximate)";
+void Print_counts(std::ostream& stream, const Run_summary& run) {
+  stream << "  nodes " << run.nodes << ", links " << run.links << ", cliques "
+         << run.exact_cliques + run.approximate_cliques;
+  if (run.approximate_cliques > 0)
+    stream << " (" << run.approximate_cliques << " of them approximate)";
   stream << "\n";
 }
 
 }  // namespace
 
-void Print_run_table(std::ostream& stream, const Run_summary& summary) {
-  Print_counts(stream, summary);
-  if (summary.extractions.empty()) return;
-  Text_table table({"k", "cliques of k nodes", "communities", "largest", "nodes covered"});
-  for (const K_summary& found : summary.extractions) {
-    const std::vector<std::size_t>& sizes = summary.cliques_of_size;
-    const std::size_t cliques = found.k < sizes.size() ? sizes[found.k] : 0;
-    table.Add({std::to_string(found.k), std::to_string(cliques), std::to_string(found.communities),
-               std::to_string(found.largest), std::to_string(found.nodes_covered)});
-  }
+vorlane::queries::Summary Summary_of_run(const Run_summary& run, vorlane::Method method) {
+  vorlane::queries::Summary summary;
+  summary.method = method;
+  summary.nodes = run.nodes;
+  for (const K_summary& level : run.extractions)
+    summary.levels.push_back(
+        vorlane::queries::Summary_of(level.k, vorlane::face::Statistics_of(level.statistics)));
+  return summary;
+}
+
+void Print_run_table(std::ostream& stream, const Run_summary& run) {
+  Print_counts(stream, run);
+  if (run.extractions.empty()) return;
+  const auto summary = Summary_of_run(run, vorlane::Method::undirected);
   stream << "\n";
-  table.Print(stream);
+  Table_of(summary, Alike_rows::folded).Print(stream);
+  if (run.extractions.size() < 2) return;
+  if (const auto chosen = vorlane::queries::Which_k({summary}))
+    stream << "\n" << In_words(*chosen, "k = " + std::to_string(chosen->level.k));
 }
 
 }  // namespace gns

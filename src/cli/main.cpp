@@ -31,13 +31,18 @@ Exit_code Answer(int argc, const char* const* argv) {
     return Answer(argc - 1, rest.data());
   }
   std::vector<const char*> words(argv, argv + std::min(argc, 1));
-  gns::Progress_option progress;
-  gns::Input_wishes input;
+  gns::Long_wishes wishes;
   for (int i = 1; i < argc; ++i) {
     const std::string_view word = argv[i];
-    if (gns::Read_progress_option(word, progress)) continue;
-    if (const std::size_t taken = gns::Read_input_option({argv + i, argv + argc}, input)) {
-      i += static_cast<int>(taken) - 1;
+    if (gns::Read_progress_option(word, wishes.progress)) continue;
+    if (const auto given = gns::Long_argument_at({argv + i, argv + argc})) {
+      if (!gns::Take_input_option(*given, wishes.input))
+        gns::Take_output_option(*given, wishes.output);
+      i += static_cast<int>(given->words) - 1;
+      continue;
+    }
+    if (word == "--json") {
+      wishes.output.json = true;
       continue;
     }
     words.push_back(argv[i]);
@@ -50,7 +55,7 @@ Exit_code Answer(int argc, const char* const* argv) {
       return Exit_code::finished;
     }
   }
-  return gns::Run_program(static_cast<int>(words.size()), words.data(), progress, input);
+  return gns::Run_program(static_cast<int>(words.size()), words.data(), wishes);
 }
 
 /// A reader that went away is no failure, any other loss of output is.

@@ -1,8 +1,8 @@
 #include "engine/Run_stages.h"
 
-#include <algorithm>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "control/Run_control.h"
 #include "engine/Check_switches.h"
@@ -29,17 +29,6 @@ using external_control::Check_for_stop_signal;
 using external_control::Report_state;
 
 constexpr std::uint32_t least_k = 3;  ///< of a run over all k
-
-K_summary Summary_of(const Level& level, std::uint32_t node_count) {
-  const Communities& found = *level.communities;
-  K_summary summary;
-  summary.k = level.k;
-  summary.communities = found.size();
-  for (std::size_t com = 0; com < found.size(); ++com)
-    summary.largest = std::max(summary.largest, found.coms[com].size());
-  summary.nodes_covered = node_count - level.statistics.all.membership.at(0);
-  return summary;
-}
 
 Link_rule Rule_of(const Run_parameters& p) {
   return {Needs_weights(p), p.use_lower_threshold, p.lower_threshold, p.use_upper_threshold,
@@ -189,9 +178,9 @@ class Run {
     const Level_output output = {*results_, graph_.names};
     const auto find_and_write = [&](std::uint32_t k) {
       mark_->Check();
-      const Level level = Find_level(k, levels, &output);
+      Level level = Find_level(k, levels, &output);
       if (wishes_.keeper != nullptr) wishes_.keeper->Keep_level(level, graph_.links);
-      summary_.extractions.push_back(Summary_of(level, summary_.nodes));
+      summary_.extractions.push_back({k, std::move(level.statistics)});
     };
     if (single) return find_and_write(from);
     for (std::uint32_t k = from; k >= to; --k) {

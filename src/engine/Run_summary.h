@@ -4,14 +4,14 @@
 #include <cstdint>
 #include <vector>
 
+#include "communities/Level_statistics.h"
+
 namespace gns {
 
 /// What was found at one k.
 struct K_summary {
   std::uint32_t k = 0;
-  std::size_t communities = 0;
-  std::size_t largest = 0;          ///< nodes of the largest community
-  std::uint32_t nodes_covered = 0;  ///< nodes in at least one community
+  Level_statistics statistics;
 };
 
 /// What a run found, filled in as it goes on. A run first empties it.

@@ -84,10 +84,19 @@ std::vector<std::string> Files_of(const Export_order& order, const Selection& se
   return files;
 }
 
+std::vector<std::string> Files_of(const Export_order& order) {
+  std::vector<std::string> files;
+  if (order.format->one_k) return files;
+  for (const Format_file& file : order.format->files)
+    files.push_back(order.stem + std::string(file.ending));
+  return files;
+}
+
 void Refuse_existing_files(const std::vector<std::string>& files) {
   for (const std::string& file : files)
     if (gns::Is_there_such_path(file))
-      throw Error(Error_kind::output, "'" + file + "' exists. With --force it is replaced.");
+      throw Error(Error_kind::output,
+                  "'" + file + "' exists; move it away, or replace it by vorlane export --force.");
 }
 
 Exported Export(const Export_order& order, const Selection& selection) {

@@ -26,6 +26,8 @@ struct Exported {
 
 /// Their names.
 std::vector<std::string> Files_of(const Export_order& order, const Selection& selection);
+/// The same as far as they can be told before results are there.
+std::vector<std::string> Files_of(const Export_order& order);
 
 /// Throws an Error of kind `output` if one of the files is there and may not be replaced.
 void Refuse_existing_files(const std::vector<std::string>& files);

@@ -10,6 +10,7 @@
 #include "cli/options/Help_text.h"
 #include "cli/options/Input_options.h"
 #include "cli/options/Marked_text.h"
+#include "cli/options/Output_options.h"
 #include "cli/options/Parameters.h"
 #include "cli/options/Progress_option.h"
 #include "cli/options/Switches.h"
@@ -77,15 +78,27 @@ TEST(OptionTable, OffersWhatIsTaken) {
   for (const std::string_view choice : Long_option_of("--format")->choices) {
     if (choice.empty()) continue;
     Input_wishes wishes;
-    const std::string word = "--format=" + std::string(choice);
-    const char* const words[] = {word.c_str()};
-    EXPECT_EQ(Read_input_option(words, wishes), 1U);
+    EXPECT_TRUE(Take_input_option({*Long_option_of("--format"), std::string(choice), 1}, wishes));
     formats.insert(*wishes.format);
   }
+  for (const std::string_view choice : Long_option_of("--export")->choices)
+    if (!choice.empty()) {
+      EXPECT_EQ(Formats_in(choice).size(), 1U);
+    }
   EXPECT_EQ(formats.size(), All_formats().size());
 }
 
-TEST(InputOptions, TakeWhatTheyCanAndTellWhatTheyCant) {
+/// As main does: how many words were taken.
+std::size_t Take(const std::vector<const char*>& words) {
+  const auto given = Long_argument_at(words);
+  if (!given) return 0;
+  Input_wishes input;
+  Output_wishes output;
+  EXPECT_TRUE(Take_input_option(*given, input) || Take_output_option(*given, output));
+  return given->words;
+}
+
+TEST(LongOptions, TakeWhatTheyCanAndTellWhatTheyCant) {
   struct Case {
     std::vector<const char*> words;
     std::size_t taken;
@@ -100,6 +113,8 @@ TEST(InputOptions, TakeWhatTheyCanAndTellWhatTheyCant) {
       {{"--formats=csv"}, 0, ""},
       {{"--progress"}, 0, ""},
       {{}, 0, ""},
+      {{"--export", "csv,gexf"}, 2, ""},
+      {{"--export=csv,"}, 0, "There is no format ''; there are gexf, "},
       {{"--format=xls"}, 0, "--format can't be 'xls': it must be links, csv, "},
       {{"--format"}, 0, "--format needs FORMAT.\n"},
       {{"--columns=a"}, 0, "--columns can't be 'a': it must be two or three"},
@@ -110,9 +125,8 @@ TEST(InputOptions, TakeWhatTheyCanAndTellWhatTheyCant) {
       {{"--blanks", "__"}, 0, "--blanks can't be '__'"},
       {{"--blanks", "#"}, 0, "--blanks can't be '#'"}};
   for (const Case& c : cases) {
-    Input_wishes wishes;
     std::size_t taken = 0;
-    const std::string told = Thrown_message([&] { taken = Read_input_option(c.words, wishes); });
+    const std::string told = Thrown_message([&] { taken = Take(c.words); });
     EXPECT_EQ(taken, c.taken) << told;
     EXPECT_TRUE(told.starts_with(c.told.empty() ? "nothing was thrown" : c.told)) << told;
   }

@@ -62,7 +62,7 @@ TEST(WholeRun, CoversHardNodesByApproximateCliques) {
   EXPECT_EQ(summary.exact_cliques, 3U);
   EXPECT_EQ(summary.approximate_cliques, 5U);
   EXPECT_EQ(summary.extractions.front().k, 5U);
-  EXPECT_EQ(summary.extractions.front().nodes_covered, 5U);
+  EXPECT_EQ(summary.extractions.front().statistics.all.size.at(5), 1U);
   EXPECT_EQ(Contents_of(parameters.output_dir),
             Expected_files("time_limit", parameters.input_file));
 }
@@ -105,7 +105,9 @@ TEST_F(SmallRun, SingleKIsTakenAsItIs) {
     EXPECT_EQ(Written().size(), 3U + 8U) << k;
     EXPECT_TRUE(fs::exists(parameters_.output_dir + "/k=" + std::to_string(k)));
     ASSERT_EQ(summary_.extractions.size(), 1U);
-    EXPECT_EQ(summary_.extractions[0].communities, communities) << k;
+    std::size_t found = 0;
+    for (const auto& [size, count] : summary_.extractions[0].statistics.all.size) found += count;
+    EXPECT_EQ(found, communities) << k;
   }
 }
 

@@ -43,6 +43,7 @@ class Options : public ::testing::Test {
   static std::string Suiting(const std::string& argument) {
     if (argument.starts_with("FILE ")) return "net";
     if (argument.starts_with("FORMAT ")) return "links";
+    if (argument.starts_with("FORMATS ")) return "csv";
     if (argument.starts_with("A,B,W ")) return "2,1";
     return argument.starts_with("DIR ") ? "out" : "4";
   }

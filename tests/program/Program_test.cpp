@@ -50,10 +50,12 @@ class Program : public ::testing::Test {
 
 TEST_F(Program, TellsWhatItFound) {
   ASSERT_EQ(Run({"-i", "net", "-o", "new/out", "-t", "100"}), 0);
-  EXPECT_TRUE(
-      out_.starts_with("Process ended succesfully.\n\n  nodes 5, links 6, cliques 2\n\n"
-                       "  k  cliques of k nodes  communities  largest  nodes covered\n"
-                       "  3                   2            2        3              5\n\n  "))
+  EXPECT_TRUE(out_.starts_with(
+      "Process ended succesfully.\n\n  nodes 5, links 6, cliques 2\n\n"
+      "  k  communities  largest  second  covered  covered share  overlapping  "
+      "overlaps\n"
+      "  3            2        3       3        5          100 %            1      "
+      "   1\n\n  "))
       << out_;
   EXPECT_TRUE(out_.ends_with(" MB\n  results in " + temp_.Path("new/out") + "\n")) << out_;
   EXPECT_EQ(err_, "");
@@ -64,6 +66,24 @@ TEST_F(Program, TellsWhatItFound) {
                 "# Links were treated as undirected.\n"
                 "# The maximal allowed time per node during clique search was 100.000000 secs.\n\n"
                 "0: a b c \n1: c d e \n");
+}
+
+/// Two triangles in a clique of four, at both k the same; and what is asked for in long words.
+TEST_F(Program, TellsOfSeveralKInOneRowAndInOtherForms) {
+  temp_.Write("clique", "a b\na c\na d\nb c\nb d\nc d\n");
+  ASSERT_EQ(Run({"-i", "clique", "-o", "out", "--export", "csv,gexf"}), 0) << err_;
+  EXPECT_NE(out_.find("\n  3-4            1        4       0        4          100 %"),
+            std::string::npos)
+      << out_;
+  EXPECT_NE(out_.find("\n  k = 4: "), std::string::npos) << out_;
+  EXPECT_EQ(Entries(), (Words{"clique", "net", "out", "out.csv", "out.gexf"}));
+  ASSERT_EQ(Run({"-i", "clique", "-o", "out2", "--json"}), 0);
+  EXPECT_EQ(out_.substr(0, 59),
+            "{\"method\":\"undirected\",\"finished\":true,\"nodes\":4,\"levels\":[");
+  EXPECT_EQ(err_, "Process ended succesfully.\n");
+  temp_.Write("out3.csv", "mine");
+  EXPECT_EQ(Run({"-i", "clique", "-o", "out3", "--export=csv"}), 1);
+  EXPECT_EQ(Entries().size(), 7U) << "the run went on";
 }
 
 TEST_F(Program, EndsWithItsExitCodeAndMessage) {

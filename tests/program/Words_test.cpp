@@ -102,7 +102,8 @@ TEST_F(ProgramWords, ExportGoesToFilesOrThroughAPipe) {
   EXPECT_EQ(Run({"export", "out", "--format=csv", "--k", "4", "-o", "-"}), 0) << err_;
   EXPECT_EQ(out_, temp_.Read("out.csv"));
   EXPECT_EQ(Run({"export", "out", "--format=jsonl", "-o", "out.csv"}), 1);
-  EXPECT_EQ(err_, "vorlane: 'out.csv' exists. With --force it is replaced.\n");
+  EXPECT_EQ(err_,
+            "vorlane: 'out.csv' exists; move it away, or replace it by vorlane export --force.\n");
   EXPECT_EQ(Run({"export", "out", "--format=jsonl", "-o", "out.csv", "--force"}), 0) << err_;
   EXPECT_EQ(temp_.Read("out.csv").substr(0, 7), "{\"k\":3,");
 }

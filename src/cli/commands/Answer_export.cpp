@@ -5,9 +5,10 @@
 
 #include "cli/Side_words.h"
 #include "cli/commands/Answers.h"
+#include "cli/commands/Export_all.h"
+#include "cli/options/Output_options.h"
 #include "export/Export_files.h"
 #include "foundation/Errors.h"
-#include "foundation/text/Shown_text.h"
 
 namespace gns {
 
@@ -17,32 +18,9 @@ using vorlane::exporting::Export_order;
 using vorlane::exporting::Format;
 using vorlane::exporting::Selection;
 
-std::vector<const Format*> Formats_in(std::string_view names) {
-  std::vector<const Format*> formats;
-  while (!names.empty()) {
-    const std::string_view name = names.substr(0, names.find(','));
-    names.remove_prefix(std::min(name.size() + 1, names.size()));
-    const Format* const format = vorlane::exporting::Format_of(name);
-    if (format == nullptr) {
-      std::string there;
-      for (const Format& other : vorlane::exporting::All_formats())
-        there.append(there.empty() ? "" : ", ").append(other.name);
-      throw Xerror_msg("There is no format " + Quoted(name) + "; there are " + there + ".\n");
-    }
-    formats.push_back(format);
-  }
-  return formats;
-}
-
 std::string Without_slashes(std::string path) {
   while (path.size() > 1 && path.ends_with('/')) path.pop_back();
   return path;
-}
-
-void Tell_of(std::size_t changed_names, const Format& format) {
-  if (changed_names == 0) return;
-  Tell("warning: " + std::to_string(changed_names) + " name(s) hold characters that " +
-       std::string(format.name) + " can't; U+FFFD stands in their place.");
 }
 
 void To_stream(const Format& format, const Selection& selection, std::ostream& out) {
@@ -52,7 +30,7 @@ void To_stream(const Format& format, const Selection& selection, std::ostream& o
                      " has several files, which standard output can't take.\n");
   format.files[0].write(selection, sink);
   sink.Hand_on();
-  Tell_of(sink.Changed_names(), format);
+  Tell(Of_changed_names(sink.Changed_names(), format));
 }
 
 }  // namespace
@@ -71,16 +49,11 @@ void Answer_export(const Word_line& line, std::ostream& out) {
     if (formats.size() > 1) throw Xerror_msg("Standard output takes one format.\n");
     return To_stream(*formats.front(), selection, out);
   }
-  for (const Format* const format : formats) {
-    Export_order order;
-    order.format = format;
-    order.stem = file.empty() ? Without_slashes(directory) : file;
-    if (formats.size() == 1) order.file = file;
-    order.overwrites = line.Has("--force");
-    const auto exported = Export(order, selection);
-    for (const std::string& name : exported.files) out << name << "\n";
-    Tell_of(exported.changed_names, *format);
-  }
+  Export_order order;
+  order.stem = file.empty() ? Without_slashes(directory) : file;
+  if (formats.size() == 1) order.file = file;
+  order.overwrites = line.Has("--force");
+  for (const std::string& name : Export_all(formats, order, selection)) out << name << "\n";
 }
 
 }  // namespace gns

@@ -43,9 +43,9 @@ void Answer_which_k(const Word_line& line, std::ostream& out) {
     return;
   }
   Table_of(summaries[chosen->result], Alike_rows::folded).Print(out);
-  out << "\nk = " << chosen->level.k;
-  if (line.arguments.size() > 1) out << " of " << line.arguments[chosen->result];
-  out << ": " << chosen->reason << "\n";
+  std::string choice = "k = " + std::to_string(chosen->level.k);
+  if (line.arguments.size() > 1) choice += " of " + line.arguments[chosen->result];
+  out << "\n" << In_words(*chosen, choice);
 }
 
 }  // namespace gns

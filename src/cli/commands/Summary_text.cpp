@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "cli/options/Marked_text.h"
+
 namespace gns {
 
 namespace {
@@ -75,6 +77,13 @@ Text_table Table_of(const Summary& summary, Alike_rows alike) {
     table.Add(Cells(k, levels[first], summary.nodes));
   }
   return table;
+}
+
+std::string In_words(const vorlane::queries::Recommendation& chosen, const std::string& choice) {
+  constexpr std::size_t width = 80;
+  constexpr std::size_t indent = 2;
+  const std::string words = choice + ": " + chosen.reason;
+  return std::string(indent, ' ') + Wrapped(words, width, indent, indent) + "\n";
 }
 
 std::string In_json(const Summary& summary) {

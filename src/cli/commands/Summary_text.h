@@ -4,7 +4,7 @@
 
 #include "cli/terminal/Text_table.h"
 #include "foundation/text/Json_text.h"
-#include "queries/Summary.h"
+#include "queries/Which_k.h"
 
 namespace gns {
 
@@ -20,6 +20,9 @@ Text_table Table_of(const vorlane::queries::Summary& summary, Alike_rows alike);
 
 /// {"method","finished","nodes","levels":[{"k","communities", ...}]}
 std::string In_json(const vorlane::queries::Summary& summary);
+
+/// Why what is called `choice` was recommended, in lines.
+std::string In_words(const vorlane::queries::Recommendation& chosen, const std::string& choice);
 
 std::string Name_of(vorlane::Method method);
 

@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "cli/options/Option_table.h"
-#include "foundation/Errors.h"
 #include "foundation/text/Shown_text.h"
 #include "foundation/text/Text_fields.h"
 
@@ -54,21 +52,12 @@ constexpr std::array input_options{Input_option{"--format", Take_format},
 
 }  // namespace
 
-std::size_t Read_input_option(std::span<const char* const> words, Input_wishes& wishes) {
-  const Option* const given = words.empty() ? nullptr : Long_option_of(words[0]);
-  if (given == nullptr) return 0;
-  const auto* const option = std::ranges::find(input_options, given->word, &Input_option::word);
-  if (option == input_options.end()) return 0;
-  const std::string_view first = words[0];
-  const bool is_behind = first.size() > option->word.size();
-  if (!is_behind && words.size() < 2)
-    throw Xerror_msg(std::string(option->word) + " needs " + std::string(given->argument) + ".\n");
-  const std::string argument(is_behind ? first.substr(option->word.size() + 1) : words[1]);
-  const std::string wrong = option->take(argument, wishes);
-  if (!wrong.empty())
-    throw Xerror_msg(std::string(option->word) + " can't be " + Quoted(argument) + ": " + wrong +
-                     ".\n");
-  return is_behind ? 1 : 2;
+bool Take_input_option(const Long_argument& given, Input_wishes& wishes) {
+  const auto* const option =
+      std::ranges::find(input_options, given.option.word, &Input_option::word);
+  if (option == input_options.end()) return false;
+  given.Refuse(option->take(given.argument, wishes));
+  return true;
 }
 
 }  // namespace gns

@@ -83,6 +83,21 @@ constexpr std::array options{
         .needs_argument = true,
     },
     Option{
+        .word = "--export",
+        .argument = "FORMATS",
+        .kind = Argument::words,
+        .group = Group::files,
+        .summary = "exports the results as well, in formats of other programs: gexf, graphml, cx2, "
+                   "csv, json and others (`vorlane help export`)",
+        .without = "",
+        .description =
+            "Writes the results in formats of other programs as well, beside the directory and "
+            "under its name. `vorlane help export` lists the formats.",
+        .names = {"export"},
+        .choices = {"gexf", "graphml", "cx2", "csv", "csv-wide", "tables", "json", "jsonl"},
+        .needs_argument = true,
+    },
+    Option{
         .word = "-w",
         .argument = "NUMBER",
         .kind = Argument::number,
@@ -200,6 +215,16 @@ constexpr std::array options{
         .without = "",
         .description = "Shows the version, and ends.",
         .names = {"version"},
+    },
+    Option{
+        .word = "--json",
+        .argument = "",
+        .group = Group::display,
+        .summary = "the figures of each k as an object of JSON on standard output",
+        .without = "a table",
+        .description = "Prints the figures of each k as one object of JSON, as `vorlane summary "
+                       "--json` does, in place of the table, and the message of the run on "
+                       "standard error.",
     },
     Option{
         .word = "--progress",

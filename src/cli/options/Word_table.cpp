@@ -65,7 +65,7 @@ constexpr std::array diff_options{k_only, json, csv};
 constexpr std::array export_options{
     Option{
         .word = "--format",
-        .argument = "F,...",
+        .argument = "FORMATS",
         .kind = Option::Argument::words,
         .group = Option::Group::display,
         .summary = "gexf (for Gephi), graphml (igraph, networkx), cx2 (Cytoscape), csv, tsv, "
