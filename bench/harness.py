@@ -65,8 +65,10 @@ def build_tools():
 def build_on_library(name):
     """Builds a program of this folder that uses the library."""
     includes = (f"-I{ROOT / folder}" for folder in ("include", "src"))
+    pc = (ROOT / "build" / "packaging" / "vorlane.pc").read_text()
+    linked = re.search(r"^Libs.private: (.*)$", pc, re.MULTILINE).group(1).split()
     succeed("g++", "-std=c++20", "-O3", *includes, "-o", TOOLS / name,
-            ROOT / "bench" / f"{name}.cpp", ROOT / "build" / "libvorlane.a", "-pthread")
+            ROOT / "bench" / f"{name}.cpp", ROOT / "build" / "libvorlane.a", *linked)
 
 
 def measure(command, accepted=(0,)):

@@ -1,6 +1,7 @@
-// Makes inputs to begin with: seeds EXAMPLES OUT. Runs the engine on the example networks in all
-// kinds of run and puts what it leaves into OUT/links, OUT/records and OUT/results, and some
-// command lines into OUT/switches.
+// Makes inputs to begin with: seeds EXAMPLES DOCUMENT OUT. Runs the engine on the example networks
+// in all kinds of run and puts what it leaves into OUT/links, OUT/records and OUT/results, and some
+// command lines into OUT/switches. The files that the document on inputs shows go to a folder for
+// each format.
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -53,14 +54,31 @@ void Make_seeds(const fs::path& results, char mode, const fs::path& out) {
   }
 }
 
+/// Each file that the document shows, in all ways in which it can be read.
+void Make_format_seeds(const fs::path& document, const fs::path& out) {
+  std::ifstream lines(document);
+  for (std::string line; std::getline(lines, line);) {
+    if (!line.starts_with("```")) continue;
+    const std::string format = line.substr(3, line.find(' ') - 3);
+    const std::string name = line.substr(line.find(' ') + 1);
+    std::string contents;
+    while (std::getline(lines, line) && line != "```") contents += line + "\n";
+    for (char way = 0; way < 16; ++way)
+      Write(out / format, name + std::to_string(way), way + contents);
+  }
+  for (char way = 0; way < 64; ++way)
+    Write(out / "packed", std::to_string(way), way + std::string("Ada Bruno\nBruno Clara\n"));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 3) {
-    std::cerr << "usage: " << argv[0] << " EXAMPLES OUT\n";
+  if (argc != 4) {
+    std::cerr << "usage: " << argv[0] << " EXAMPLES DOCUMENT OUT\n";
     return 2;
   }
-  const fs::path out = argv[2];
+  const fs::path out = argv[3];
+  Make_format_seeds(argv[2], out);
   Write(out / "switches", "plain",
         "-i\nlinks.txt\n-o\nout\n-w\n1\n-W\n2.5\n-d\n3\n-t\n0.1\n-k\n4\n");
   Write(out / "switches", "kinds", "-i\na\nb\n-I\n6\n-k\n4.5\n-D\n-U\n-h\n-w\n-1\n");

@@ -15,7 +15,8 @@ constexpr std::string_view blanks = " \t";
 /// Without what stands around a field; most fields have nothing there.
 std::string_view Bare(std::string_view field) {
   if (field.empty() || (field.front() > ' ' && field.back() > ' ')) return field;
-  return Trimmed(field, blanks);
+  const std::string_view bare = Trimmed(field, blanks);
+  return bare.empty() ? field.substr(0, 0) : bare;  // its place counts
 }
 
 std::string_view Without_return(std::string_view line) {

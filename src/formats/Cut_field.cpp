@@ -29,7 +29,7 @@ std::string_view Cut_field::Label() {
   return word_;
 }
 
-std::uint64_t Cut_field::Whole_number(const std::string& expected, const std::string& cure,
+std::uint64_t Cut_field::Whole_number(std::string_view expected, std::string_view cure,
                                       std::uint64_t least, std::uint64_t greatest) {
   const std::string_view word = Word();
   const char* const end = word.data() + word.size();
@@ -40,7 +40,7 @@ std::uint64_t Cut_field::Whole_number(const std::string& expected, const std::st
   return number;
 }
 
-double Cut_field::Number(const std::string& expected, const std::string& cure) {
+double Cut_field::Number(std::string_view expected, std::string_view cure) {
   double number = 0.0;
   if (!stringtodouble(Word(), number)) Refuse(expected, cure);
   return number;
@@ -51,8 +51,8 @@ Field_place Cut_field::Place() const {
   return {line_number_, Count_characters(before) + 1};
 }
 
-void Cut_field::Refuse(const std::string& expected, const std::string& cure) const {
-  Refuse_field(file_, Place(), {expected, word_, cure});
+void Cut_field::Refuse(std::string_view expected, std::string_view cure) const {
+  Refuse_field(file_, Place(), {std::string(expected), word_, std::string(cure)});
 }
 
 }  // namespace gns

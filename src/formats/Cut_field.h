@@ -23,12 +23,12 @@ class Cut_field {
   std::string_view Label();
   /// The next word as a whole number, or as a number. Throws Xep_wrong_line if it is none, or above
   /// the greatest that is allowed; `expected` tells what was.
-  std::uint64_t Whole_number(const std::string& expected, const std::string& cure,
-                             std::uint64_t least, std::uint64_t greatest);
-  double Number(const std::string& expected, const std::string& cure);
+  std::uint64_t Whole_number(std::string_view expected, std::string_view cure, std::uint64_t least,
+                             std::uint64_t greatest);
+  double Number(std::string_view expected, std::string_view cure);
 
   /// Throws Xep_wrong_line at the word that was taken last.
-  [[noreturn]] void Refuse(const std::string& expected, const std::string& cure) const;
+  [[noreturn]] void Refuse(std::string_view expected, std::string_view cure) const;
   [[nodiscard]] Field_place Place() const;
 
  private:

@@ -52,7 +52,7 @@ void Labelled_links::Hand_over(bool weighted, Name_rule& names, Link_file_check&
                                Link_intake& intake) {
   const Name_table ids = ids_.Take();
   for (std::uint32_t i = 0; i < nodes_.size(); ++i)
-    if (!nodes_[i].is_declared)
+    if (!all_declared_ && !nodes_[i].is_declared)
       Refuse_field(file_, nodes_[i].place,
                    {"the identifier of a node", ids[i], "No node of the file has this one."});
   const bool by_label = Labels_are_unique(ids, check);

@@ -21,7 +21,9 @@ namespace gns {
 /// their identifiers, which `check` is told.
 class Labelled_links {
  public:
-  explicit Labelled_links(std::string file) : file_(std::move(file)) {}
+  /// With `all_declared`, a node that only a link names needs no declaration.
+  explicit Labelled_links(std::string file, bool all_declared = false)
+      : file_(std::move(file)), all_declared_(all_declared) {}
 
   /// The number of a node, met at a place.
   std::uint32_t Node_of(std::string_view id, const Field_place& place);
@@ -48,6 +50,7 @@ class Labelled_links {
   [[nodiscard]] bool Labels_are_unique(const Name_table& ids, Link_file_check& check) const;
 
   std::string file_;
+  bool all_declared_;
   Name_numbers ids_;
   std::vector<Node> nodes_;
   std::string labels_;

@@ -53,6 +53,7 @@ void Read_matrix(Line_reader& reader, bool directed, const std::string& file, Li
   std::uint64_t entries = 0;
   std::uint64_t taken = 0;
   std::size_t size_line = 0;
+  std::string cure;
   for (std::string_view line; reader.Next(line);) {
     external_control::Check_inside_long_stage();
     const std::size_t number = reader.Lines_taken();
@@ -66,14 +67,13 @@ void Read_matrix(Line_reader& reader, bool directed, const std::string& file, Li
       if (fields.Whole_number("the number of columns", "", 1, most_nodes) != size)
         fields.Refuse("as many columns as rows", "Rows and columns are the same nodes.");
       entries = fields.Whole_number("the number of entries", "", 0, any);
+      cure = "Line " + std::to_string(size_line) + " tells how many there are.";
       continue;
     }
     if (++taken > entries) {
       fields.Word();
-      fields.Refuse("no more than " + std::to_string(entries) + " entries",
-                    "Line " + std::to_string(size_line) + " tells how many there are.");
+      fields.Refuse("no more than " + std::to_string(entries) + " entries", cure);
     }
-    const std::string cure = "Line " + std::to_string(size_line) + " tells how many there are.";
     const Number_name first(fields.Whole_number("the number of a row", cure, 1, size));
     const Number_name second(fields.Whole_number("the number of a column", cure, 1, size));
     double weight = 0.0;
@@ -82,8 +82,7 @@ void Read_matrix(Line_reader& reader, bool directed, const std::string& file, Li
         fields.Word();
         fields.Refuse("values, as the run needs weights", "A pattern has none.");
       }
-      weight = fields.Number(std::string(expected_weight),
-                             "Runs with -w, -W or -I need a value of each entry.");
+      weight = fields.Number(expected_weight, "Runs with -w, -W or -I need a value of each entry.");
     }
     intake.Take(first.Text(), second.Text(), weight);
     if (directed && kind.is_symmetric && first.Text() != second.Text())

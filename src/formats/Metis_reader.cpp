@@ -60,7 +60,10 @@ std::uint64_t Mark_of(std::uint64_t a, std::uint64_t b, double weight) {
 class Metis_content {
  public:
   Metis_content(const Metis_head& head, bool directed, Link_intake& intake)
-      : head_(head), directed_(directed), intake_(intake) {}
+      : head_(head),
+        directed_(directed),
+        intake_(intake),
+        expected_neighbour_("a neighbour from 1 to " + std::to_string(head.nodes)) {}
 
   void Take_node(std::uint64_t node, Cut_field& fields) {
     for (std::uint64_t i = 0; i < head_.skipped; ++i)
@@ -68,11 +71,10 @@ class Metis_content {
     const Number_name name(node);
     while (!fields.Is_at_end()) {
       const std::uint64_t other =
-          fields.Whole_number("a neighbour from 1 to " + std::to_string(head_.nodes),
-                              "Nodes are counted from 1.", 1, head_.nodes);
-      const double weight = head_.has_weights ? fields.Number(std::string(expected_weight),
-                                                              "Each neighbour has one behind it.")
-                                              : 0.0;
+          fields.Whole_number(expected_neighbour_, "Nodes are counted from 1.", 1, head_.nodes);
+      const double weight =
+          head_.has_weights ? fields.Number(expected_weight, "Each neighbour has one behind it.")
+                            : 0.0;
       ++ends;
       if (other == node) ++ends;  // both of its ends are here
       balance += (node < other ? 1U : node == other ? 0U : any) * Mark_of(node, other, weight);
@@ -87,6 +89,7 @@ class Metis_content {
   const Metis_head& head_;
   bool directed_;
   Link_intake& intake_;
+  std::string expected_neighbour_;
 };
 
 }  // namespace

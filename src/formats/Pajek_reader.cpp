@@ -7,6 +7,7 @@
 #include "control/Run_control.h"
 #include "formats/Cut_field.h"
 #include "formats/Labelled_links.h"
+#include "formats/Number_name.h"
 #include "foundation/text/Text_fields.h"
 #include "input/Link_file_kind.h"
 #include "input/Link_file_reader.h"
@@ -20,7 +21,7 @@ using namespace std::string_view_literals;
 class Pajek_content {
  public:
   Pajek_content(const std::string& file, bool weighted)
-      : links(file), file_(file), weighted_(weighted) {}
+      : links(file, true), file_(file), weighted_(weighted) {}
 
   void Take_line(std::size_t number, std::string_view line) {
     line_number_ = number;
@@ -88,41 +89,42 @@ class Pajek_content {
       fields.Refuse("one network in a file", "Put each network into a file of its own.");
     constexpr std::uint64_t most = std::numeric_limits<std::uint32_t>::max() - 1;
     count_ = fields.Whole_number("how many vertices there are", "", 1, most);
+    expected_vertex_ = "the number of a vertex, from 1 to " + std::to_string(count_);
     section_ = Section::vertices;
   }
 
   void Take_vertex(Cut_field& fields) {
-    const std::uint32_t node = Node(fields, "the number of a vertex");
+    const std::uint32_t node = Node(fields);
+    if (!links.Declare(node, fields.Place()))
+      fields.Refuse("a number that no vertex before has", "Leave one of them out.");
     if (!fields.Is_at_end()) links.Set_label(node, fields.Label());
   }
 
   void Take_link(Cut_field& fields) {
-    const std::uint32_t first = Node(fields, "the number of a vertex");
-    const std::uint32_t second = Node(fields, "the number of a second vertex");
+    const std::uint32_t first = Node(fields);
+    const std::uint32_t second = Node(fields);
     double weight = 1.0;
     if (weighted_ && !fields.Is_at_end())
-      weight = fields.Number(std::string(expected_weight), "Write numbers with a point.");
+      weight = fields.Number(expected_weight, "Write numbers with a point.");
     links.Add(first, second, weight);
   }
 
   void Take_list(Cut_field& fields) {
-    const std::uint32_t first = Node(fields, "the number of a vertex");
-    while (!fields.Is_at_end()) links.Add(first, Node(fields, "the number of a vertex"), 1.0);
+    const std::uint32_t first = Node(fields);
+    while (!fields.Is_at_end()) links.Add(first, Node(fields), 1.0);
   }
 
-  std::uint32_t Node(Cut_field& fields, const std::string& expected) {
-    const std::uint64_t number =
-        fields.Whole_number(expected + ", from 1 to " + std::to_string(count_),
-                            "The first line tells how many there are.", 1, count_);
-    const std::uint32_t node = links.Node_of(std::to_string(number), fields.Place());
-    links.Declare(node, fields.Place());
-    return node;
+  std::uint32_t Node(Cut_field& fields) {
+    const std::uint64_t number = fields.Whole_number(
+        expected_vertex_, "The first line tells how many there are.", 1, count_);
+    return links.Node_of(Number_name(number).Text(), {line_number_, 0});
   }
 
   std::string file_;
   bool weighted_;
   Section section_ = Section::none;
   std::uint64_t count_ = 0;
+  std::string expected_vertex_;
   std::size_t line_number_ = 0;
 };
 

@@ -32,17 +32,21 @@ std::unique_ptr<Line_reader> Opened(const std::string& path) {
                                        poll);
 }
 
+std::unique_ptr<Line_reader> Unpacked(std::unique_ptr<Line_reader> packed, const std::string& path,
+                                      bool& was_compressed) {
+  for (const Packing& packing : packings) {
+    if (packed->Peek(packing.start.size()) != packing.start) continue;
+    was_compressed = true;
+    return std::make_unique<Line_reader>(packing.unpack(std::move(packed), path));
+  }
+  return packed;
+}
+
 }  // namespace
 
 Unpacked_input Open_input(const std::string& path) {
-  Unpacked_input input = {Opened(path), false};
-  for (const Packing& packing : packings) {
-    const std::string start(input.reader->Peek(packing.start.size()));
-    if (start != packing.start) continue;
-    auto bytes = packing.unpack(std::move(input.reader), path);
-    input = {std::make_unique<Line_reader>(std::move(bytes)), true};
-    break;
-  }
+  Unpacked_input input;
+  input.reader = Unpacked(Opened(path), path, input.was_compressed);
   Refuse_other_kinds(path, input.reader->Peek(kind_bytes));
   return input;
 }

@@ -69,6 +69,7 @@ TEST(Csv, TellsWhereItCantBeRead) {
                          {"a,b,1\n\nb\n", "!3:2 "},
                          {"a,b,1\n" + std::string(70000, '\n') + "b\n", "!70002:2 "},
                          {"a,b,1\n,c,1\n", "!2:1 "},
+                         {"a,b,1\nb,  ,1\n", "!2:3 "},
                          {"a b\nc d\n", "!1:1 a b"},
                          {"a,b\n\"c,d\ne,f\n", "!2:1 c,d\ne,f\n", false},  // quotes without an end
                          {"a,b\nc,\"d\"x,e\n", "!2:6 x,e", false},

@@ -55,6 +55,7 @@ TEST(Pajek, TellsWhereItCantBeRead) {
                                          {"*Vertices 99999999999\n", "!1:11 99999999999"},
                                          {"*Vertices 2\n1 \"a\n", "!2:3 \"a"},
                                          {"*Vertices 2\n3 \"a\"\n", "!2:1 3"},
+                                         {"*Vertices 2\n1 \"a\"\n1\n", "!3:1 1"},
                                          {"*Vertices 2\n*Edges\n1 3\n", "!3:3 3"},
                                          {"*Vertices 2\n*Edges\n1\n", "!3:2 "},
                                          {"*Vertices 2\n*Edges\n1 2 x\n", "!3:5 x", true},

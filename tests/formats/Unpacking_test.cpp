@@ -3,13 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "Pack_text.h"
 #include "Read_text.h"
-#ifdef VORLANE_ZLIB
-#include <zlib.h>
-#endif
-#ifdef VORLANE_ZSTD
-#include <zstd.h>
-#endif
 
 namespace gns {
 namespace {
@@ -25,30 +20,6 @@ struct Packing {
   std::string (*pack)(const std::string& text);
   std::string damaged;  ///< what is said of data with a wrong byte: its beginning
 };
-
-#ifdef VORLANE_ZLIB
-std::string Gzip(const std::string& text) {
-  z_stream stream = {};
-  deflateInit2(&stream, 1, Z_DEFLATED, 16 + MAX_WBITS, 8, Z_DEFAULT_STRATEGY);
-  std::string packed(deflateBound(&stream, text.size()), '\0');
-  stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(text.data()));
-  stream.avail_in = static_cast<uInt>(text.size());
-  stream.next_out = reinterpret_cast<Bytef*>(packed.data());
-  stream.avail_out = static_cast<uInt>(packed.size());
-  deflate(&stream, Z_FINISH);
-  packed.resize(stream.total_out);
-  deflateEnd(&stream);
-  return packed;
-}
-#endif
-
-#ifdef VORLANE_ZSTD
-std::string Zstd(const std::string& text) {
-  std::string packed(ZSTD_compressBound(text.size()), '\0');
-  packed.resize(ZSTD_compress(packed.data(), packed.size(), text.data(), text.size(), 1));
-  return packed;
-}
-#endif
 
 const std::vector<Packing> packings = {
 #ifdef VORLANE_ZLIB

@@ -57,6 +57,12 @@ function(check_installed)
     run(${COMPILER} -std=c++20 ${SOURCE}/tests/package/consumer.cpp ${flags} -Wl,-rpath,${lib_dir}
         -o ${BINARY}/consumer)
     expect_answer(${BINARY}/consumer)
+    run(${pkg_config} --static --cflags --libs vorlane)
+    string(REPLACE "-lvorlane" "-l:libvorlane.a" output "${output}")
+    separate_arguments(flags UNIX_COMMAND "${output}")
+    run(${COMPILER} -std=c++20 ${SOURCE}/tests/package/consumer.cpp ${flags}
+        -o ${BINARY}/consumer_of_archive)
+    expect_answer(${BINARY}/consumer_of_archive)
   else()
     message("pkg-config is not here, so it was not tried")
   endif()
