@@ -38,7 +38,7 @@ std::string Of_wrong_line(const Xep_wrong_line& failure) {
   if (place.expected == expected_second_name &&
       failure.wrong_line.find_first_of(",;|") != std::string::npos)
     return text + " Fields are separated by blanks or tabs: tr ',;|' ' ' < " +
-           Shell_word(place.file) + " > NEW_FILE";
+           Shell_word(place.file) + " > NEW_FILE, unless --format=csv reads it as it is";
   if (place.expected == expected_weight && place.found.empty())
     return text + " Runs with -w, -W or -I need a weight on every line.";
   if (place.line == 1 && place.expected == expected_weight)

@@ -8,6 +8,7 @@
 #include "formats/Pajek_reader.h"
 #include "formats/Unpacked_input.h"
 #include "foundation/Errors.h"
+#include "input/Link_file_kind.h"
 #include "input/Link_file_reader.h"
 
 namespace gns {
@@ -22,6 +23,7 @@ void Read_network_file(const std::string& path, const Input_wishes& wishes, cons
                      "' has no columns to be chosen by --columns:\n it is read " + "as " +
                      std::string(Name_of(format)) + ". --format=csv reads it as csv.\n");
   if (format == Format::links) return Read_link_lines(reader, path, rule, links, &check);
+  if (wishes.for_files) Refuse_zeros(path, reader.Peek(kind_bytes));
   Link_intake intake(rule);
   Name_rule names(wishes, path);
   switch (format) {

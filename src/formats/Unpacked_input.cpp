@@ -8,6 +8,7 @@
 #include "control/Run_control.h"
 #include "formats/Gzip_bytes.h"
 #include "formats/Zstd_bytes.h"
+#include "foundation/Errors.h"
 #include "input/Link_file_kind.h"
 
 namespace gns {
@@ -21,13 +22,20 @@ struct Packing {
   std::unique_ptr<Byte_source> (*unpack)(std::unique_ptr<Line_reader>, const std::string&);
 };
 
+constexpr auto poll = external_control::Check_inside_long_stage;
+
 constexpr Packing packings[] = {{"\x1F\x8B"sv, Gzip_bytes}, {"\x28\xB5\x2F\xFD"sv, Zstd_bytes}};
 
+std::unique_ptr<Byte_source> Standard_input() {
+  try {
+    return std::make_unique<File_bytes>(STDIN_FILENO, standard_input, poll);
+  } catch (const Xep_file_not_found&) {
+    throw Xerror_msg("ERROR: standard input can't be read: it is closed, or a directory.\n");
+  }
+}
+
 std::unique_ptr<Line_reader> Opened(const std::string& path) {
-  constexpr auto poll = external_control::Check_inside_long_stage;
-  if (path == standard_input)
-    return std::make_unique<Line_reader>(
-        std::make_unique<File_bytes>(STDIN_FILENO, "standard input", poll));
+  if (path == standard_input) return std::make_unique<Line_reader>(Standard_input());
   return std::make_unique<Line_reader>(path, Line_reader::Source::any_file, Character_set{'\n'},
                                        poll);
 }

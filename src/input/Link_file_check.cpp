@@ -97,7 +97,7 @@ struct Rule {
 constexpr std::array rules = {
     Rule{Begins_other_format, true,
          "this looks like the beginning of a file of another format, whose lines are read as links",
-         "turn it into lines of two names and perhaps a weight", ""},
+         "tell which by --format, or turn it into lines of two names and perhaps a weight", ""},
     Rule{Is_comment, false, "this looks like a comment, but is read as a link",
          "begin comments with '#'", "sed -E 's:^[ \\t]*(%|//):#:'"},
     Rule{Has_quotes, false, "quotation marks are read as parts of the names", "take them out",

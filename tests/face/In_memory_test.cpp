@@ -195,6 +195,19 @@ Network Triangle(bool weighted, bool directed) {
   return builder.Build();
 }
 
+/// What other programs write is read as it is by the program; names may hold blanks here.
+TEST(InMemory, OtherFormatsAreToldByTheirEndings) {
+  const gns::Temp_dir temp;
+  const Network table = Network::Read(temp.Write("a.csv", "from,to\nAda L,b\nb,c\n"));
+  EXPECT_TRUE(table.Find("Ada L").has_value());
+  EXPECT_EQ(table.Link_count(), 2U);
+  Link_options directed;
+  directed.directed = directed.weighted = true;
+  directed.min_weight = 2;
+  const Network both = Network::Read(temp.Write("a.graph", "3 2 1\n2 5\n1 5 3 2\n2 2\n"), directed);
+  EXPECT_EQ(both.Link_count(), 2U);  // at both ends; a weight of 2 is left out
+}
+
 TEST(InMemory, BadInputIsToldWithItsPlace) {
   const gns::Temp_dir temp;
   const auto add = [](bool weighted, std::vector<Node> from, std::vector<Node> to,

@@ -88,6 +88,7 @@ TEST_F(Inputs, ComeThroughStandardInput) {
   EXPECT_EQ(Run({"-i", "-"}, "net"), 2);
   EXPECT_NE(err_.find("standard input has no name"), std::string::npos) << err_;
   EXPECT_EQ(Run({"-i", "-", "-o", "new"}, temp_.Path()), 1);
+  EXPECT_EQ(err_, "vorlane: ERROR: standard input can't be read: it is closed, or a directory.\n");
   EXPECT_FALSE(std::filesystem::exists(temp_.Path("new")));
 }
 
@@ -120,6 +121,13 @@ TEST_F(Inputs, AreToldOfWithAWayOut) {
        0,
        "first node to the second; leave out -D\n"},
       {"n.mtx", "2 2 1\n1 2\n", {"--columns=1,2"}, 1, "it is read as mtx. --format=csv reads it"},
+      {"n.csv", std::string("a\0,\0b", 6), {}, 1, "text in UTF-16. Try iconv -f UTF-16LE"},
+      {"n", "a,b\n", {}, 1, "unless --format=csv reads it as it is\n"},
+      {"n",
+       "*vertices 2\n",
+       {},
+       0,
+       "another format, whose lines are read as links; tell which by "},
       {"n", "a b\n", {"--format=xls"}, 2, "--format can't be 'xls': it must be links, csv, tsv"},
       {"n.graph",
        "2 1\n3\n1\n",
