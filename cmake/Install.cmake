@@ -38,7 +38,7 @@ install(FILES ${documents}/_vorlane DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/sit
 install(FILES ${documents}/vorlane.fish
         DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/README.md
-              ${PROJECT_SOURCE_DIR}/docs/file-formats.md
+              ${PROJECT_SOURCE_DIR}/docs/file-formats.md ${PROJECT_SOURCE_DIR}/docs/inputs.md
         DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # The two stand in one folder, where the jar looks for its library.
