@@ -29,7 +29,8 @@ public class ThreadsAnalysisTest extends Fixture {
     Future<OutParams> run = threads.submit(new Run(pipe("pipe1"), path("out"))::findAndLoad);
     try (Analysis waiting = new Analysis(pipe("pipe2"), new Options())) {
       Future<Level> level = threads.submit(waiting::next);
-      while (!waiting.report().equals(READING)) Thread.yield();
+      while (!waiting.report().equals(READING) || !ExternalCalls.Read_state_report().equals(READING))
+        Thread.yield();
       List<Future<Integer>> counts = new ArrayList<>();
       for (int i = 0; i < 8; ++i)
         counts.add(threads.submit(() -> {
