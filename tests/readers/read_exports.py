@@ -22,7 +22,8 @@ import polars
 from ndex2.cx2 import RawCX2NetworkFactory
 
 HERE = Path(__file__).resolve().parent
-SCHEMAS = HERE.parent.parent / "docs" / "schemas"
+ROOT = HERE.parent.parent
+SCHEMAS = ROOT / "docs" / "schemas"
 PROGRAM = Path(sys.argv[1]).resolve()
 READERS = Path(sys.argv[2]).resolve()
 
@@ -98,8 +99,8 @@ class Run:
         return found
 
 
-def call(*words):
-    done = subprocess.run([str(word) for word in words], capture_output=True, check=False)
+def call(*words, folder=None):
+    done = subprocess.run([str(word) for word in words], capture_output=True, check=False, cwd=folder)
     if done.returncode != 0:
         raise AssertionError(f"{words}: {done.stdout.decode()} {done.stderr.decode()}")
     return done.stdout.decode()
@@ -292,6 +293,21 @@ class Readers(unittest.TestCase):
                     answer = Path(self.folder.name) / f"{run.kind}-{word}-{i}.jsonl"
                     answer.write_text(call(PROGRAM, *words, "--json"))
                     call("node", READERS / "validate.mjs", SCHEMAS / f"{word}.schema.json", answer)
+
+
+    def test_tutorial(self):
+        text = (ROOT / "docs" / "tutorial.md").read_text()
+        folder = Path(self.folder.name) / "tutorial"
+        folder.mkdir()
+        call(PROGRAM, "-i", ROOT / "examples" / "choir.csv", "--blanks", "_", "-o", folder / "groups")
+        call(PROGRAM, "export", "groups", "--format", "gexf", folder=folder)
+        call(PROGRAM, "export", "groups", "--format", "graphml", "--k", "4", folder=folder)
+        for language, reader, figure in (("r", "Rscript", "choir.pdf"), ("python", sys.executable, "choir.png")):
+            code, says = re.search(rf"```{language}\n(.*?)```\n\nprints .*?`(.*?)`", text, re.DOTALL).groups()
+            script = folder / f"figure.{language}"
+            script.write_text(code)
+            self.assertEqual(call(reader, script, folder=folder).removeprefix("[1] ").strip(), says)
+            self.assertGreater((folder / figure).stat().st_size, 2000)
 
 
 if __name__ == "__main__":
