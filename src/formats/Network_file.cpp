@@ -17,11 +17,12 @@ void Read_network_file(const std::string& path, const Input_wishes& wishes, cons
                        Link_map& links, Link_file_check& check) {
   const Unpacked_input input = Open_input(path);
   Line_reader& reader = *input.reader;
-  const Format format = wishes.format.value_or(Format_of_path(path, input.was_compressed));
+  const Format format = wishes.format.value_or(Format_of_path(path, !input.unpacking.empty()));
   if (!wishes.columns.empty() && format != Format::csv && format != Format::tsv)
     throw Xerror_msg("ERROR: '" + path +
                      "' has no columns to be chosen by --columns:\n it is read " + "as " +
                      std::string(Name_of(format)) + ". --format=csv reads it as csv.\n");
+  check.Set_unpacking(input.unpacking);
   if (format == Format::links) return Read_link_lines(reader, path, rule, links, &check);
   if (wishes.for_files) Refuse_zeros(path, reader.Peek(kind_bytes));
   Link_intake intake(rule);

@@ -19,12 +19,14 @@ using namespace std::string_view_literals;
 
 struct Packing {
   std::string_view start;
+  const char* command;
   std::unique_ptr<Byte_source> (*unpack)(std::unique_ptr<Line_reader>, const std::string&);
 };
 
 constexpr auto poll = external_control::Check_inside_long_stage;
 
-constexpr Packing packings[] = {{"\x1F\x8B"sv, Gzip_bytes}, {"\x28\xB5\x2F\xFD"sv, Zstd_bytes}};
+constexpr Packing packings[] = {{"\x1F\x8B"sv, "zcat", Gzip_bytes},
+                                {"\x28\xB5\x2F\xFD"sv, "zstdcat", Zstd_bytes}};
 
 std::unique_ptr<Byte_source> Standard_input() {
   try {
@@ -41,10 +43,10 @@ std::unique_ptr<Line_reader> Opened(const std::string& path) {
 }
 
 std::unique_ptr<Line_reader> Unpacked(std::unique_ptr<Line_reader> packed, const std::string& path,
-                                      bool& was_compressed) {
+                                      std::string& unpacking) {
   for (const Packing& packing : packings) {
     if (packed->Peek(packing.start.size()) != packing.start) continue;
-    was_compressed = true;
+    unpacking = packing.command;
     return std::make_unique<Line_reader>(packing.unpack(std::move(packed), path));
   }
   return packed;
@@ -54,7 +56,7 @@ std::unique_ptr<Line_reader> Unpacked(std::unique_ptr<Line_reader> packed, const
 
 Unpacked_input Open_input(const std::string& path) {
   Unpacked_input input;
-  input.reader = Unpacked(Opened(path), path, input.was_compressed);
+  input.reader = Unpacked(Opened(path), path, input.unpacking);
   Refuse_other_kinds(path, input.reader->Peek(kind_bytes));
   return input;
 }

@@ -10,7 +10,7 @@ namespace gns {
 /// An input that is being read, unpacked if it was compressed.
 struct Unpacked_input {
   std::unique_ptr<Line_reader> reader;
-  bool was_compressed = false;
+  std::string unpacking;  ///< a command that unpacks such a file; empty if it wasn't compressed
 };
 
 /// The path by which standard input is asked for, as it is open.

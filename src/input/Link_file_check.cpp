@@ -185,7 +185,8 @@ void Link_file_check::Warn(std::size_t kind, std::size_t line_number, const std:
 }
 
 std::string Link_file_check::To_new_file(const std::string& command) const {
-  return command + " < " + Shell_word(path_) + " > NEW_FILE";
+  if (unpacking_.empty()) return command + " < " + Shell_word(path_) + " > NEW_FILE";
+  return unpacking_ + " " + Shell_word(path_) + " | " + command + " > NEW_FILE";
 }
 
 }  // namespace gns

@@ -39,6 +39,9 @@ class Link_file_check {
   /// What follows a number that was read as a weight.
   void Look_behind_weight(std::string_view rest, std::size_t line_number);
 
+  /// The file is packed: commands that mend it begin with this one, which unpacks it.
+  void Set_unpacking(std::string command) { unpacking_ = std::move(command); }
+
   /// Notes what another one has found.
   void Note(Link_file_warning warning) { warnings_.push_back(std::move(warning)); }
 
@@ -54,6 +57,7 @@ class Link_file_check {
 
   bool refuse_zeros_;
   std::string path_;
+  std::string unpacking_;
   std::size_t lines_seen_ = 0;
   std::size_t odd_line_ = 0;  ///< a first line whose third field is no number; 0 if there is none
   std::bitset<32> warned_;

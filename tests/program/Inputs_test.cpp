@@ -92,6 +92,12 @@ TEST_F(Inputs, ComeThroughStandardInput) {
   EXPECT_FALSE(std::filesystem::exists(temp_.Path("new")));
 }
 
+TEST_F(Inputs, AreMendedByWhatUnpacksThem) {
+  ASSERT_EQ(Run_line("printf 'source target\\na b\\n' | gzip > 'n 1'"), 0);
+  EXPECT_EQ(Run({"-i", "n 1", "-o", "out"}), 0);
+  EXPECT_NE(err_.find(": zcat 'n 1' | sed '1s/^/#/' > NEW_FILE\n"), std::string::npos) << err_;
+}
+
 TEST_F(Inputs, AreToldOfWithAWayOut) {
   struct Case {
     std::string name, contents;
