@@ -203,6 +203,21 @@ class Readers(unittest.TestCase):
             self.compare_links(run, [edge[:3] for edge in graph["edges"]])
             self.assertTrue(all({"x", "y", "color", "size"} <= node.keys() for node in graph["nodes"]))
 
+    def test_gephi(self):
+        files = [run.file("gexf") for run in self.runs]
+        says = call("java", "-Djava.awt.headless=true", "-cp", READERS / "gephi" / "*",
+                    HERE / "gephi" / "ReadGexf.java", *files)
+        for run, text in zip(self.each_run(), says.split("end\n")):
+            lines = [line.split("\t") for line in text.splitlines()]
+            found = {}
+            for name, attribute, of in (line[1:] for line in lines if line[0] == "node"):
+                k = int(attribute.removeprefix("communities_k"))
+                found.setdefault(name, {})[k] = numbers(of, rf"k{k}c(\d+)")
+            self.assertEqual(found, run.of_nodes())
+            edges = [line[1:] for line in lines if line[0] == "edge"]
+            self.assertTrue(all(edge[3] == str(run.directed).lower() for edge in edges))
+            self.compare_links(run, [(a, b, float(weight)) for a, b, weight, _ in edges])
+
     def test_ndex(self):
         for run in self.each_run():
             network = RawCX2NetworkFactory().get_cx2network(str(run.file("cx2")))

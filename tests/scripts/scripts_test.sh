@@ -49,7 +49,7 @@ bare() {
 # Folders named like programs are no programs, and files are looked for where they belong.
 run="cmake g++ ninja-build"
 java="cmake default-jdk-headless g++ ninja-build"
-ci="clang clang-format clang-tidy cmake default-jdk-headless fish g++ libclang-rt-dev llvm mandoc ninja-build nodejs npm python3 python3-venv shellcheck zsh"
+ci="clang clang-format clang-tidy cmake default-jdk-headless fish g++ libclang-rt-dev llvm mandoc maven ninja-build nodejs npm python3 python3-venv shellcheck zsh"
 while IFS='|' read -r task packages; do
   bare scripts/setup "$task" >/dev/null
   expect "setup $task" "apt-get update apt-get install -y --no-install-recommends $packages" \
