@@ -1,5 +1,6 @@
 #include "queries/Similarity.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <map>
@@ -43,11 +44,19 @@ struct Counted_cover {
     std::vector<Node> met;
     for (Node u = 1; u <= holders.Node_count(); ++u) {
       if (holders[u].size() < 2) continue;
-      for (const std::uint32_t community : holders[u])
+      // Who shares two communities with u shares one that isn't its largest, which may be huge.
+      const std::uint32_t largest = *std::ranges::max_element(
+          holders[u], {}, [this](std::uint32_t i) { return communities[i].size(); });
+      for (const std::uint32_t community : holders[u]) {
+        if (community == largest) continue;
         for (const Node v : communities[community])
           if (v > u && holders[v].size() > 1 && together[v]++ == 0) met.push_back(v);
-      for (const Node v : met)
-        if (const std::uint32_t times = std::exchange(together[v], 0); times > 1) use(u, v, times);
+      }
+      for (const Node v : met) {
+        const std::uint32_t in_largest = std::ranges::binary_search(holders[v], largest) ? 1 : 0;
+        const std::uint32_t times = std::exchange(together[v], 0) + in_largest;
+        if (times > 1) use(u, v, times);
+      }
       met.clear();
     }
   }

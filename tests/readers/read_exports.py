@@ -245,6 +245,11 @@ class Readers(unittest.TestCase):
                         approximate.add((k, number))
                 self.assertEqual(found, run.communities)
                 self.assertEqual(approximate, run.approximate)
+            says = call("Rscript", "-e", "of <- read.csv(commandArgs(TRUE)); cat(nrow(of), "
+                        "nrow(unique(of[c('k', 'community')])), sum(of$exact))", run.file("csv"))
+            members = {place: len(names) for place, names in run.communities.items()}
+            self.assertEqual(says, f"{sum(members.values())} {len(members)} " + str(
+                sum(size for place, size in members.items() if place not in run.approximate)))
             wide = pandas.read_csv(run.file("wide.csv"), dtype=str, keep_default_na=False)
             found = {}
             for row in wide.to_dict("records"):
