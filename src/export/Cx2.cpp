@@ -49,10 +49,14 @@ class Cx2 {
 
   void Declare_attributes() {
     out_ << "{\"attributeDeclarations\":[{\"nodes\":{\"name\":{\"d\":\"string\"}";
-    for (const std::uint32_t k : selection_.Ks())
+    for (std::size_t level = 0; level < selection_.Ks().size(); ++level) {
+      const std::uint32_t k = selection_.Ks()[level];
       out_ << ",\"communities_k" << k << "\":{\"d\":\"list_of_integer\"},\"memberships_k" << k
            << "\":{\"d\":\"integer\",\"v\":0},\"community_k" << k << "\":{\"d\":\"string\",\"v\":\""
            << of_none << "\"}";
+      if (memberships_.Has_approximate(level))
+        out_ << ",\"approximate_k" << k << "\":{\"d\":\"integer\",\"v\":0}";
+    }
     for (const std::string_view slice : slices)
       out_ << ",\"" << slice << "\":{\"d\":\"integer\",\"v\":1}";
     out_ << "},\"edges\":{";
@@ -84,6 +88,8 @@ class Cx2 {
          << "\":\"";
     Write_community(communities, out_);
     out_ << '"';
+    if (const std::size_t count = communities.Approximate_count(); count > 0)
+      out_ << ",\"approximate_k" << k << "\":" << count;
   }
 
   void Write_edges() {

@@ -49,6 +49,9 @@ void Write_json(const Selection& selection, Text_sink& sink);
 void Write_jsonl(const Selection& selection, Text_sink& sink);
 void Write_cdlib(const Selection& selection, Text_sink& sink);
 
+/// A node has the attributes communities_k4 (their numbers), memberships_k4 (how many) and
+/// community_k4 (a word), and approximate_k4 (how many of them) where there are approximate ones.
+
 /// What the attribute community_k4 says of a node in no community.
 constexpr std::string_view of_none = "none";
 

@@ -48,10 +48,12 @@ class Gexf {
       else
         out_ << "><default>" << without << "</default></attribute>\n";
     };
-    for (const std::uint32_t k : selection_.Ks()) {
+    for (std::size_t level = 0; level < selection_.Ks().size(); ++level) {
+      const std::uint32_t k = selection_.Ks()[level];
       declare(Attribute("communities", k), "liststring", "");
       declare(Attribute("memberships", k), "integer", "0");
       declare(Attribute("community", k), "string", of_none);
+      if (memberships_.Has_approximate(level)) declare(Attribute("approximate", k), "integer", "0");
     }
     out_ << "</attributes>\n";
   }
@@ -75,6 +77,8 @@ class Gexf {
          << "\"/><attvalue for=\"community_k" << k << "\" value=\"";
     Write_community(communities, out_);
     out_ << "\"/>";
+    if (const std::size_t count = communities.Approximate_count(); count > 0)
+      out_ << "<attvalue for=\"approximate_k" << k << "\" value=\"" << count << "\"/>";
   }
 
   void Write_look(Node node) {

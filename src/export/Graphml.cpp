@@ -43,10 +43,13 @@ class Graphml {
     };
     declare("name", "node", "string", "");
     declare("label", "node", "string", "");
-    for (const std::uint32_t k : selection_.Ks()) {
+    for (std::size_t level = 0; level < selection_.Ks().size(); ++level) {
+      const std::uint32_t k = selection_.Ks()[level];
       declare(Attribute("communities", k), "node", "string", "");
       declare(Attribute("memberships", k), "node", "int", "0");
       declare(Attribute("community", k), "node", "string", of_none);
+      if (memberships_.Has_approximate(level))
+        declare(Attribute("approximate", k), "node", "int", "0");
     }
     if (selection_.Is_weighted()) declare("weight", "edge", "double", "");
   }
@@ -64,6 +67,8 @@ class Graphml {
                << "</data><data key=\"community_k" << k << "\">";
           Write_community(communities, out_);
           out_ << "</data>";
+          if (const std::size_t count = communities.Approximate_count(); count > 0)
+            out_ << "<data key=\"approximate_k" << k << "\">" << count << "</data>";
         });
     out_ << "</node>\n";
   }

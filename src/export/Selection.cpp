@@ -19,8 +19,8 @@ Selection::Selection(vorlane::Results results, std::optional<std::uint32_t> k)
 }
 
 Memberships Selection::Memberships() const {
-  std::vector<Rows> levels;
-  for (const std::uint32_t k : ks_) levels.push_back(results_.Communities_at(k).members);
+  std::vector<Communities> levels;
+  for (const std::uint32_t k : ks_) levels.push_back(results_.Communities_at(k));
   return {Network().size(), levels};
 }
 

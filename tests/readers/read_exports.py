@@ -140,6 +140,9 @@ class Readers(unittest.TestCase):
                     single = attributes[f"community_k{k}"]
                     self.assertEqual(str(single), "overlap" if len(here) > 1 else str(here[0]))
                     self.assertEqual(int(attributes[f"memberships_k{k}"]), len(here))
+                    approximate = sum((k, number) in run.approximate for number in here)
+                    said = attributes.get(f"approximate_k{k}")
+                    self.assertEqual(0 if said is None or said != said else int(said), approximate)
         self.assertEqual(found, run.of_nodes())
 
     def compare_links(self, run, links):
