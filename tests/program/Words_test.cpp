@@ -127,6 +127,7 @@ TEST_F(ProgramWords, WhatIsWrongIsToldWithTheCure) {
       {{"query", "out", "--community", "9:0"}, 2, "no level at k = 9; the levels are those of k ="},
       {{"query", "out", "--overlap", "3:0:1:2"}, 2, "not of the form K:I:J"},
       {{"diff", "out"}, 2, "'diff' needs more than that"},
+      {{"export"}, 2, "usage: vorlane export --format FORMATS [--k K] [-o FILE] [--force] DIR"},
       {{"diff", "out", "out", "--k=7"}, 2, "no level at k = 7"},
       {{"export", "out"}, 2, "Which format? See: vorlane help export"},
       {{"export", "out", "--format", "png"}, 2, "no format 'png'; there are gexf, graphml, cx2"},

@@ -59,7 +59,8 @@ std::string Usage_of(const Word& word) {
   std::string usage = "vorlane ";
   usage.append(word.word);
   for (const Option& option : word.options) {
-    usage.append(" [").append(Form_of(option)).append("]");
+    usage.append(option.mandatory ? " " : " [").append(Form_of(option));
+    if (!option.mandatory) usage.append("]");
   }
   return usage.append(" ").append(word.arguments);
 }
