@@ -40,29 +40,29 @@ class Cx2 {
   void Write_counts() {
     out_ << "{\"metaData\":[{\"name\":\"attributeDeclarations\",\"elementCount\":1},"
             "{\"name\":\"nodes\",\"elementCount\":"
-         << selection_.Network().size()
-         << "},{\"name\":\"edges\",\"elementCount\":" << selection_.Network().Link_count()
+         << selection_.Network().size() << R"(},{"name":"edges","elementCount":)"
+         << selection_.Network().Link_count()
          << "},{\"name\":\"visualProperties\",\"elementCount\":1},"
             "{\"name\":\"nodeBypasses\",\"elementCount\":"
          << with_pies_.size() << "}]},\n";
   }
 
   void Declare_attributes() {
-    out_ << "{\"attributeDeclarations\":[{\"nodes\":{\"name\":{\"d\":\"string\"}";
+    out_ << R"({"attributeDeclarations":[{"nodes":{"name":{"d":"string"})";
     for (std::size_t level = 0; level < selection_.Ks().size(); ++level) {
       const std::uint32_t k = selection_.Ks()[level];
-      out_ << ",\"communities_k" << k << "\":{\"d\":\"list_of_integer\"},\"memberships_k" << k
-           << "\":{\"d\":\"integer\",\"v\":0},\"community_k" << k << "\":{\"d\":\"string\",\"v\":\""
+      out_ << ",\"communities_k" << k << R"(":{"d":"list_of_integer"},"memberships_k)" << k
+           << R"(":{"d":"integer","v":0},"community_k)" << k << R"(":{"d":"string","v":")"
            << of_none << "\"}";
       if (memberships_.Has_approximate(level))
-        out_ << ",\"approximate_k" << k << "\":{\"d\":\"integer\",\"v\":0}";
+        out_ << ",\"approximate_k" << k << R"(":{"d":"integer","v":0})";
     }
     for (const std::string_view slice : slices)
-      out_ << ",\"" << slice << "\":{\"d\":\"integer\",\"v\":1}";
+      out_ << ",\"" << slice << R"(":{"d":"integer","v":1})";
     out_ << "},\"edges\":{";
-    if (selection_.Is_weighted()) out_ << "\"weight\":{\"d\":\"double\"},";
-    out_ << "\"directed\":{\"d\":\"boolean\",\"v\":"
-         << (selection_.Is_directed() ? "true" : "false") << "}}}]},\n";
+    if (selection_.Is_weighted()) out_ << R"("weight":{"d":"double"},)";
+    out_ << R"("directed":{"d":"boolean","v":)" << (selection_.Is_directed() ? "true" : "false")
+         << "}}}]},\n";
   }
 
   void Write_nodes() {
@@ -70,8 +70,8 @@ class Cx2 {
     for (Node node = 1; node <= selection_.Network().size(); ++node) {
       const Point place = picture_.Place_of(node);
       out_ << (node > 1 ? ",\n" : "\n") << "{\"id\":" << node << ",\"x\":" << place.x
-           << ",\"y\":" << place.y
-           << ",\"v\":{\"name\":" << In_json{selection_.Network().Name(node)};
+           << ",\"y\":" << place.y << R"(,"v":{"name":)"
+           << In_json{selection_.Network().Name(node)};
       memberships_.For_each_level(node, [&](std::size_t level, const Memberships::At_level& of) {
         Write_memberships(selection_.Ks()[level], of);
       });
@@ -109,15 +109,15 @@ class Cx2 {
   void Write_style() {
     out_ << "{\"visualProperties\":[{\"default\":{\"node\":{\"NODE_SHAPE\":\"ellipse\","
             "\"NODE_WIDTH\":12,\"NODE_HEIGHT\":12},\"edge\":{\"EDGE_WIDTH\":1";
-    if (selection_.Is_directed()) out_ << ",\"EDGE_TARGET_ARROW_SHAPE\":\"triangle\"";
+    if (selection_.Is_directed()) out_ << R"(,"EDGE_TARGET_ARROW_SHAPE":"triangle")";
     out_ << "}},\"nodeMapping\":{\"NODE_LABEL\":{\"type\":\"PASSTHROUGH\",\"definition\":"
             "{\"attribute\":\"name\",\"type\":\"string\"}}";
     if (const auto k = selection_.Shown_k()) {
       out_ << ",\"NODE_BACKGROUND_COLOR\":{\"type\":\"DISCRETE\",\"definition\":{\"attribute\":"
               "\"community_k"
-           << *k << "\",\"type\":\"string\",\"map\":[";
+           << *k << R"(","type":"string","map":[)";
       for (std::uint32_t i = 0; i < picture_.Community_count(); ++i)
-        out_ << (i > 0 ? "," : "") << "{\"v\":\"" << i << "\",\"vp\":\""
+        out_ << (i > 0 ? "," : "") << R"({"v":")" << i << R"(","vp":")"
              << picture_.Colour_of_community(i).In_hex() << "\"}";
       out_ << "]}}";
     }
@@ -138,7 +138,7 @@ class Cx2 {
       for (std::size_t slice = 0; slice < count; ++slice)
         out_ << (slice > 0 ? ",\"" : "\"")
              << picture_.Colour_of_community(communities[slice]).In_hex() << '"';
-      out_ << "],\"cy_colorScheme\":\"CUSTOM\"}}}}";
+      out_ << R"(],"cy_colorScheme":"CUSTOM"}}}})";
     }
     out_ << "]},\n";
   }

@@ -85,7 +85,7 @@ class Gexf {
     const Point place = picture_.Place_of(node);
     const Colour colour = picture_.Colour_of(node);
     out_ << "<viz:size value=\"" << picture_.Size_of(node) << "\"/><viz:position x=\"" << place.x
-         << "\" y=\"" << place.y << "\" z=\"0\"/><viz:color r=\"" << int{colour.red} << "\" g=\""
+         << "\" y=\"" << place.y << R"(" z="0"/><viz:color r=")" << int{colour.red} << "\" g=\""
          << int{colour.green} << "\" b=\"" << int{colour.blue} << "\"/>";
   }
 

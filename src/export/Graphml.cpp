@@ -17,13 +17,13 @@ class Graphml {
             "xsi:schemaLocation=\"http://graphml.graphdrawing.org/xmlns "
             "http://graphml.graphdrawing.org/xmlns/1.0/graphml.xsd\">\n";
     Declare_keys();
-    out_ << "<graph id=\"network\" edgedefault=\""
+    out_ << R"(<graph id="network" edgedefault=")"
          << (selection_.Is_directed() ? "directed" : "undirected") << "\">\n";
     for (Node node = 1; node <= selection_.Network().size(); ++node) Write_node(node);
     selection_.For_each_link([&](Node first, Node second, double weight) {
       out_ << "<edge source=\"n" << first << "\" target=\"n" << second;
       if (selection_.Is_weighted())
-        out_ << "\"><data key=\"weight\">" << weight << "</data></edge>\n";
+        out_ << R"("><data key="weight">)" << weight << "</data></edge>\n";
       else
         out_ << "\"/>\n";
     });
@@ -56,7 +56,7 @@ class Graphml {
 
   void Write_node(Node node) {
     const In_xml name = {selection_.Network().Name(node)};
-    out_ << "<node id=\"n" << node << "\"><data key=\"name\">" << name
+    out_ << "<node id=\"n" << node << R"("><data key="name">)" << name
          << "</data><data key=\"label\">" << name << "</data>";
     memberships_.For_each_level(
         node, [&](std::size_t level, const Memberships::At_level& communities) {

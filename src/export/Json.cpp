@@ -106,7 +106,7 @@ void Write_cdlib(const Selection& selection, Text_sink& sink) {
   Write_array(selection.Results().Communities_at(k).members, sink, [&](Rows::Row members) {
     Write_array(members, sink, [&](Node node) { sink << In_json{selection.Network().Name(node)}; });
   });
-  sink << ",\"algorithm\":\"clique percolation\",\"params\":{\"k\":" << k
+  sink << R"(,"algorithm":"clique percolation","params":{"k":)" << k
        << ",\"method\":" << In_json{Name_of(selection.Results().Method())}
        << "},\"overlap\":true}\n";
 }
