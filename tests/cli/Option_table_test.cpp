@@ -14,6 +14,7 @@
 #include "cli/options/Parameters.h"
 #include "cli/options/Progress_option.h"
 #include "cli/options/Switches.h"
+#include "cli/options/Word_table.h"
 
 namespace gns {
 namespace {
@@ -86,6 +87,13 @@ TEST(OptionTable, OffersWhatIsTaken) {
       EXPECT_EQ(Formats_in(choice).size(), 1U);
     }
   EXPECT_EQ(formats.size(), All_formats().size());
+}
+
+/// What reads them takes the next word as the argument, so no form may say that it can be left out.
+TEST(OptionTable, BehindWordsArgumentsAreNeeded) {
+  for (const Word& word : All_words())
+    for (const Option& option : word.options)
+      EXPECT_EQ(option.Form().find("[="), std::string::npos) << word.word << " " << option.word;
 }
 
 /// As main does: how many words were taken.

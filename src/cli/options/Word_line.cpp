@@ -9,13 +9,6 @@ namespace gns {
 
 namespace {
 
-/// An option of a word needs its argument, and takes it with a blank, too.
-std::string Form_of(const Option& option) {
-  std::string form(option.word);
-  if (!option.argument.empty()) form.append(" ").append(option.argument);
-  return form;
-}
-
 [[noreturn]] void Refuse(const Word& word, const std::string& why) {
   throw Xerror_msg(why + "\nusage: " + Usage_of(word) + "\n");
 }
@@ -59,7 +52,7 @@ std::string Usage_of(const Word& word) {
   std::string usage = "vorlane ";
   usage.append(word.word);
   for (const Option& option : word.options) {
-    usage.append(option.mandatory ? " " : " [").append(Form_of(option));
+    usage.append(option.mandatory ? " " : " [").append(option.Form());
     if (!option.mandatory) usage.append("]");
   }
   return usage.append(" ").append(word.arguments);
@@ -73,7 +66,7 @@ std::string Help_on(const Word& word) {
   help.append(Wrapped(Without_marks(word.description), width)).append("\n");
   if (!word.options.empty()) help.append("\n");
   for (const Option& option : word.options)
-    help.append(Help_entry(Form_of(option), column, option.summary));
+    help.append(Help_entry(option.Form(), column, option.summary));
   return help;
 }
 

@@ -39,6 +39,7 @@ constexpr std::array query_options{
         .without = "",
         .description = "Tells of community I at k = K: its nodes, and the communities with which "
                        "it shares some.",
+        .needs_argument = true,
     },
     Option{
         .word = "--overlap",
@@ -48,6 +49,7 @@ constexpr std::array query_options{
         .summary = "the nodes that the communities I and J at k = K share",
         .without = "",
         .description = "Tells which nodes the communities I and J at k = K share.",
+        .needs_argument = true,
     },
 };
 
@@ -59,6 +61,7 @@ constexpr Option k_only{
     .summary = "this k only",
     .without = "all",
     .description = "Only the communities at this k; `all` is every k, as without the option.",
+    .needs_argument = true,
 };
 constexpr std::array diff_options{k_only, json, csv};
 
@@ -77,6 +80,7 @@ constexpr std::array export_options{
                        "with nodes and edges, `json`, `jsonl` with a community on a line, `cdlib`. "
                        "Must be given.",
         .mandatory = true,
+        .needs_argument = true,
     },
     k_only,
     Option{

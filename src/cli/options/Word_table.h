@@ -16,7 +16,7 @@ struct Word {
   std::string_view description;  ///< sentences
   std::size_t least_arguments = 1;
   std::size_t most_arguments = 1;
-  std::span<const Option> options = {};
+  std::span<const Option> options = {};  ///< each that has an argument needs it
 };
 
 /// The one list of all words.
