@@ -6,6 +6,7 @@
 #include "cli/options/Marked_text.h"
 #include "cli/options/Option_table.h"
 #include "cli/options/Program_facts.h"
+#include "cli/options/Word_line.h"
 #include "cli/options/Word_table.h"
 #include "vorlane/version.h"
 
@@ -159,14 +160,10 @@ std::string All_word_entries() {
                              "A first word in place of options asks for something else than a "
                              "run.");
   for (const Word& word : All_words()) {
-    text += Entry(Bold(word.word) + " \\fI" + Roff(word.arguments) + "\\fR", word.description);
-    for (const Option& option : word.options)
-      text += ".RS\n" +
-              Entry(Bold(option.word) + (option.argument.empty()
-                                             ? ""
-                                             : " \\fI" + std::string(option.argument) + "\\fR"),
-                    option.description) +
-              ".RE\n";
+    text.append(".SS ").append(word.word).append("\n");
+    text += Paragraph(std::string("`").append(Usage_of(word)).append("`")) + ".PP\n" +
+            Paragraph(word.description);
+    for (const Option& option : word.options) text += Entry(Term(option), option.description);
   }
   return text;
 }

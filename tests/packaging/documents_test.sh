@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
-# documents_test.sh manual|bash|zsh|fish DIRECTORY: tries what was made from the table of options
-# in that directory. Ends with 77 where the program is missing that would have to read it.
+# documents_test.sh manual|bash|zsh|fish DIRECTORY PROGRAM: tries what was made from the tables of
+# options and words in that directory. Ends with 77 where the program is missing that would have to
+# read it.
 set -euo pipefail
 dir=$(cd -- "$2" && pwd)
+program=$3
 temp=$(mktemp -d)
 trap 'rm -rf "$temp"' EXIT
 cd "$temp"
@@ -12,6 +14,8 @@ export HOME=$temp
 
 # shellcheck disable=SC2016 # the marks of the table
 mapfile -t options < <(sed -n 's/^| `\(-[^ [`]*\).*/\1/p' "$dir/options.md")
+mapfile -t words < <("$program" --help |
+  sed -n '/^Words in place/,/^$/s/^  \([a-z][^ ]*\) .*/\1/p')
 failures=0
 
 # expect CASE EXPECTED FOUND: lists of lines, in any order.
@@ -23,7 +27,11 @@ expect() {
 }
 lines() { printf '%s\n' "$@"; }
 
-# The manual has no fault that its readers know of, and an entry for each option.
+usage_of() { "$program" help "$1" | sed -n '1s/^Usage: //p'; }
+# Those of the word itself: a run has its own.
+options_of() { "$program" help "$1" | sed -n 's/^  \(-[^ ]*\).*/\1/p'; }
+
+# The manual has no fault that its readers know of, and an entry for each option and word.
 check_manual() {
   local readers=0
   if type -P mandoc >/dev/null; then
@@ -36,9 +44,20 @@ check_manual() {
   fi
   ((readers)) || exit 77
   expect "options of the manual" "$(lines "${options[@]}")" \
-    "$(sed -n '/^\.TP$/{n; s/\\fR.*//; s/\\fB\|\\//g; s/ $\|\[=$//; /^-/p}
-      /^\.SH WORDS/q' "$dir/vorlane.1")"
+    "$(sed -n '/^\.SH OPTIONS/,/^\.SH WORDS/p' "$dir/vorlane.1" | terms)"
+  expect "words of the manual" "$(lines "${words[@]}")" \
+    "$(sed -n '/^\.SH WORDS/,/^\.SH ENV/s/^\.SS //p' "$dir/vorlane.1")"
+  local word section
+  for word in "${words[@]}"; do
+    section=$(sed -n "/^\.SS $word\$/,/^\.S[HS]/p" "$dir/vorlane.1")
+    expect "options of $word" "$(options_of "$word")" "$(terms <<<"$section")"
+    section=$(tr '\n' ' ' <<<"$section" | sed 's/\\f[BRI]//g; s/\\//g')
+    [[ $section == *" $(usage_of "$word") .PP "* ]] || expect "usage of $word" "" "$section"
+  done
 }
+
+# The options that entries of a manual are about.
+terms() { sed -n '/^\.TP$/{n; s/\\f[BRI]\|\\//g; s/[ [].*//; /^-/p}'; }
 
 # completed WORD...: what bash offers in place of the last word.
 completed() {
