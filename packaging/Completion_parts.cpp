@@ -1,11 +1,22 @@
 #include "packaging/Completion_parts.h"
 
 #include "cli/options/Marked_text.h"
+#include "export/Formats.h"
 
 namespace gns {
 
-std::string Headline(const Option& option) {
-  return Without_marks(option.summary.substr(0, option.summary.find_first_of(":;")));
+bool Is_of_runs(const Word& word) { return word.word == "run"; }
+
+std::span<const Option> Options_behind(const Word& word) {
+  return Is_of_runs(word) ? All_options() : word.options;
+}
+
+bool Takes_next_word(const Option& option) {
+  return !option.argument.empty() && (option.needs_argument || !option.Is_long());
+}
+
+std::string Headline(std::string_view summary) {
+  return Without_marks(summary.substr(0, summary.find_first_of(":;")));
 }
 
 std::string Joined(const std::vector<std::string_view>& words, std::string_view between) {
@@ -14,10 +25,36 @@ std::string Joined(const std::vector<std::string_view>& words, std::string_view 
   return text;
 }
 
+std::string Names_of_words(std::string_view between) {
+  std::vector<std::string_view> names;
+  for (const Word& word : All_words()) names.push_back(word.word);
+  return Joined(names, between);
+}
+
+std::string Names_of(std::span<const Option> options, std::string_view between,
+                     const std::function<bool(const Option&)>& holds) {
+  std::vector<std::string_view> names;
+  for (const Option& option : options)
+    if (holds(option)) names.push_back(option.word);
+  return Joined(names, between);
+}
+
+std::string Filled(std::string script,
+                   std::initializer_list<std::pair<std::string_view, std::string>> parts) {
+  for (const auto& [name, part] : parts) {
+    const std::string mark = std::string("@").append(name).append("@");
+    for (std::size_t at = 0; (at = script.find(mark, at)) != std::string::npos; at += part.size())
+      script.replace(at, mark.size(), part);
+  }
+  return script;
+}
+
 std::string Choices_of(const Option& option) {
   std::vector<std::string_view> choices;
   for (const std::string_view choice : option.choices)
     if (!choice.empty()) choices.push_back(choice);
+  if (choices.empty() && option.kind == Option::Argument::formats)
+    for (const auto& format : vorlane::exporting::All_formats()) choices.push_back(format.name);
   return Joined(choices, " ");
 }
 

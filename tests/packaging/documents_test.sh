@@ -5,6 +5,7 @@
 set -euo pipefail
 dir=$(cd -- "$2" && pwd)
 program=$3
+tests=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")" && pwd)
 temp=$(mktemp -d)
 trap 'rm -rf "$temp"' EXIT
 cd "$temp"
@@ -16,6 +17,8 @@ export HOME=$temp
 mapfile -t options < <(sed -n 's/^| `\(-[^ [`]*\).*/\1/p' "$dir/options.md")
 mapfile -t words < <("$program" --help |
   sed -n '/^Words in place/,/^$/s/^  \([a-z][^ ]*\) .*/\1/p')
+formats=$({ "$program" export --format none . 2>&1 || true; } |
+  sed 's/.* there are //; s/\.$//; s/, /\n/g')
 failures=0
 
 # expect CASE EXPECTED FOUND: lists of lines, in any order.
@@ -30,6 +33,7 @@ lines() { printf '%s\n' "$@"; }
 usage_of() { "$program" help "$1" | sed -n '1s/^Usage: //p'; }
 # Those of the word itself: a run has its own.
 options_of() { "$program" help "$1" | sed -n 's/^  \(-[^ ]*\).*/\1/p'; }
+options_behind() { if [[ $1 == run ]]; then lines "${options[@]}"; else options_of "$1"; fi; }
 
 # The manual has no fault that its readers know of, and an entry for each option and word.
 check_manual() {
@@ -59,53 +63,89 @@ check_manual() {
 # The options that entries of a manual are about.
 terms() { sed -n '/^\.TP$/{n; s/\\f[BRI]\|\\//g; s/[ [].*//; /^-/p}'; }
 
-# completed WORD...: what bash offers in place of the last word.
-completed() {
+# completed_by_SHELL WORD...: what the shell offers in place of the last word, names as they are,
+# the last of a list alone.
+completed_by_bash() {
   COMP_WORDS=(vorlane "$@") COMP_CWORD=$#
   # shellcheck disable=SC2034 # read by the function
   COMPREPLY=()
   "$(complete -p vorlane | sed 's/.* -F \([^ ]*\) .*/\1/')"
   lines "${COMPREPLY[@]}"
 }
+completed_by_fish() {
+  fish --no-config -c "source '$dir/vorlane.fish'; complete -C 'vorlane $*'" |
+    cut -f1 | sed 's:/$::'
+}
+completed_by_zsh() {
+  zsh -f "$tests/zsh_completed.zsh" "$dir" "vorlane $*" | sed 's/\\//g'
+}
+
+# check_completion SHELL: what all shells offer alike.
+check_completion() {
+  local completed=completed_by_$1 word
+  # "--progress=" is what fish has in mind for its argument.
+  offered() { "$completed" "$@" | sed '/=$/d; s/.*,//'; }
+  # Directories; some shells have options beside them.
+  places() { offered "$@" | sed '/^-/d'; }
+
+  expect "first words" "$(lines "${words[@]}")" "$(places '')"
+  expect "options without a word" "$(lines "${options[@]}")" "$(offered -)"
+  for word in "${words[@]}"; do
+    expect "options of $word" "$(options_behind "$word")" \
+      "$(offered "$word" - | sed -n '/^-/p')"
+  done
+  expect "no word behind options" "" "$(places -D '')"
+  expect "words to explain" "$(lines "${words[@]}")" "$(places help '')"
+  expect "one is explained" "" "$(places help run '')"
+
+  expect "files" "$(lines links.txt "link dir" "link file")" "$(offered -i link)"
+  expect "directories" "link dir" "$(offered -o '')"
+  expect "no file is a number" "" "$(offered -k '')"
+  expect "no directory is a k" "" "$(offered export --k '')"
+  expect "directories of a run" "link dir" "$(offered run -o '')"
+  expect "files of an export" "$(offered -i link)" "$(offered export -o link)"
+  expect "formats of input" graphml "$(offered run --format g)"
+  expect "formats of export" "$formats" "$(offered export --format '')"
+  expect "formats that begin so" "$(grep '^c' <<<"$formats")" "$(offered export --format gexf,c)"
+  expect "formats with a run" "$(lines csv csv-wide cx2)" "$(offered --export gexf,c)"
+
+  expect "results" "link dir" "$(places summary '')"
+  expect "one directory" "" "$(places summary other '')"
+  expect "two directories" "link dir" "$(places diff other '')"
+  expect "no third one" "" "$(places diff other other '')"
+  expect "many directories" "link dir" "$(places which-k other other '')"
+  expect "a node is no directory" "" "$(places query other '')"
+  expect "arguments of options don't count" "link dir" "$(places export --k 3 --force -o other '')"
+}
 
 check_bash() {
   bash -n "$dir/vorlane.bash"
   # shellcheck disable=SC1091 # made by the build
   source "$dir/vorlane.bash"
-  expect "all options" "$(lines "${options[@]}")" "$(completed -)"
-  expect "files" "$(lines links.txt "link dir" "link file")" "$(completed -i link)"
-  expect "directories" "link dir" "$(completed -i links.txt -o '')"
-  expect "no file is a number" "" "$(completed -k '')"
-  expect "a word of an option" "--progress" "$(completed --pr)"
+  check_completion bash
+  expect "a word of an option" "--progress" "$(completed_by_bash --pr)"
   expect "what is left" "$(lines "${options[@]}" | sed '/^-[iD]$/d')" \
-    "$(completed -i links.txt -D '')"
-  expect "words, = apart" "$(lines json none)" "$(completed --progress =)"
-  expect "a word, = apart" "json" "$(completed --progress = j)"
-  expect "a word, = inside" "--progress=json" "$(completed --progress=j)"
-}
-
-# fish_completed LINE: what fish offers at the end of the line.
-fish_completed() {
-  fish --no-config -c "source '$dir/vorlane.fish'; complete -C '$1'" | cut -f1
+    "$(completed_by_bash -i links.txt -D '')"
+  expect "words, = apart" "$(lines json none)" "$(completed_by_bash --progress =)"
+  expect "a word, = apart" "json" "$(completed_by_bash --progress = j)"
+  expect "a word, = inside" "--progress=json" "$(completed_by_bash --progress=j)"
+  expect "a list, = inside" "--format=csv,gexf" "$(completed_by_bash export --format=csv,ge)"
+  expect "a directory, = apart" "link dir" "$(completed_by_bash export --k = 3 l)"
 }
 
 check_fish() {
   type -P fish >/dev/null || exit 77
   fish --no-execute "$dir/vorlane.fish"
-  expect "all options" "$(lines "${options[@]}" --progress=)" "$(fish_completed 'vorlane -')"
-  expect "files" "$(lines links.txt "link file" "link dir/")" "$(fish_completed 'vorlane -i link')"
-  expect "directories" "link dir/" "$(fish_completed 'vorlane -o ')"
-  expect "no file is a number" "" "$(fish_completed 'vorlane -k ')"
-  expect "words" "$(lines --progress=json --progress=none)" \
-    "$(fish_completed 'vorlane --progress=')"
+  check_completion fish
+  expect "words" "$(lines --progress=json --progress=none)" "$(completed_by_fish --progress=)"
+  expect "a list behind =" "--format=csv,gexf" "$(completed_by_fish export --format=csv,ge)"
 }
 
 check_zsh() {
   type -P zsh >/dev/null || exit 77
   zsh -n "$dir/_vorlane"
-  # Stands for what would do the work, and shows what it is told.
-  expect "all options" "$(lines "${options[@]}")" \
-    "$(zsh -fc '_arguments() { print -rl -- $@ }; source $0' "$dir/_vorlane" | sed 's/=*-*\[.*//')"
+  check_completion zsh
+  expect "words" "$(lines json none)" "$(completed_by_zsh --progress=)"
 }
 
 case $1 in

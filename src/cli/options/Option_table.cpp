@@ -85,7 +85,7 @@ constexpr std::array options{
     Option{
         .word = "--export",
         .argument = "FORMATS",
-        .kind = Argument::words,
+        .kind = Argument::formats,
         .group = Group::files,
         .summary = "exports the results as well, in formats of other programs: gexf, graphml, cx2, "
                    "csv, json and others (`vorlane help export`)",

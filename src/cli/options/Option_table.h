@@ -13,7 +13,8 @@ namespace gns {
 ///
 /// Texts mark by backquotes what is to be typed.
 struct Option {
-  enum class Argument { none, file, directory, number, words };
+  /// `formats` are names of formats that can be exported, with commas between them.
+  enum class Argument { none, file, directory, number, words, formats };
   enum class Group { files, search, display };
 
   std::string_view word;      ///< with its dashes
@@ -26,7 +27,7 @@ struct Option {
 
   /// What people call it, for guesses at a word that there isn't.
   std::array<std::string_view, 3> names = {};
-  /// Arguments worth offering, of the kind `words`.
+  /// Arguments worth offering, of the kind `words`; of `formats` too, if it isn't all.
   std::array<std::string_view, 8> choices = {};
   bool mandatory = false;
   bool needs_argument = false;  ///< of a long word

@@ -2,13 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace gns {
 
 namespace {
-
-constexpr std::size_t any = std::numeric_limits<std::size_t>::max();
 
 constexpr Option json{
     .word = "--json",
@@ -33,7 +30,7 @@ constexpr std::array query_options{
     Option{
         .word = "--community",
         .argument = "K:I",
-        .kind = Option::Argument::words,
+        .kind = Option::Argument::number,
         .group = Option::Group::display,
         .summary = "the community I at k = K: its nodes, and the communities that it overlaps with",
         .without = "",
@@ -44,7 +41,7 @@ constexpr std::array query_options{
     Option{
         .word = "--overlap",
         .argument = "K:I:J",
-        .kind = Option::Argument::words,
+        .kind = Option::Argument::number,
         .group = Option::Group::display,
         .summary = "the nodes that the communities I and J at k = K share",
         .without = "",
@@ -69,10 +66,11 @@ constexpr std::array export_options{
     Option{
         .word = "--format",
         .argument = "FORMATS",
-        .kind = Option::Argument::words,
+        .kind = Option::Argument::formats,
         .group = Option::Group::display,
-        .summary = "gexf (for Gephi), graphml (igraph, networkx), cx2 (Cytoscape), csv, tsv, "
-                   "csv-wide, tsv-wide, tables (nodes and edges), json, jsonl, cdlib",
+        .summary =
+            "the formats: gexf (for Gephi), graphml (igraph, networkx), cx2 (Cytoscape), csv, tsv, "
+            "csv-wide, tsv-wide, tables (nodes and edges), json, jsonl, cdlib",
         .without = "",
         .description = "In which formats: `gexf` for Gephi, `graphml` for igraph and networkx, "
                        "`cx2` for Cytoscape, `csv` and `tsv` with a line for each node of a "
@@ -111,7 +109,9 @@ constexpr std::array words{
         .arguments = "-i FILE [OPTION]...",
         .summary = "finds communities, as without a word",
         .description = "Finds communities, as the program does without a word.",
-        .most_arguments = any,
+        .most_arguments = Word::any,
+        .kind = Option::Argument::none,
+        .of_kind = 0,
     },
     Word{
         .word = "summary",
@@ -130,8 +130,9 @@ constexpr std::array words{
             "giant community swallows the others. Of several directories, results at different "
             "thresholds for example, also which one. It sees sizes only; what the communities mean "
             "is for people to say.",
-        .most_arguments = any,
+        .most_arguments = Word::any,
         .options = json_only,
+        .of_kind = Word::any,
     },
     Word{
         .word = "query",
@@ -139,7 +140,7 @@ constexpr std::array words{
         .summary = "the communities of nodes, or what is in a community",
         .description = "Tells in which communities each NODE is, at every k; with an option, what "
                        "is in a community.",
-        .most_arguments = any,
+        .most_arguments = Word::any,
         .options = query_options,
     },
     Word{
@@ -164,6 +165,7 @@ constexpr std::array words{
         .least_arguments = 2,
         .most_arguments = 2,
         .options = diff_options,
+        .of_kind = 2,
     },
     Word{
         .word = "export",
@@ -180,6 +182,7 @@ constexpr std::array words{
         .summary = "explains a word, or lists them",
         .description = "Explains a word and its options; without one, as `--help`.",
         .least_arguments = 0,
+        .kind = Option::Argument::words,
     },
 };
 

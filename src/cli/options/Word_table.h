@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <span>
 #include <string_view>
 
@@ -10,6 +11,8 @@ namespace gns {
 /// A word that may stand behind the program's name and tells it to do something other than a run.
 /// Texts as in the table of options.
 struct Word {
+  static constexpr std::size_t any = std::numeric_limits<std::size_t>::max();
+
   std::string_view word;
   std::string_view arguments;    ///< what follows, in a usage: "DIR NODE..."
   std::string_view summary;      ///< no sentence, a line
@@ -17,6 +20,9 @@ struct Word {
   std::size_t least_arguments = 1;
   std::size_t most_arguments = 1;
   std::span<const Option> options = {};  ///< each that has an argument needs it
+  /// What the first arguments are, and how many of them; `words` are those of this list.
+  Option::Argument kind = Option::Argument::directory;
+  std::size_t of_kind = 1;
 };
 
 /// The one list of all words.
