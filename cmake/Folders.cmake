@@ -44,7 +44,8 @@ function(vorlane_folder name)
   target_link_libraries(folder_${name} PRIVATE ${arg_LINKED})
 
   set(VORLANE_FOLDERS ${VORLANE_FOLDERS} ${name} CACHE INTERNAL "")
-  if(NOT PROJECT_IS_TOP_LEVEL)
+  # Whether they link is the same in every build; those of the checks have enough to do.
+  if(NOT PROJECT_IS_TOP_LEVEL OR VORLANE_SANITIZE OR VORLANE_COVERAGE)
     return()
   endif()
   vorlane_objects(objects ${name})
