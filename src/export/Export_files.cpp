@@ -73,22 +73,22 @@ std::vector<std::pair<std::string, Selection>> Parts(const Export_order& order,
   return parts;
 }
 
+void Append_files(const Format& format, const std::string& stem, std::vector<std::string>& files) {
+  for (const Format_file& file : format.files) files.push_back(stem + std::string(file.ending));
+}
+
 }  // namespace
 
 std::vector<std::string> Files_of(const Export_order& order, const Selection& selection) {
   std::vector<std::string> files;
-  for (const auto& [stem, part] : Parts(order, selection))
-    for (const Format_file& file : order.format->files)
-      files.push_back(stem + std::string(file.ending));
+  for (const auto& [stem, part] : Parts(order, selection)) Append_files(*order.format, stem, files);
   if (files.size() == 1 && !order.file.empty()) files[0] = order.file;
   return files;
 }
 
 std::vector<std::string> Files_of(const Export_order& order) {
   std::vector<std::string> files;
-  if (order.format->one_k) return files;
-  for (const Format_file& file : order.format->files)
-    files.push_back(order.stem + std::string(file.ending));
+  if (!order.format->one_k) Append_files(*order.format, order.stem, files);
   return files;
 }
 

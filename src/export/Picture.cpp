@@ -6,6 +6,8 @@
 #include <numbers>
 #include <numeric>
 
+#include "queries/Shared_nodes.h"
+
 namespace vorlane::exporting {
 
 namespace {
@@ -104,10 +106,7 @@ std::string Colour::In_hex() const {
 Picture::Picture(const Selection& selection) {
   const auto k = selection.Shown_k();
   const Rows communities = k ? selection.Results().Communities_at(*k).members : Rows();
-  holders_ = gns::Row_index(selection.Network().size(), [&](auto enter) {
-    for (std::uint32_t i = 0; i < communities.size(); ++i)
-      for (const Node node : communities[i]) enter(node, i);
-  });
+  holders_ = queries::Holders(selection.Network().size(), communities);
   Rank(communities);
   Place(communities);
 }

@@ -127,26 +127,46 @@ double Entropy(const Entropies& entropies, const Rows& communities) {
   return sum;
 }
 
+/// The different sizes of communities, ascending, and how many have each.
+struct Sizes {
+  explicit Sizes(const Rows& communities) {
+    std::vector<std::size_t> all;
+    for (const auto community : communities) all.push_back(community.size());
+    std::ranges::sort(all);
+    for (const std::size_t size : all) {
+      if (sizes.empty() || sizes.back() != size) {
+        sizes.push_back(size);
+        counts.push_back(0);
+      }
+      ++counts.back();
+    }
+  }
+  [[nodiscard]] std::size_t Place_of(std::size_t size) const {
+    return static_cast<std::size_t>(std::ranges::lower_bound(sizes, size) - sizes.begin());
+  }
+  std::vector<std::size_t> sizes;
+  std::vector<std::size_t> counts;
+};
+
 /// Of the communities, each given the one of the others that tells most of it. All that are apart
 /// from it and of one size tell the same.
 double Entropy_given(const Entropies& entropies, Node node_count, const Rows& communities,
                      const Rows& others) {
   Shared_nodes shared_nodes(node_count, others);
-  std::map<std::size_t, std::size_t> of_size;
-  for (const auto other : others) ++of_size[other.size()];
+  const Sizes all(others);
+  std::vector<std::size_t> met(all.sizes.size());
   double sum = 0;
-  std::map<std::size_t, std::size_t> met_of_size;
   for (const auto community : communities) {
     double least = entropies.Of(community.size());
-    met_of_size.clear();
+    std::ranges::fill(met, 0);
     shared_nodes.For_each(community, [&](std::uint32_t other, std::uint32_t shared) {
       const std::size_t size = others[other].size();
-      ++met_of_size[size];
+      ++met[all.Place_of(size)];
       least = std::min(least, entropies.Given(community.size(), size, shared));
     });
-    for (const auto& [size, count] : of_size)
-      if (count > met_of_size[size])
-        least = std::min(least, entropies.Given(community.size(), size, 0));
+    for (std::size_t i = 0; i < met.size(); ++i)
+      if (all.counts[i] > met[i])
+        least = std::min(least, entropies.Given(community.size(), all.sizes[i], 0));
     sum += least;
   }
   return sum;
