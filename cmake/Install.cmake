@@ -39,7 +39,9 @@ install(FILES ${documents}/vorlane.fish
         DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/README.md
               ${PROJECT_SOURCE_DIR}/docs/file-formats.md ${PROJECT_SOURCE_DIR}/docs/inputs.md
+              ${PROJECT_SOURCE_DIR}/docs/tutorial.md
         DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/schemas DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # The two stand in one folder, where the jar looks for its library.
 if(TARGET vorlane_java)
