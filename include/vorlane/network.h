@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "vorlane/control.h"
 #include "vorlane/error.h"
@@ -21,6 +22,12 @@ struct Link_options {
   bool weighted = false;
   std::optional<double> min_weight;  ///< a link at or below it is left out, each by itself
   std::optional<double> max_weight;  ///< a link at or above it is left out, each by itself
+  /// Of files: "links", "csv", "tsv", "graphml", "pajek", "matrix" or "metis"; empty: by the
+  /// ending.
+  std::string format;
+  /// Of csv and tsv: the columns of both names and, if there is one, the weight; by their names in
+  /// the first line or their numbers from 1. Empty: told by well-known names, else the first ones.
+  std::vector<std::string> columns;
 };
 
 /// Nodes and links between them. Never changes, is cheap to copy, and may be used by any number of
@@ -49,7 +56,7 @@ class VORLANE_API Network {
   [[nodiscard]] const Link_options& How_taken() const;
 
   /// The name of a node, in UTF-8 if the input was; empty for 0 and beyond size(). Of a network
-  /// from numbers, the number in decimals. Valid as long as a copy of the network.
+  /// from numbers without names, the number in decimals. Valid as long as a copy of the network.
   [[nodiscard]] std::string_view Name(Node node) const;
   /// The node of this name, if there is one. Logarithmic; the first call sorts.
   [[nodiscard]] std::optional<Node> Find(std::string_view name) const;
@@ -78,6 +85,9 @@ class VORLANE_API Network::Builder {
   explicit Builder(const Link_options& options = {});
   /// For links between numbers from 1 to `count`.
   Builder(Node count, const Link_options& options);
+  /// For links between numbers from 1 to names.size(), where i has the name `names[i - 1]`, of any
+  /// bytes. Nodes of one name stay apart, but can't be written to a directory.
+  Builder(std::span<const std::string_view> names, const Link_options& options);
   ~Builder();
   Builder(Builder&&) noexcept;
   Builder& operator=(Builder&&) noexcept;

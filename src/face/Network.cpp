@@ -33,6 +33,15 @@ Network Network_of(gns::Link_map links, const Link_options& options,
   return Network(std::move(body));
 }
 
+namespace {
+
+gns::Format Format_of(const std::string& name) {
+  if (const auto format = gns::Format_named(name)) return *format;
+  throw Error(Error_kind::parameters,
+              "There is no format '" + name + "'; it is one of " + gns::Format_names() + ".");
+}
+
+}  // namespace
 }  // namespace face
 
 Network::Network() : body_(std::make_shared<const Body>()) {}
@@ -51,6 +60,8 @@ Network Network::Read(const std::string& path, const Link_options& options,
     gns::Link_map links;
     gns::Link_file_check unheard;
     gns::Input_wishes wishes;
+    if (!taken.format.empty()) wishes.format = face::Format_of(taken.format);
+    wishes.columns = taken.columns;
     wishes.directed = taken.directed;
     gns::Read_network_file(path, wishes, rule, links, unheard);
     return face::Network_of(std::move(links), taken);

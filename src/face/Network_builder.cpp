@@ -7,6 +7,7 @@
 #include "face/Errors_of_face.h"
 #include "face/Network_body.h"
 #include "graph/Link_map.h"
+#include "graph/Name_table.h"
 #include "graph/Numbered_links.h"
 #include "input/Link_file_reader.h"
 #include "vorlane/network.h"
@@ -27,8 +28,9 @@ void Check_weight(double weight, std::size_t place) {
 
 /// One of the two ways of collecting links is in use.
 struct Network::Builder::Inside {
-  explicit Inside(const Link_options& how, std::optional<Node> count_of_numbers)
-      : options(how), count(count_of_numbers) {
+  explicit Inside(const Link_options& how, std::optional<Node> count_of_numbers,
+                  std::optional<gns::Name_table> names_of_numbers = std::nullopt)
+      : options(how), count(count_of_numbers), called(std::move(names_of_numbers)) {
     options.weighted = options.weighted || options.min_weight || options.max_weight;
     Empty();
   }
@@ -58,7 +60,8 @@ struct Network::Builder::Inside {
   }
 
   Link_options options;
-  std::optional<Node> count;  ///< of numbers; nothing if links are between names
+  std::optional<Node> count;              ///< of numbers; nothing if links are between names
+  std::optional<gns::Name_table> called;  ///< what numbers are called; nothing: their decimals
   gns::Link_map_builder names{false};
   gns::Numbered_links numbers{0, false};
   std::size_t added = 0;
@@ -68,6 +71,14 @@ Network::Builder::Builder(const Link_options& options)
     : inside_(std::make_unique<Inside>(options, std::nullopt)) {}
 Network::Builder::Builder(Node count, const Link_options& options)
     : inside_(std::make_unique<Inside>(options, count)) {}
+Network::Builder::Builder(std::span<const std::string_view> names, const Link_options& options) {
+  face::With_errors(Error_kind::input, [&] {
+    gns::Name_table called;
+    for (const std::string_view name : names) called.Add(name);
+    inside_ = std::make_unique<Inside>(options, called.size(), std::move(called));
+    return true;
+  });
+}
 Network::Builder::~Builder() = default;
 Network::Builder::Builder(Builder&&) noexcept = default;
 Network::Builder& Network::Builder::operator=(Builder&&) noexcept = default;
@@ -114,7 +125,9 @@ Network Network::Builder::Build() {
   const external_control::Control_in_use in_use(control.Inside().run);
   return face::With_errors(Error_kind::input, [&] {
     std::vector<Node> number_of_name;
-    gns::Link_map links = in.count ? in.numbers.Build(number_of_name) : in.names.Build();
+    gns::Link_map links = in.count
+                              ? in.numbers.Build(number_of_name, in.called ? &*in.called : nullptr)
+                              : in.names.Build();
     in.Empty();
     return face::Network_of(std::move(links), in.options, std::move(number_of_name));
   });

@@ -1,7 +1,10 @@
 #include "graph/Numbered_links.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <numeric>
+#include <string_view>
 #include <utility>
 
 #include "control/Run_control.h"
@@ -10,14 +13,17 @@ namespace gns {
 
 namespace {
 
-/// Calls use(number) for the numbers from 1 to `count` in the order of their decimals as texts.
+/// Calls use(number, text) for the numbers from 1 to `count` in the order of their decimals as
+/// texts.
 template <typename Use>
-void For_each_in_order_of_texts(Node_index count, Use use) {
+void For_each_in_order_of_decimals(Node_index count, Use use) {
   constexpr std::uint64_t base = 10;
   std::uint64_t number = 1;
   for (Node_index left = count; left > 0; --left) {
-    external_control::Check_inside_long_stage();
-    use(static_cast<Node_index>(number));
+    constexpr std::size_t most_digits = 10;
+    std::array<char, most_digits> text{};
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+    use(static_cast<Node_index>(number), std::string_view(text.data(), end));
     if (number * base <= count) {
       number *= base;
       continue;
@@ -27,9 +33,18 @@ void For_each_in_order_of_texts(Node_index count, Use use) {
   }
 }
 
+/// The same for the names that the numbers are called by.
+template <typename Use>
+void For_each_in_order_of_names(const Name_table& called, Use use) {
+  std::vector<Node_index> numbers(called.size());
+  std::iota(numbers.begin(), numbers.end(), Node_index{1});
+  std::ranges::stable_sort(numbers, {}, [&](Node_index number) { return called[number - 1]; });
+  for (const Node_index number : numbers) use(number, called[number - 1]);
+}
+
 }  // namespace
 
-Link_map Numbered_links::Build(std::vector<Node_index>& number_of_name) {
+Link_map Numbered_links::Build(std::vector<Node_index>& number_of_name, const Name_table* called) {
   constexpr Node_index none = ~Node_index{0};
   std::vector<Node_index> name_of_number(count_ + std::size_t{1}, none);
   for (const Index_pair& pair : pairs_)
@@ -37,14 +52,16 @@ Link_map Numbered_links::Build(std::vector<Node_index>& number_of_name) {
 
   Name_table names;
   number_of_name.clear();
-  For_each_in_order_of_texts(count_, [&](Node_index number) {
+  const auto take = [&](Node_index number, std::string_view text) {
+    external_control::Check_inside_long_stage();
     if (name_of_number[number] == none) return;  // no link has it
-    constexpr std::size_t most_digits = 10;
-    std::array<char, most_digits> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
-    name_of_number[number] = names.Add({text.data(), static_cast<std::size_t>(end - text.data())});
+    name_of_number[number] = names.Add(text);
     number_of_name.push_back(number);
-  });
+  };
+  if (called)
+    For_each_in_order_of_names(*called, take);
+  else
+    For_each_in_order_of_decimals(count_, take);
   for (Index_pair& pair : pairs_) pair = {name_of_number[pair.first], name_of_number[pair.second]};
   return Link_map::From_numbers(std::move(names), std::move(pairs_), std::move(weights_));
 }

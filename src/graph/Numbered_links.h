@@ -3,12 +3,13 @@
 #include <vector>
 
 #include "graph/Link_map.h"
+#include "graph/Name_table.h"
 #include "graph/Node_set.h"
 
 namespace gns {
 
 /// Collects links between numbers from 1 to a count, in any order, and makes of them the Link_map
-/// that they are if each number is written in decimals.
+/// that they are if each number is written in decimals, or called by a name.
 class Numbered_links {
  public:
   /// Weights as of Link_map_builder.
@@ -21,8 +22,10 @@ class Numbered_links {
   }
 
   /// Sorts and folds what was added; the collection is spent. `number_of_name` becomes, for each
-  /// name of the map by its place, the number. Polls as a long stage does.
-  Link_map Build(std::vector<Node_index>& number_of_name);
+  /// name of the map by its place, the number. `called`, unless null, has as many names as there
+  /// are numbers: number i is called (*called)[i - 1]. Those of one name stay apart and come in
+  /// ascending order. Polls as a long stage does.
+  Link_map Build(std::vector<Node_index>& number_of_name, const Name_table* called = nullptr);
 
  private:
   Node_index count_;
