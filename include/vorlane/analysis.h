@@ -93,8 +93,9 @@ class VORLANE_API Analysis {
   /// asked for. Nothing behind the last. What it holds outlives the analysis.
   std::optional<Level> Next();
 
+  struct Inside;  ///< for the library itself
+
  private:
-  struct Inside;
   std::unique_ptr<Inside> inside_;
 };
 

@@ -65,6 +65,12 @@ class VORLANE_API Results {
   /// such node.
   [[nodiscard]] std::optional<std::vector<Place>> Places_of(std::string_view name) const;
 
+  /// Writes what Find() has found into a directory, as a Results_writer does and with its errors;
+  /// levels are found once more for it. Of a directory's results it throws an Error of kind
+  /// `parameters`. Not to be used by several threads into one directory.
+  void Write(const std::string& directory, const std::string& source,
+             const Control& control = {}) const;
+
   struct Body;  ///< for the library itself
   explicit Results(std::shared_ptr<const Body> body);
 
@@ -77,6 +83,10 @@ class VORLANE_API Results {
 /// All at once: the cliques and all levels of a network, in memory. Throws as an Analysis.
 VORLANE_API Results Find(const Network& network, const Options& options = {},
                          const Control& control = {});
+/// The same, written to a directory as it is found, as by a Results_writer.
+VORLANE_API Results Find_and_write(const Network& network, const Options& options,
+                                   const std::string& directory, const std::string& source,
+                                   const Control& control = {});
 
 /// Writes a results directory: the same files, byte by byte, as the program writes for the same
 /// links and options. Needs levels with links (Options::links). Not for several threads.

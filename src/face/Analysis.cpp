@@ -4,10 +4,7 @@
 #include <utility>
 
 #include "engine/Find_level.h"
-#include "engine/Levels.h"
-#include "engine/Work_of_levels.h"
-#include "face/Control_body.h"
-#include "face/Errors_of_face.h"
+#include "face/Analysis_inside.h"
 #include "face/Level_of_face.h"
 #include "face/Network_body.h"
 #include "face/Views.h"
@@ -35,86 +32,76 @@ void Check(const Network& network, const Options& options) {
 
 }  // namespace
 
-struct Analysis::Inside {
-  Inside(Network of, const Options& asked, Control by)
-      : network(std::move(of)), options(asked), control(std::move(by)) {
-    Check(network, options);
-  }
+Analysis::Inside::Inside(Network of, const Options& asked, Control by)
+    : network(std::move(of)), options(asked), control(std::move(by)) {
+  Check(network, options);
+}
 
-  /// Does a part of the work; nothing goes on behind a part that failed.
-  template <typename Work>
-  auto Go_on(Work part) {
-    if (failed) throw Error(Error_kind::parameters, "This analysis ended with an error before.");
-    const external_control::Control_in_use in_use(control.Inside().run);
-    failed = true;
-    auto result = face::With_errors(Error_kind::other, part);
-    failed = false;
-    return result;
-  }
+bool Analysis::Inside::Can_leave_out_cliques() const {
+  return options.k && !options.time_limit && !options.intensity && !needs_all_cliques &&
+         !network.How_taken().directed;
+}
 
-  void Search() {
-    const gns::Named_graph& graph = network.Inside()->graph;
-    external_control::This_control().progress.Reset();
-    external_control::This_control().work_done.Begin(0);
-    auto all = std::make_shared<gns::Clique_vector>();
-    if (options.k && !graph.directed && !options.time_limit && !options.intensity) {
-      gns::Clique_find_of_size_ec(*all, graph.vertices, *options.k);
-      cliques.exact_count = all->size();
-    } else {
-      Search_all(graph, *all);
-    }
-    found = std::move(all);
-    cliques.members = face::View_of(*found, found);
-    largest = gns::Max_clique_size_in_cl_vec(*found);
-    next_k = options.k.value_or(largest);
+void Analysis::Inside::Search() {
+  const gns::Named_graph& graph = network.Inside()->graph;
+  external_control::This_control().progress.Reset();
+  external_control::This_control().work_done.Begin(0);
+  auto all = std::make_shared<gns::Clique_vector>();
+  if (Can_leave_out_cliques()) {
+    gns::Clique_find_of_size_ec(*all, graph.vertices, *options.k);
+    cliques.exact_count = all->size();
+  } else {
+    Search_all(graph, *all);
   }
+  Have(std::move(all));
+}
 
-  void Search_all(const gns::Named_graph& graph, gns::Clique_vector& all) {
-    const gns::Time_limit limit = {options.time_limit.value_or(0)};
-    gns::Overlap_matrix view;
-    bool approximation_needed = false;
-    std::uint32_t exact_count = 0;
-    gns::Find_cliques_ec(options.time_limit ? &limit : nullptr, graph.directed, all, view,
-                         graph.directed_vertices, graph.vertices, exact_count,
-                         approximation_needed);
-    cliques.exact_count = exact_count;
-  }
+void Analysis::Inside::Take(const Cliques& known) {
+  cliques.exact_count = known.exact_count;
+  // The cliques of an analysis are owned by what holds them here.
+  Have(std::static_pointer_cast<const gns::Clique_vector>(known.members.Owner()));
+}
 
-  void Begin_levels() {
-    gns::Levels_input input(*found, network.Inside()->graph.links);
-    input.exact_clique_count = static_cast<std::uint32_t>(cliques.exact_count);
-    input.node_count = network.size();
-    input.intensity_threshold = options.intensity;
-    input.max_clique_size = largest;
-    input.links_are_kept = options.links;
-    levels.emplace(input);
-    std::vector<std::size_t> of_size(largest + std::size_t{1}, 0);
-    for (std::size_t i = 0; i < found->size(); ++i) ++of_size[(*found)[i].size()];
-    work.emplace(std::move(of_size), next_k, options.k.value_or(least_k));
-  }
+void Analysis::Inside::Have(std::shared_ptr<const gns::Clique_vector> all) {
+  found = std::move(all);
+  cliques.members = face::View_of(*found, found);
+  largest = gns::Max_clique_size_in_cl_vec(*found);
+  next_k = options.k.value_or(largest);
+}
 
-  std::optional<Level> Next() {
-    if (!found) Search();
-    if (next_k < options.k.value_or(least_k)) return std::nullopt;
-    if (!levels) Begin_levels();
-    external_control::Check_for_stop_signal();
-    const std::uint32_t k = next_k--;
-    Level level = face::Level_of(gns::Find_level(k, *levels), options.links);
-    if (!options.k) work->End_level(k);
-    return level;
-  }
+void Analysis::Inside::Search_all(const gns::Named_graph& graph, gns::Clique_vector& all) {
+  const gns::Time_limit limit = {options.time_limit.value_or(0)};
+  gns::Overlap_matrix view;
+  bool approximation_needed = false;
+  std::uint32_t exact_count = 0;
+  gns::Find_cliques_ec(options.time_limit ? &limit : nullptr, graph.directed, all, view,
+                       graph.directed_vertices, graph.vertices, exact_count, approximation_needed);
+  cliques.exact_count = exact_count;
+}
 
-  Network network;
-  Options options;
-  Control control;
-  bool failed = false;
-  std::shared_ptr<const gns::Clique_vector> found;  ///< null before the search
-  Cliques cliques;
-  std::uint32_t largest = 0;
-  std::uint32_t next_k = 0;  ///< below the last one: there is no more
-  std::optional<gns::Levels> levels;
-  std::optional<gns::Work_of_levels> work;
-};
+void Analysis::Inside::Begin_levels() {
+  gns::Levels_input input(*found, network.Inside()->graph.links);
+  input.exact_clique_count = static_cast<std::uint32_t>(cliques.exact_count);
+  input.node_count = network.size();
+  input.intensity_threshold = options.intensity;
+  input.max_clique_size = largest;
+  input.links_are_kept = options.links;
+  levels.emplace(input);
+  std::vector<std::size_t> of_size(largest + std::size_t{1}, 0);
+  for (std::size_t i = 0; i < found->size(); ++i) ++of_size[(*found)[i].size()];
+  work.emplace(std::move(of_size), next_k, options.k.value_or(least_k));
+}
+
+std::optional<Level> Analysis::Inside::Next() {
+  if (!found) Search();
+  if (next_k < options.k.value_or(least_k)) return std::nullopt;
+  if (!levels) Begin_levels();
+  external_control::Check_for_stop_signal();
+  const std::uint32_t k = next_k--;
+  Level level = face::Level_of(gns::Find_level(k, *levels), options.links);
+  if (!options.k) work->End_level(k);
+  return level;
+}
 
 Analysis::Analysis(Network network, const Options& options, Control control)
     : inside_(std::make_unique<Inside>(std::move(network), options, std::move(control))) {}

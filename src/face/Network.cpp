@@ -12,6 +12,27 @@
 
 namespace vorlane {
 
+namespace {
+
+gns::Input_wishes Wishes_of(const Link_options& options) {
+  const auto refuse = [](const std::string& why) { throw Error(Error_kind::parameters, why); };
+  gns::Input_wishes wishes;
+  if (!options.format.empty()) {
+    wishes.format = gns::Format_named(options.format);
+    if (!wishes.format)
+      refuse("There is no format '" + options.format + "'; it is one of " + gns::Format_names() +
+             ".");
+  }
+  wishes.columns = options.columns;
+  wishes.directed = options.directed;
+  const std::size_t count = wishes.columns.size();
+  if (count != 0 && count != 2 && count != 3)
+    refuse("The columns must be two or three: both names and, if there is one, the weight.");
+  return wishes;
+}
+
+}  // namespace
+
 namespace face {
 
 /// `number_of_name[i]`: the number that was given for the name at place i of the links.
@@ -33,15 +54,6 @@ Network Network_of(gns::Link_map links, const Link_options& options,
   return Network(std::move(body));
 }
 
-namespace {
-
-gns::Format Format_of(const std::string& name) {
-  if (const auto format = gns::Format_named(name)) return *format;
-  throw Error(Error_kind::parameters,
-              "There is no format '" + name + "'; it is one of " + gns::Format_names() + ".");
-}
-
-}  // namespace
 }  // namespace face
 
 Network::Network() : body_(std::make_shared<const Body>()) {}
@@ -59,11 +71,7 @@ Network Network::Read(const std::string& path, const Link_options& options,
                                  taken.max_weight.value_or(0)};
     gns::Link_map links;
     gns::Link_file_check unheard;
-    gns::Input_wishes wishes;
-    if (!taken.format.empty()) wishes.format = face::Format_of(taken.format);
-    wishes.columns = taken.columns;
-    wishes.directed = taken.directed;
-    gns::Read_network_file(path, wishes, rule, links, unheard);
+    gns::Read_network_file(path, Wishes_of(taken), rule, links, unheard);
     return face::Network_of(std::move(links), taken);
   });
 }

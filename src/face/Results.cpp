@@ -1,14 +1,32 @@
 #include "vorlane/results.h"
 
 #include <algorithm>
+#include <functional>
+#include <optional>
 #include <utility>
 
+#include "face/Analysis_inside.h"
 #include "face/Results_body.h"
 #include "face/Views.h"
 
 namespace vorlane {
 
 namespace {
+
+/// Goes on to the end; everything goes to the writer too, unless it is null.
+template <typename Use>
+void Find_levels(Analysis::Inside& analysis, Results_writer* writer, Use use) {
+  analysis.Go_on([&] {
+    if (!analysis.found) analysis.Search();
+    return true;
+  });
+  if (writer) writer->Write(analysis.cliques);
+  while (std::optional<Level> level = analysis.Go_on([&] { return analysis.Next(); })) {
+    if (writer) writer->Write(*level);
+    use(*level);
+  }
+  if (writer) writer->Finish();
+}
 
 /// All that an analysis found.
 struct Found : Results::Body {
@@ -54,7 +72,21 @@ struct Found : Results::Body {
     return places;
   }
 
+  /// Finds the levels again, now with their links, from the cliques where they are all there.
+  void Write(const std::string& directory, const std::string& source,
+             const Control& control) const override {
+    Options with_links = options;
+    with_links.links = true;
+    Analysis::Inside analysis(network, with_links, control);
+    analysis.needs_all_cliques = true;
+    if (has_all_cliques) analysis.Take(cliques);
+    Results_writer writer(directory, network, options, source);
+    Find_levels(analysis, &writer, [](const Level&) {});
+  }
+
   vorlane::Network network;
+  Options options;
+  bool has_all_cliques = true;
   vorlane::Cliques cliques;
   std::vector<Level> levels;
 };
@@ -102,17 +134,45 @@ const Results::Body& Results::Body_with(std::uint32_t k) const {
               "There is no level at k = " + std::to_string(k) + "; " + there + ".");
 }
 
-Results Find(const Network& network, const Options& options, const Control& control) {
+void Results::Write(const std::string& directory, const std::string& source,
+                    const Control& control) const {
+  body_->Write(directory, source, control);
+}
+
+namespace {
+
+Results Find_all(const Network& network, const Options& options, const Control& control,
+                 const std::function<Results_writer()>& writer_of) {
   auto found = std::make_shared<Found>();
   found->method = face::Method_of(network, options);
   found->network = network;
-  Analysis analysis(network, options, control);
-  found->cliques = analysis.Find_cliques();
-  while (std::optional<Level> level = analysis.Next()) {
-    found->ks.push_back(level->k);
-    found->levels.push_back(*std::move(level));
-  }
+  found->options = options;
+  Options needed = options;
+  needed.links = needed.links || writer_of;
+  Analysis::Inside analysis(network, needed, control);
+  std::optional<Results_writer> writer;
+  if (writer_of) writer.emplace(writer_of());
+  analysis.needs_all_cliques = writer.has_value();
+  Find_levels(analysis, writer ? &*writer : nullptr, [&](Level& level) {
+    if (!options.links) level.links = {};
+    found->ks.push_back(level.k);
+    found->levels.push_back(std::move(level));
+  });
+  found->has_all_cliques = !analysis.Can_leave_out_cliques();
+  found->cliques = analysis.cliques;
   return Results(std::move(found));
+}
+
+}  // namespace
+
+Results Find(const Network& network, const Options& options, const Control& control) {
+  return Find_all(network, options, control, nullptr);
+}
+
+Results Find_and_write(const Network& network, const Options& options, const std::string& directory,
+                       const std::string& source, const Control& control) {
+  return Find_all(network, options, control,
+                  [&] { return Results_writer(directory, network, options, source); });
 }
 
 }  // namespace vorlane

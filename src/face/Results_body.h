@@ -31,6 +31,8 @@ struct Results::Body {
   [[nodiscard]] virtual std::optional<std::vector<std::string>> Names_in(Place place) const = 0;
   [[nodiscard]] virtual std::optional<std::vector<Place>> Places_of(
       std::string_view name) const = 0;
+  virtual void Write(const std::string& directory, const std::string& source,
+                     const Control& control) const = 0;
 
   vorlane::Method method = Method::undirected;
   bool finished = true;

@@ -132,6 +132,13 @@ class In_directory : public Results::Body {
     });
   }
 
+  void Write(const std::string& directory, const std::string& /*source*/,
+             const Control& /*control*/) const override {
+    throw Error(Error_kind::parameters, "These results stand in '" + directory_ +
+                                            "' already, which can be copied to '" + directory +
+                                            "'.");
+  }
+
  private:
   [[nodiscard]] gns::Level_reader Reader(std::uint32_t k) const {
     return {directory_, kind_.method, k};

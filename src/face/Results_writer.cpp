@@ -34,6 +34,11 @@ void Check_names(const Network& network) {
                                               std::to_string(node) + ", '" + std::string(name) +
                                               "': it has blanks inside, or nothing.");
   }
+  const gns::Name_table& names = network.Inside()->links_as_given.Names();
+  for (std::uint32_t i = 1; i < names.size(); ++i)
+    if (names[i] == names[i - 1])
+      throw Error(Error_kind::parameters, "Two nodes have the name '" + std::string(names[i]) +
+                                              "': results files can't tell them apart.");
 }
 
 std::string Header_of(const Network& network, const Options& options, const std::string& source) {

@@ -106,6 +106,13 @@ TEST_P(EachKindOfRun, IsTheSameInMemoryAndInFiles) {
     EXPECT_EQ(gns::Contents_of(temp.Path("found")), gns::Contents_of(told));
   }
   const Network network = Network::Read(p.input_file, Links_of(p));
+  Options options = Options_of(p);
+  options.links = false;
+  Find(network, options).Write(temp.Path("written"), p.input_file);
+  EXPECT_EQ(gns::Contents_of(temp.Path("written")), gns::Contents_of(told));
+  const Results at_once = Find_and_write(network, options, temp.Path("at_once"), p.input_file);
+  EXPECT_EQ(gns::Contents_of(temp.Path("at_once")), gns::Contents_of(told));
+  EXPECT_TRUE(at_once.At(at_once.Ks()[0]).links.empty());
   const Results found = Find(network, Options_of(p));
   EXPECT_EQ(opened.Method(), found.Method());
   ASSERT_EQ(opened.Ks(), found.Ks());
@@ -116,6 +123,17 @@ TEST_P(EachKindOfRun, IsTheSameInMemoryAndInFiles) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, EachKindOfRun, ::testing::ValuesIn(gns::Sample_runs()));
+
+Error_kind Kind_of(const std::function<void()>& work, const std::string& words) {
+  try {
+    work();
+    ADD_FAILURE() << "nothing was thrown";
+  } catch (const Error& error) {
+    EXPECT_NE(std::string(error.what()).find(words), std::string::npos) << error.what();
+    return error.Kind();
+  }
+  return Error_kind::other;
+}
 
 /// Numbers are the names that they are in decimals, and the order in which links come is nothing.
 TEST(InMemory, NumbersAreTheirDecimals) {
@@ -156,6 +174,35 @@ TEST(InMemory, NumbersAreTheirDecimals) {
   }
 }
 
+/// Numbers with names are the names; those of one name are different nodes all the same.
+TEST(InMemory, NumbersMayHaveNames) {
+  const std::vector<std::string_view> names = {"zoe", "\xc3\xa9", "Ada L", "10", "9"};
+  const std::vector<Node> from = {1, 1, 2, 3, 5, 4};
+  const std::vector<Node> to = {2, 3, 3, 4, 4, 3};
+  Network::Builder numbers(names, {});
+  numbers.Add(from, to);
+  Network::Builder texts;
+  for (std::size_t i = 0; i < from.size(); ++i) texts.Add(names[from[i] - 1], names[to[i] - 1]);
+  const Network a = numbers.Build();
+  const Network b = texts.Build();
+  ASSERT_EQ(a.size(), b.size());
+  EXPECT_TRUE(std::ranges::equal(a.Links().Values(), b.Links().Values()));
+  for (Node node = 1; node <= a.size(); ++node) {
+    EXPECT_EQ(a.Name(node), b.Name(node));
+    EXPECT_EQ(a.Name(node), names[a.Given_numbers()[node] - 1]);
+  }
+
+  const std::vector<std::string_view> twins = {"x", "y", "x"};
+  Network::Builder builder(twins, {});
+  builder.Add(std::vector<Node>{1, 2, 3}, std::vector<Node>{2, 3, 1});
+  const Results found = Find(builder.Build());
+  EXPECT_EQ(found.At(3).members[0].size(), 3U);
+  const gns::Temp_dir temp;
+  EXPECT_EQ(Kind_of([&] { found.Write(temp.Path("out"), "twins"); }, "Two nodes have the name 'x'"),
+            Error_kind::parameters);
+  EXPECT_FALSE(std::filesystem::exists(temp.Path("out")));
+}
+
 /// What a level holds lives on when the analysis and the network are gone.
 TEST(InMemory, ALevelOutlivesItsAnalysis) {
   std::optional<Level> level;
@@ -173,17 +220,6 @@ TEST(InMemory, ALevelOutlivesItsAnalysis) {
   EXPECT_EQ(level->members[0].size(), 4U);
 }
 
-Error_kind Kind_of(const std::function<void()>& work, const std::string& words) {
-  try {
-    work();
-    ADD_FAILURE() << "nothing was thrown";
-  } catch (const Error& error) {
-    EXPECT_NE(std::string(error.what()).find(words), std::string::npos) << error.what();
-    return error.Kind();
-  }
-  return Error_kind::other;
-}
-
 Network Triangle(bool weighted, bool directed) {
   Link_options options;
   options.weighted = weighted;
@@ -193,6 +229,14 @@ Network Triangle(bool weighted, bool directed) {
   builder.Add(std::vector<Node>{1, 2, 3}, std::vector<Node>{2, 3, 1},
               weighted ? weights : std::vector<double>());
   return builder.Build();
+}
+
+Network Read_as(const std::string& path, const std::string& format,
+                const std::vector<std::string>& columns) {
+  Link_options options;
+  options.format = format;
+  options.columns = columns;
+  return Network::Read(path, options);
 }
 
 /// What other programs write is read as it is by the program; names may hold blanks here.
@@ -206,6 +250,9 @@ TEST(InMemory, OtherFormatsAreToldByTheirEndings) {
   directed.min_weight = 2;
   const Network both = Network::Read(temp.Write("a.graph", "3 2 1\n2 5\n1 5 3 2\n2 2\n"), directed);
   EXPECT_EQ(both.Link_count(), 2U);  // at both ends; a weight of 2 is left out
+  const Network chosen = Read_as(temp.Write("t", "id,b,a\n7,x,y\n8,y,z\n"), "csv", {"a", "2"});
+  EXPECT_TRUE(chosen.Find("z").has_value());
+  EXPECT_EQ(chosen.Link_count(), 2U);
 }
 
 TEST(InMemory, BadInputIsToldWithItsPlace) {
@@ -265,6 +312,13 @@ TEST(InMemory, BadInputIsToldWithItsPlace) {
       {[] { static_cast<void>(Find(Triangle(false, false)).At(4)); }, parameters,
        "no level at k = 4; the levels are"},
       {[&] { Results::Open(temp.Path("none")); }, input, "no results directory"},
+      {[&] { Read_as(bad_line, "excel", {}); }, parameters,
+       "no format 'excel'; it is one of links,"},
+      {[&] { Read_as(bad_line, "csv", {"a"}); }, parameters, "two or three"},
+      {[&] {
+         Read_as(bad_line, "", {"1", "2"});
+       },
+       input, "no columns"},
   };
   for (const auto& [work, kind, words] : cases) EXPECT_EQ(Kind_of(work, words), kind) << words;
 }

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "engine/Levels.h"
+#include "engine/Work_of_levels.h"
+#include "face/Control_body.h"
+#include "face/Errors_of_face.h"
+#include "graph/Named_graph.h"
+#include "search/Clique_vector.h"
+#include "vorlane/analysis.h"
+
+namespace vorlane {
+
+/// An analysis as it goes on.
+struct Analysis::Inside {
+  /// Throws an Error as the constructor of Analysis.
+  Inside(Network of, const Options& asked, Control by);
+
+  /// Does a part of the work; nothing goes on behind a part that failed.
+  template <typename Work>
+  auto Go_on(Work part) {
+    if (failed) throw Error(Error_kind::parameters, "This analysis ended with an error before.");
+    const external_control::Control_in_use in_use(control.Inside().run);
+    failed = true;
+    auto result = face::With_errors(Error_kind::other, part);
+    failed = false;
+    return result;
+  }
+
+  /// The parts. The first one searches, or takes cliques of the same network and options that were
+  /// found before.
+  void Search();
+  void Take(const Cliques& known);
+  std::optional<Level> Next();
+
+  Network network;
+  Options options;
+  Control control;
+  bool failed = false;
+  bool needs_all_cliques = false;  ///< small ones too, when larger ones are asked for
+  std::shared_ptr<const gns::Clique_vector> found;  ///< null before the search
+  Cliques cliques;
+  std::uint32_t largest = 0;
+  std::uint32_t next_k = 0;  ///< below the last one: there is no more
+  std::optional<gns::Levels> levels;
+  std::optional<gns::Work_of_levels> work;
+
+  /// Whether it searches for no more cliques than its one k needs.
+  [[nodiscard]] bool Can_leave_out_cliques() const;
+
+ private:
+  void Search_all(const gns::Named_graph& graph, gns::Clique_vector& all);
+  void Have(std::shared_ptr<const gns::Clique_vector> all);
+  void Begin_levels();
+};
+
+}  // namespace vorlane
