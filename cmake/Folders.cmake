@@ -102,3 +102,18 @@ function(vorlane_java_library name)
   set_target_properties(${name} PROPERTIES LINK_DEPENDS ${module}/exports.map
                         LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
 endfunction()
+
+# The shared library for C, which exports nothing but what its header declares and needs no other of
+# ours. It stays loaded once it is: threads may still hold what it has for each of them.
+function(vorlane_c_library name)
+  set(exports ${PROJECT_SOURCE_DIR}/bindings/c/exports.map)
+  add_library(${name} SHARED $<TARGET_OBJECTS:folder_c>)
+  target_include_directories(${name} INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/bindings/c>
+                                               $<INSTALL_INTERFACE:include>)
+  target_link_libraries(${name} PRIVATE vorlane_engine Threads::Threads)
+  target_link_options(${name} PRIVATE LINKER:--version-script=${exports} LINKER:--no-undefined
+                      LINKER:-z,nodelete)
+  set_target_properties(${name} PROPERTIES LINK_DEPENDS ${exports} VERSION ${PROJECT_VERSION}
+                        SOVERSION ${VORLANE_ABI_VERSION}
+                        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+endfunction()

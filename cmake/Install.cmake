@@ -6,10 +6,11 @@ include(CMakePackageConfigHelpers)
 set_target_properties(vorlane_shared PROPERTIES EXPORT_NAME vorlane)
 set_target_properties(vorlane_library PROPERTIES EXPORT_NAME vorlane_static)
 install(TARGETS vorlane RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(TARGETS vorlane_shared vorlane_library EXPORT vorlane_targets
+install(TARGETS vorlane_shared vorlane_library vorlane_c EXPORT vorlane_targets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/vorlane DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/bindings/c/vorlane_c.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
 set(config_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vorlane)
 install(EXPORT vorlane_targets NAMESPACE vorlane:: DESTINATION ${config_dir})
@@ -25,10 +26,12 @@ install(FILES ${PROJECT_BINARY_DIR}/packaging/vorlaneConfig.cmake
 
 # The path from the file to the prefix, so that an installation can be moved.
 file(RELATIVE_PATH prefix /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
-configure_file(${PROJECT_SOURCE_DIR}/packaging/vorlane.pc.in
-               ${PROJECT_BINARY_DIR}/packaging/vorlane.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/packaging/vorlane.pc
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+foreach(library IN ITEMS vorlane vorlane_c)
+  configure_file(${PROJECT_SOURCE_DIR}/packaging/${library}.pc.in
+                 ${PROJECT_BINARY_DIR}/packaging/${library}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/packaging/${library}.pc
+          DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endforeach()
 
 set(documents ${PROJECT_BINARY_DIR}/packaging)
 install(FILES ${documents}/vorlane.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

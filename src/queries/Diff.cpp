@@ -146,6 +146,8 @@ std::vector<std::uint32_t> Ks_of_either(const Results& first, const Results& sec
 
 }  // namespace
 
+std::vector<Change> Changes_between(const Covers& covers) { return Changes(covers).Find(); }
+
 std::vector<Level_diff> Diff_of(const Results& first, const Results& second,
                                 std::optional<std::uint32_t> k) {
   const Common_numbers numbers(first.Network(), second.Network());
@@ -153,7 +155,7 @@ std::vector<Level_diff> Diff_of(const Results& first, const Results& second,
   for (const std::uint32_t at : k ? std::vector{*k} : Ks_of_either(first, second)) {
     const Covers covers = {numbers.Count(), Members_at(at, first),
                            numbers.Of(Members_at(at, second))};
-    diffs.push_back({at, Changes(covers).Find(), Omega_index(covers), Overlapping_nmi(covers)});
+    diffs.push_back({at, Changes_between(covers), Omega_index(covers), Overlapping_nmi(covers)});
   }
   return diffs;
 }

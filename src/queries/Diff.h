@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "queries/Shared_nodes.h"
 #include "vorlane/results.h"
 
 namespace vorlane::queries {
@@ -34,16 +35,18 @@ struct Change {
 /// The differences between the communities of two results at one k.
 struct Level_diff {
   std::uint32_t k = 0;
-  /// First what became of each community of the first results, in their order, then each one of the
-  /// second that was born or split off.
-  std::vector<Change> changes;
+  std::vector<Change> changes;  ///< Changes_between()
   double omega = 1.0;  ///< Omega_index()
   double nmi = 1.0;    ///< Overlapping_nmi()
 };
 
-/// Compares by the names of nodes, at each k that either has, k descending, or at one. Two
-/// communities are the same one if each is the likest to the other, with a Jaccard index of at
-/// least 0.3 (as D. Greene, D. Doyle, P. Cunningham, ASONAM 2010, follow communities in time). The
+/// What became of the communities of the first cover, in their order, then each one of the second
+/// that was born or split off. Two communities are the same one if each is the likest to the other,
+/// with a Jaccard index of at least 0.3 (as D. Greene, D. Doyle, P. Cunningham, ASONAM 2010, follow
+/// communities in time).
+std::vector<Change> Changes_between(const Covers& covers);
+
+/// Compares by the names of nodes, at each k that either has, k descending, or at one. The
 /// figures are over the nodes of both networks. A level that one of the results doesn't have has no
 /// communities. Throws as Results::Communities_at().
 std::vector<Level_diff> Diff_of(const Results& first, const Results& second,

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cmath>
+#include <optional>
+#include <utility>
+
+#include "bindings/c/vorlane_c.h"
+#include "vorlane/vorlane.h"
+
+/// What stands behind the opaque pointers; that of results is in Results_handle.h.
+
+struct vorlane_control {
+  vorlane::Control control;
+};
+
+struct vorlane_network {
+  vorlane::Network network;
+};
+
+namespace vorlane::c {
+
+/// The control to work with: the caller's, or one that nobody else has.
+inline Control Control_of(const vorlane_control* control) {
+  return control ? control->control : Control();
+}
+
+inline std::optional<double> Given_number(double number) {
+  return std::isnan(number) ? std::nullopt : std::optional(number);
+}
+
+inline vorlane_rows View_of(const Rows& rows) {
+  return {rows.size(), rows.Starts().data(), rows.Values().data()};
+}
+
+}  // namespace vorlane::c
