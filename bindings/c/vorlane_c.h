@@ -178,11 +178,14 @@ typedef struct vorlane_options {
   double intensity;  /* k-cliques need a geometric mean of weights above it; NaN: not asked for */
   double time_limit; /* seconds of processor time for a node's search; NaN: none */
   uint32_t k;        /* one k only, 3 or more; 0: all */
+  const vorlane_rows *cliques; /* all cliques of the network, found before: no search is needed; or
+                                  NULL */
+  size_t exact_clique_count;
   const char *directory; /* where to write the files of the program as well, or NULL */
   const char *source;    /* what their first lines call the input; NULL: "memory" */
 } vorlane_options;
 
-/* Finds all cliques and communities. */
+/* Finds all cliques and communities. Not with `cliques` and a `directory` at once. */
 VORLANE_C_API vorlane_code vorlane_find(const vorlane_network *network,
                                         const vorlane_options *options, vorlane_control *control,
                                         vorlane_results **results);

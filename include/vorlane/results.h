@@ -83,7 +83,11 @@ class VORLANE_API Results {
 /// All at once: the cliques and all levels of a network, in memory. Throws as an Analysis.
 VORLANE_API Results Find(const Network& network, const Options& options = {},
                          const Control& control = {});
-/// The same, written to a directory as it is found, as by a Results_writer.
+/// The same from all cliques of the network, found before: for other options, without searching.
+/// Throws an Error of kind `input` if they can't be such.
+VORLANE_API Results Find(const Network& network, const Cliques& known, const Options& options = {},
+                         const Control& control = {});
+/// As the first one, written to a directory as it is found, as by a Results_writer.
 VORLANE_API Results Find_and_write(const Network& network, const Options& options,
                                    const std::string& directory, const std::string& source,
                                    const Control& control = {});

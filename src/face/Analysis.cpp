@@ -30,6 +30,19 @@ void Check(const Network& network, const Options& options) {
   if (options.time_limit) refuse("The intensity method can't be used with a time limit.");
 }
 
+/// Whether the nodes ascend and are linked; of the links, each with the next node is looked at.
+bool Is_clique(Rows::Row nodes, const Network& network) {
+  if (nodes.size() < least_k || nodes.front() == 0 || nodes.back() > network.size()) return false;
+  const auto& links = network.Inside()->graph.links;
+  for (std::size_t i = 1; i < nodes.size(); ++i) {
+    const Node first = nodes[i - 1];
+    const Node second = nodes[i];
+    if (first >= second) return false;
+    if (!links.contains(first, second) && !links.contains(second, first)) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 Analysis::Inside::Inside(Network of, const Options& asked, Control by)
@@ -57,9 +70,17 @@ void Analysis::Inside::Search() {
 }
 
 void Analysis::Inside::Take(const Cliques& known) {
+  if (known.exact_count > known.members.size())
+    throw Error(Error_kind::input, "More cliques are said to be exact than there are.");
   cliques.exact_count = known.exact_count;
-  // The cliques of an analysis are owned by what holds them here.
-  Have(std::static_pointer_cast<const gns::Clique_vector>(known.members.Owner()));
+  auto all = std::make_shared<gns::Clique_vector>();
+  for (std::size_t i = 0; i < known.members.size(); ++i) {
+    if (!Is_clique(known.members[i], network))
+      throw Error(Error_kind::input, "What is given as clique " + std::to_string(i) +
+                                         " (counted from 0) is none of this network.");
+    all->push_back(known.members[i]);
+  }
+  Have(std::move(all));
 }
 
 void Analysis::Inside::Have(std::shared_ptr<const gns::Clique_vector> all) {

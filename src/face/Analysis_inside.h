@@ -30,8 +30,8 @@ struct Analysis::Inside {
     return result;
   }
 
-  /// The parts. The first one searches, or takes cliques of the same network and options that were
-  /// found before.
+  /// The parts. The first one searches, or takes the cliques of the same network that were found
+  /// before: copies them, and throws an Error of kind `input` if they can't be such.
   void Search();
   void Take(const Cliques& known);
   std::optional<Level> Next();

@@ -142,7 +142,7 @@ void Results::Write(const std::string& directory, const std::string& source,
 namespace {
 
 Results Find_all(const Network& network, const Options& options, const Control& control,
-                 const std::function<Results_writer()>& writer_of) {
+                 const vorlane::Cliques* known, const std::function<Results_writer()>& writer_of) {
   auto found = std::make_shared<Found>();
   found->method = face::Method_of(network, options);
   found->network = network;
@@ -150,6 +150,7 @@ Results Find_all(const Network& network, const Options& options, const Control& 
   Options needed = options;
   needed.links = needed.links || writer_of;
   Analysis::Inside analysis(network, needed, control);
+  if (known) analysis.Take(*known);
   std::optional<Results_writer> writer;
   if (writer_of) writer.emplace(writer_of());
   analysis.needs_all_cliques = writer.has_value();
@@ -158,7 +159,7 @@ Results Find_all(const Network& network, const Options& options, const Control& 
     found->ks.push_back(level.k);
     found->levels.push_back(std::move(level));
   });
-  found->has_all_cliques = !analysis.Can_leave_out_cliques();
+  found->has_all_cliques = known || !analysis.Can_leave_out_cliques();
   found->cliques = analysis.cliques;
   return Results(std::move(found));
 }
@@ -166,12 +167,17 @@ Results Find_all(const Network& network, const Options& options, const Control& 
 }  // namespace
 
 Results Find(const Network& network, const Options& options, const Control& control) {
-  return Find_all(network, options, control, nullptr);
+  return Find_all(network, options, control, nullptr, nullptr);
+}
+
+Results Find(const Network& network, const Cliques& known, const Options& options,
+             const Control& control) {
+  return Find_all(network, options, control, &known, nullptr);
 }
 
 Results Find_and_write(const Network& network, const Options& options, const std::string& directory,
                        const std::string& source, const Control& control) {
-  return Find_all(network, options, control,
+  return Find_all(network, options, control, nullptr,
                   [&] { return Results_writer(directory, network, options, source); });
 }
 

@@ -114,6 +114,9 @@ TEST_P(EachKindOfRun, IsTheSameInMemoryAndInFiles) {
   EXPECT_EQ(gns::Contents_of(temp.Path("at_once")), gns::Contents_of(told));
   EXPECT_TRUE(at_once.At(at_once.Ks()[0]).links.empty());
   const Results found = Find(network, Options_of(p));
+  const Results again = Find(network, found.Cliques(), Options_of(p));
+  ASSERT_EQ(again.Ks(), found.Ks());
+  for (const std::uint32_t k : again.Ks()) Expect_equal_levels(again.At(k), found.At(k));
   EXPECT_EQ(opened.Method(), found.Method());
   ASSERT_EQ(opened.Ks(), found.Ks());
   ASSERT_FALSE(found.Ks().empty());
@@ -255,6 +258,17 @@ TEST(InMemory, OtherFormatsAreToldByTheirEndings) {
   EXPECT_EQ(chosen.Link_count(), 2U);
 }
 
+/// A row that is said to be one.
+Cliques No_clique(std::vector<Node> nodes) {
+  struct Held {
+    std::vector<Node> nodes;
+    std::vector<std::size_t> starts;
+  };
+  const std::size_t size = nodes.size();
+  const auto held = std::make_shared<Held>(Held{std::move(nodes), {0, size}});
+  return {Rows(held->starts, held->nodes, held), 1};
+}
+
 TEST(InMemory, BadInputIsToldWithItsPlace) {
   const gns::Temp_dir temp;
   const auto add = [](bool weighted, std::vector<Node> from, std::vector<Node> to,
@@ -311,6 +325,18 @@ TEST(InMemory, BadInputIsToldWithItsPlace) {
       {analyse(Triangle(false, false), {}, {}, 2), parameters, "3 or more"},
       {[] { static_cast<void>(Find(Triangle(false, false)).At(4)); }, parameters,
        "no level at k = 4; the levels are"},
+      {[] {
+         Find(Triangle(false, false), No_clique({1, 2}));
+       },
+       input, "clique 0"},
+      {[] {
+         Find(Triangle(false, false), No_clique({1, 3, 2}));
+       },
+       input, "none of this network"},
+      {[] {
+         Find(Triangle(false, false), No_clique({1, 2, 4}));
+       },
+       input, "none of this network"},
       {[&] { Results::Open(temp.Path("none")); }, input, "no results directory"},
       {[&] { Read_as(bad_line, "excel", {}); }, parameters,
        "no format 'excel'; it is one of links,"},

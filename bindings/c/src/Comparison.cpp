@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "bindings/c/src/Failures.h"
+#include "bindings/c/src/Handles.h"
 #include "queries/Diff.h"
 #include "queries/Similarity.h"
 
@@ -20,9 +21,7 @@ namespace {
 /// Views of rows that outlive the call; throws an Error of kind `parameters` if they are no cover.
 Rows Cover_of(const vorlane_rows* rows, std::uint32_t node_count, const char* what) {
   Check_given(rows, what);
-  if (rows->size == 0) return {};
-  const std::size_t end = rows->starts[rows->size];
-  const Rows cover({rows->starts, rows->size + 1}, {rows->values, end}, nullptr);
+  const Rows cover = Rows_of(*rows);
   for (const auto community : cover)
     for (std::size_t i = 0; i < community.size(); ++i)
       if (community[i] == 0 || community[i] > node_count ||

@@ -32,4 +32,10 @@ inline vorlane_rows View_of(const Rows& rows) {
   return {rows.size(), rows.Starts().data(), rows.Values().data()};
 }
 
+/// The caller's rows, to be used while they last.
+inline Rows Rows_of(const vorlane_rows& rows) {
+  if (rows.size == 0) return {};
+  return {{rows.starts, rows.size + 1}, {rows.values, rows.starts[rows.size]}, nullptr};
+}
+
 }  // namespace vorlane::c

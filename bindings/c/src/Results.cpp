@@ -24,7 +24,14 @@ const char* Source_or_memory(const char* source) { return source ? source : "mem
 
 Results Found(const Network& network, const vorlane_options* given, const Control& control) {
   const Options options = Options_of(given);
-  if (given == nullptr || given->directory == nullptr) return Find(network, options, control);
+  if (given == nullptr) return Find(network, options, control);
+  if (given->cliques && given->directory)
+    throw Error(
+        Error_kind::parameters,
+        "Results of cliques that were found before are written by vorlane_results_write().");
+  if (given->cliques)
+    return Find(network, {Rows_of(*given->cliques), given->exact_clique_count}, options, control);
+  if (given->directory == nullptr) return Find(network, options, control);
   return Find_and_write(network, options, given->directory, Source_or_memory(given->source),
                         control);
 }
