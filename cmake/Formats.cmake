@@ -8,6 +8,11 @@ option(VORLANE_EXPAT "Read GraphML files where expat is at hand" ON)
 set(CMAKE_FIND_PACKAGE_TARGETS_GLOBAL ON)
 list(APPEND CMAKE_MODULE_PATH ${PROJECT_SOURCE_DIR}/cmake)
 
+# A wheel is carried to machines that may lack them.
+if(SKBUILD)
+  list(PREPEND CMAKE_FIND_LIBRARY_SUFFIXES .a)
+endif()
+
 # vorlane_format_library(NAME PACKAGE TARGET LINKED): what is found is noted for the folder of
 # formats, for CMake's other projects (the package) and for pkg-config (the option of a linker).
 set(VORLANE_FORMAT_LIBRARIES)

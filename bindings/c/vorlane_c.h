@@ -316,15 +316,13 @@ VORLANE_C_API void vorlane_comparison_free(vorlane_comparison *comparison);
 
 /* ---- Arrow ---- */
 
-struct ArrowSchema;
-struct ArrowArray;
+struct ArrowArrayStream;
 
-/* The communities at a k for Arrow's C data interface: a struct array with a row for each, of
+/* The communities at a k for Arrow's C stream interface: one batch with a row for each, of
    `community` (uint32), `exact` (bool) and `members` (large list of uint32, nodes). Members aren't
    copied; what is handed out keeps them alive and is to be released as Arrow tells. */
 VORLANE_C_API vorlane_code vorlane_results_arrow(const vorlane_results *results, uint32_t k,
-                                                 struct ArrowSchema *schema,
-                                                 struct ArrowArray *array);
+                                                 struct ArrowArrayStream *stream);
 
 #ifdef __cplusplus
 }

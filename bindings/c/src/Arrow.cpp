@@ -1,4 +1,5 @@
 #include <array>
+#include <cerrno>
 #include <cstdint>
 #include <memory>
 #include <numeric>
@@ -7,7 +8,7 @@
 #include "bindings/c/src/Failures.h"
 #include "bindings/c/src/Results_handle.h"
 
-/// The two structs of Arrow's C data interface, whose layout is fixed for all times.
+/// The structs of Arrow's C interfaces, whose layout is fixed for all times.
 struct ArrowSchema {
   const char* format;
   const char* name;
@@ -30,6 +31,14 @@ struct ArrowArray {
   ArrowArray** children;
   ArrowArray* dictionary;
   void (*release)(ArrowArray*);
+  void* private_data;
+};
+
+struct ArrowArrayStream {
+  int (*get_schema)(ArrowArrayStream*, ArrowSchema*);
+  int (*get_next)(ArrowArrayStream*, ArrowArray*);
+  const char* (*get_last_error)(ArrowArrayStream*);
+  void (*release)(ArrowArrayStream*);
   void* private_data;
 };
 
@@ -133,15 +142,52 @@ ArrowArray Array_of_level(const Level& level) {
   return top;
 }
 
+/// A stream of one array.
+struct Level_stream {
+  Level level;  ///< with the members alone
+  bool is_over = false;
+};
+
+Level_stream& Level_in(ArrowArrayStream* stream) {
+  return *static_cast<Level_stream*>(stream->private_data);
+}
+
+/// What a stream's functions return: 0, or a number of the system.
+template <typename Work>
+int With_errno(Work work) noexcept {
+  return With_code(work) == VORLANE_OK ? 0 : ENOMEM;
+}
+
+int Get_schema(ArrowArrayStream* /*stream*/, ArrowSchema* schema) {
+  return With_errno([&] { *schema = Schema_of_level(); });
+}
+
+int Get_next(ArrowArrayStream* stream, ArrowArray* array) {
+  return With_errno([&] {
+    Level_stream& of = Level_in(stream);
+    *array = of.is_over ? ArrowArray{} : Array_of_level(of.level);
+    of.is_over = true;
+  });
+}
+
+const char* Get_last_error(ArrowArrayStream* /*stream*/) { return vorlane_last_failure(nullptr); }
+
+void Release(ArrowArrayStream* stream) {
+  delete &Level_in(stream);
+  stream->release = nullptr;
+}
+
 }  // namespace
 }  // namespace vorlane::c
 
-vorlane_code vorlane_results_arrow(const vorlane_results* results, uint32_t k, ArrowSchema* schema,
-                                   ArrowArray* array) {
+vorlane_code vorlane_results_arrow(const vorlane_results* results, uint32_t k,
+                                   ArrowArrayStream* stream) {
   return vorlane::c::With_code([&] {
     const vorlane::Level& level = results->results.At(k);
-    const ArrowSchema told = vorlane::c::Schema_of_level();
-    *array = vorlane::c::Array_of_level(level);
-    *schema = told;
+    auto held = std::make_unique<vorlane::c::Level_stream>();
+    held->level.members = level.members;
+    held->level.exact_count = level.exact_count;
+    *stream = {vorlane::c::Get_schema, vorlane::c::Get_next, vorlane::c::Get_last_error,
+               vorlane::c::Release, held.release()};
   });
 }

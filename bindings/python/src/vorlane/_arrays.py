@@ -1,0 +1,50 @@
+"""Native arrays as numpy sees them, without a copy."""
+
+from __future__ import annotations
+
+from typing import Any
+
+import numpy as np
+import numpy.typing as npt
+
+from . import _capi
+
+Nodes = npt.NDArray[np.uint32]
+Starts = npt.NDArray[np.uint64]
+
+
+class _Memory:
+    """A piece of memory, and who keeps it."""
+
+    def __init__(self, address: int, shape: tuple[int, ...], kind: str, owner: Any) -> None:
+        self.owner = owner
+        self.__array_interface__ = {
+            "version": 3,
+            "data": (address, True),
+            "shape": shape,
+            "typestr": kind,
+        }
+
+
+def view(address: int | None, shape: tuple[int, ...], dtype: Any, owner: Any) -> npt.NDArray[Any]:
+    """A read-only array over ``address`` that keeps ``owner`` alive."""
+    kind = np.dtype(dtype)
+    if not address or 0 in shape:
+        empty = np.empty(shape, kind)
+        empty.flags.writeable = False
+        return empty
+    if kind.fields is None:
+        return np.asarray(_Memory(address, shape, kind.str, owner))
+    count = int(np.prod(shape)) * kind.itemsize
+    return np.asarray(_Memory(address, (count,), "|u1", owner)).view(kind).reshape(shape)
+
+
+def rows(native: _capi.Rows, owner: Any) -> tuple[Starts, Nodes]:
+    """``starts`` (uint64, rows + 1 places) and ``values`` (uint32)."""
+    starts = view(native.starts, (native.size + 1,), np.uint64, owner)
+    return starts, view(native.values, (int(starts[-1]),), np.uint32, owner)
+
+
+def native_rows(starts: Starts, values: Nodes) -> _capi.Rows:
+    """For a call; the arrays must outlive it."""
+    return _capi.Rows(len(starts) - 1, starts.ctypes.data, values.ctypes.data)
