@@ -160,6 +160,12 @@ VORLANE_C_API void vorlane_network_look(const vorlane_network *network, vorlane_
 /* The names of all nodes: writes name_bytes bytes to `names` and size + 1 places to `starts`. */
 VORLANE_C_API void vorlane_network_names(const vorlane_network *network, char *names,
                                          size_t *starts);
+/* The links as they were given, in the order of names, those over a threshold left out: link i leads
+   from from[i] to to[i]. In an undirected network, two in opposite directions are two. The same
+   links with the same names make the same network. `weights` becomes NULL without. */
+VORLANE_C_API vorlane_code vorlane_network_given_links(const vorlane_network *network,
+                                                       const uint32_t **from, const uint32_t **to,
+                                                       const double **weights, size_t *count);
 /* The node of a name; 0 if there is none. */
 VORLANE_C_API vorlane_code vorlane_network_find(const vorlane_network *network, const char *name,
                                                 size_t length, uint32_t *node);

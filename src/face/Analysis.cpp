@@ -30,15 +30,16 @@ void Check(const Network& network, const Options& options) {
   if (options.time_limit) refuse("The intensity method can't be used with a time limit.");
 }
 
-/// Whether the nodes ascend and are linked; of the links, each with the next node is looked at.
-bool Is_clique(Rows::Row nodes, const Network& network) {
+/// Whether the nodes ascend and, if the clique is an exact one, are linked; of the links, each with
+/// the next node is looked at.
+bool Is_clique(Rows::Row nodes, bool is_exact, const Network& network) {
   if (nodes.size() < least_k || nodes.front() == 0 || nodes.back() > network.size()) return false;
   const auto& links = network.Inside()->graph.links;
   for (std::size_t i = 1; i < nodes.size(); ++i) {
     const Node first = nodes[i - 1];
     const Node second = nodes[i];
     if (first >= second) return false;
-    if (!links.contains(first, second) && !links.contains(second, first)) return false;
+    if (is_exact && !links.contains(first, second) && !links.contains(second, first)) return false;
   }
   return true;
 }
@@ -75,7 +76,7 @@ void Analysis::Inside::Take(const Cliques& known) {
   cliques.exact_count = known.exact_count;
   auto all = std::make_shared<gns::Clique_vector>();
   for (std::size_t i = 0; i < known.members.size(); ++i) {
-    if (!Is_clique(known.members[i], network))
+    if (!Is_clique(known.members[i], i < known.exact_count, network))
       throw Error(Error_kind::input, "What is given as clique " + std::to_string(i) +
                                          " (counted from 0) is none of this network.");
     all->push_back(known.members[i]);

@@ -43,13 +43,13 @@ Network Network_of(gns::Link_map links, const Link_options& options,
   body->links_as_given = std::move(links);
   gns::Named_graph& graph = body->graph;
   graph.directed = options.directed;
-  const auto numbers =
+  body->name_places =
       gns::Convert_s_links(graph.links, graph.names, body->links_as_given, options.directed);
   gns::Make_vertices(graph);
   if (!number_of_name.empty()) {
     body->given_numbers.assign(graph.Node_count() + std::size_t{1}, 0);
-    for (std::size_t i = 0; i < numbers.size(); ++i)
-      body->given_numbers[i + 1] = number_of_name[numbers[i]];
+    for (std::size_t i = 0; i < body->name_places.size(); ++i)
+      body->given_numbers[i + 1] = number_of_name[body->name_places[i]];
   }
   return Network(std::move(body));
 }

@@ -13,8 +13,9 @@ namespace vorlane {
 
 struct Network::Body {
   Link_options options;
-  gns::Link_map links_as_given;  ///< for the graph file
+  gns::Link_map links_as_given;  ///< for the graph file, and for who takes them elsewhere
   gns::Named_graph graph;
+  std::vector<std::uint32_t> name_places;  ///< by node, from 1 on: where its name stands in there
   std::vector<Node> given_numbers;  ///< by node; empty for a network of names
 
   mutable std::once_flag sorted_once;

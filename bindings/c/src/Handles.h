@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cmath>
+#include <cstdint>
+#include <mutex>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "bindings/c/vorlane_c.h"
 #include "vorlane/vorlane.h"
@@ -14,7 +17,12 @@ struct vorlane_control {
 };
 
 struct vorlane_network {
-  vorlane::Network network;
+  explicit vorlane_network(vorlane::Network of) : network(std::move(of)) {}
+
+  const vorlane::Network network;
+  mutable std::once_flag given_once;  ///< of what follows: the links as they were given
+  mutable std::vector<std::uint32_t> given_from, given_to;
+  mutable std::vector<double> given_weights;
 };
 
 namespace vorlane::c {

@@ -6,6 +6,7 @@
 
 #include "bindings/c/src/Failures.h"
 #include "bindings/c/src/Handles.h"
+#include "face/Network_body.h"
 
 namespace vorlane::c {
 
@@ -94,6 +95,21 @@ Network Network_of(const vorlane_links& links, const Link_options& options) {
   return builder.Build();
 }
 
+/// Fills what vorlane_network_given_links() hands out.
+void Fill_given_links(const vorlane_network& of) {
+  const gns::Link_map& links = of.network.Inside()->links_as_given;
+  const std::vector<std::uint32_t>& places = of.network.Inside()->name_places;
+  std::vector<Node> node_of_place(links.Names().size(), 0);
+  for (std::size_t i = 0; i < places.size(); ++i)
+    node_of_place[places[i]] = static_cast<Node>(i + 1);
+  for (const gns::Index_pair& pair : links.Pairs()) {
+    of.given_from.push_back(node_of_place[pair.first]);
+    of.given_to.push_back(node_of_place[pair.second]);
+  }
+  if (!of.network.How_taken().weighted) return;
+  for (std::size_t i = 0; i < links.size(); ++i) of.given_weights.push_back(links.Weight(i));
+}
+
 }  // namespace
 }  // namespace vorlane::c
 
@@ -104,8 +120,8 @@ vorlane_code vorlane_network_read(const char* path, const vorlane_link_options* 
                                   vorlane_control* control, vorlane_network** network) {
   return With_code([&] {
     Check_given(path, "path");
-    *network = new vorlane_network{vorlane::Network::Read(path, vorlane::c::Options_of(options),
-                                                          vorlane::c::Control_of(control))};
+    *network = new vorlane_network(vorlane::Network::Read(path, vorlane::c::Options_of(options),
+                                                          vorlane::c::Control_of(control)));
   });
 }
 
@@ -114,7 +130,7 @@ vorlane_code vorlane_network_from_links(const vorlane_links* links,
                                         vorlane_network** network) {
   return With_code([&] {
     Check_given(links, "links");
-    *network = new vorlane_network{vorlane::c::Network_of(*links, vorlane::c::Options_of(options))};
+    *network = new vorlane_network(vorlane::c::Network_of(*links, vorlane::c::Options_of(options)));
   });
 }
 
@@ -141,6 +157,18 @@ void vorlane_network_names(const vorlane_network* network, char* names, size_t* 
     end += of.Name(node).copy(names + end, of.Name(node).size());
     starts[node] = end;
   }
+}
+
+vorlane_code vorlane_network_given_links(const vorlane_network* network, const uint32_t** from,
+                                         const uint32_t** to, const double** weights,
+                                         size_t* count) {
+  return With_code([&] {
+    std::call_once(network->given_once, vorlane::c::Fill_given_links, *network);
+    *from = network->given_from.data();
+    *to = network->given_to.data();
+    *weights = network->network.How_taken().weighted ? network->given_weights.data() : nullptr;
+    *count = network->given_from.size();
+  });
 }
 
 vorlane_code vorlane_network_find(const vorlane_network* network, const char* name, size_t length,

@@ -104,7 +104,7 @@ void vorlane_results_look(const vorlane_results* results, vorlane_results_view* 
 }
 
 vorlane_code vorlane_results_network(const vorlane_results* results, vorlane_network** network) {
-  return With_code([&] { *network = new vorlane_network{results->results.Network()}; });
+  return With_code([&] { *network = new vorlane_network(results->results.Network()); });
 }
 
 vorlane_code vorlane_results_cliques(const vorlane_results* results, vorlane_rows* members,

@@ -36,13 +36,25 @@ def view(address: int | None, shape: tuple[int, ...], dtype: Any, owner: Any) ->
     if kind.fields is None:
         return np.asarray(_Memory(address, shape, kind.str, owner))
     count = int(np.prod(shape)) * kind.itemsize
-    return np.asarray(_Memory(address, (count,), "|u1", owner)).view(kind).reshape(shape)
+    bytes_of_all: npt.NDArray[Any] = np.asarray(_Memory(address, (count,), "|u1", owner))
+    return bytes_of_all.view(kind).reshape(shape)
 
 
 def rows(native: _capi.Rows, owner: Any) -> tuple[Starts, Nodes]:
     """``starts`` (uint64, rows + 1 places) and ``values`` (uint32)."""
     starts = view(native.starts, (native.size + 1,), np.uint64, owner)
     return starts, view(native.values, (int(starts[-1]),), np.uint32, owner)
+
+
+def sizes_of(starts: Starts) -> npt.NDArray[np.int64]:
+    """The length of each row."""
+    ends = starts.astype(np.int64)
+    return ends[1:] - ends[:-1]
+
+
+def row_of_each(starts: Starts) -> npt.NDArray[np.uint32]:
+    """For each value, the row that it is in."""
+    return np.repeat(np.arange(len(starts) - 1, dtype=np.uint32), sizes_of(starts))
 
 
 def native_rows(starts: Starts, values: Nodes) -> _capi.Rows:

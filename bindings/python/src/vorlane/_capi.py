@@ -151,6 +151,10 @@ FUNCTIONS: dict[str, tuple[Any, list[Any]]] = {
     "vorlane_network_look": (None, [Handle, POINTER(NetworkView)]),
     "vorlane_network_names": (None, [Handle, c_void_p, c_void_p]),
     "vorlane_network_find": (c_int, [Handle, c_char_p, c_size_t, POINTER(c_uint32)]),
+    "vorlane_network_given_links": (
+        c_int,
+        [Handle, _array_out, _array_out, _array_out, _number_out],
+    ),
     "vorlane_find": (c_int, [Handle, POINTER(Options), Handle, _handle_out]),
     "vorlane_results_open": (c_int, [c_char_p, _handle_out]),
     "vorlane_results_free": (None, [Handle]),

@@ -9,7 +9,7 @@ import numpy as np
 import numpy.typing as npt
 
 from . import _capi
-from ._arrays import Nodes, Starts, native_rows, view
+from ._arrays import Nodes, Starts, native_rows, row_of_each, view
 from ._library import Owner, library
 from .level import Level
 
@@ -78,5 +78,4 @@ def _known(number: int) -> int | None:
 
 
 def _sorted_rows(starts: Starts, values: Nodes) -> Nodes:
-    row = np.repeat(np.arange(len(starts) - 1), np.diff(starts.astype(np.int64)))
-    return values[np.lexsort((values, row))]
+    return values[np.lexsort((values, row_of_each(starts)))]

@@ -86,6 +86,9 @@ def find(
     if k is not None and k < _LEAST_K:
         raise ParameterError(f"k must be {_LEAST_K} or more, not {k!r}.")
     asked = Asked(k, min_weight, max_weight, intensity, time_limit)
+    for name, value in asked._asdict().items():
+        if value != value:
+            raise ParameterError(f"{name} is not a number.")
     weighted = any(value is not None for value in (min_weight, max_weight, intensity))
     links = links_of(data, Wishes(source, target, weight, directed, weighted))
     control = control or Control()

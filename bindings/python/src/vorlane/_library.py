@@ -2,9 +2,11 @@
 
 from __future__ import annotations
 
+import _thread
 import ctypes
 import os
 import sys
+import threading
 import weakref
 from typing import Any
 
@@ -70,12 +72,19 @@ def call(name: str, *arguments: Any) -> None:
         raise _failure()
 
 
+def _give_back(function: Any, pointer: ctypes.c_void_p) -> None:
+    try:
+        function(pointer)
+    except KeyboardInterrupt:  # which ends here, as nothing is raised out of a finalizer
+        threading.Timer(0.005, _thread.interrupt_main).start()
+
+
 class Owner:
     """A native object, given back when nothing refers to it any more."""
 
     def __init__(self, pointer: ctypes.c_void_p, give_back: str) -> None:
         self.pointer = pointer
-        finalizer = weakref.finalize(self, getattr(library, give_back), pointer)
+        finalizer = weakref.finalize(self, _give_back, getattr(library, give_back), pointer)
         finalizer.atexit = False  # a thread may still be at work; the process gives all back
 
     @classmethod

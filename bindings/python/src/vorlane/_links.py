@@ -31,14 +31,22 @@ class Links:
 
 def column(values: Any, what: str) -> npt.NDArray[Any]:
     """A column as an array of one dimension."""
-    array = np.asarray(values)
-    if array.dtype.kind == "U" and isinstance(values, (list, tuple)):
-        array = _as_objects(values)  # of mixed types numpy would make texts
-    if array.ndim != 1:
-        array = _as_objects(values)
+    if isinstance(values, list):
+        array = _of_list(values)
+    else:
+        array = np.asarray(values)
     if array.ndim != 1:
         raise InputError(f"The {what} must be one column, not an array of shape {array.shape}.")
     return array
+
+
+def _of_list(values: list[Any]) -> npt.NDArray[Any]:
+    """As numbers or as they are: of mixed types numpy would make texts, of tuples a table."""
+    try:
+        array = np.asarray(values)
+    except ValueError:
+        return _as_objects(values)
+    return array if array.ndim == 1 and array.dtype.kind in "iuf" else _as_objects(values)
 
 
 def _as_objects(values: Any) -> npt.NDArray[Any]:

@@ -13,7 +13,7 @@ import numpy.typing as npt
 from . import _capi
 from ._arrays import Nodes, Starts, rows, view
 from ._control import Control
-from ._library import Owner, library
+from ._library import Owner, call, library
 from ._links import Links
 
 _NAME_ERRORS = "surrogateescape"
@@ -100,6 +100,24 @@ class Network:
         if not self.weighted:
             return None
         return view(self._look.weights, (self.link_count,), np.float64, self.owner)
+
+    def given_links(self) -> Links:
+        """The links between the caller's nodes, of which an equal network can be made."""
+        arrays = [ctypes.c_void_p() for _ in range(3)]
+        count = ctypes.c_size_t()
+        call(
+            "vorlane_network_given_links",
+            self.owner.pointer,
+            *map(ctypes.byref, arrays),
+            ctypes.byref(count),
+        )
+        source, target, weight = (
+            np.array(view(array.value, (count.value,), kind, self))
+            for array, kind in zip(arrays, (np.uint32, np.uint32, np.float64))
+        )
+        return Links(
+            self.nodes()[1:], source, target, weight if self.weighted else None, self.directed
+        )
 
     def nodes(self) -> list[Any]:
         """The caller's nodes, or names; node v at place v, and None at place 0."""

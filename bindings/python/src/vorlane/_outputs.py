@@ -6,6 +6,7 @@ from typing import TYPE_CHECKING, Any, Iterable, Sequence
 
 import numpy as np
 
+from ._arrays import row_of_each
 from .errors import ParameterError
 
 if TYPE_CHECKING:
@@ -35,7 +36,7 @@ def _long_frame(levels: Sequence[Level]) -> Any:
 
     columns: dict[str, list[Any]] = {"k": [], "community": [], "node": [], "exact": []}
     for level in levels:
-        number = np.repeat(np.arange(len(level)), level.sizes)
+        number = row_of_each(level.starts)
         columns["k"].append(np.full(len(number), level.k))
         columns["community"].append(number)
         columns["node"].extend(map(level.results._nodes_by_number.__getitem__, level.members.tolist()))
@@ -82,7 +83,7 @@ def to_networkx(level: Level) -> Any:
     membership = level.membership
     graph.add_nodes_from((node, {"communities": membership.get(node, ())}) for node in nodes[1:])
     starts, ends = network.link_rows()
-    begins = np.repeat(np.arange(len(starts) - 1), np.diff(starts.astype(np.int64))).tolist()
+    begins = row_of_each(starts).tolist()
     pairs: Iterable[Any] = ((nodes[u], nodes[v]) for u, v in zip(begins, ends.tolist()))
     weights = network.weights()
     if weights is not None:
@@ -100,7 +101,7 @@ def to_igraph(level: Level, graph: Any) -> Any:
         place = {name: i for i, name in enumerate(graph.vs["name"])}
     clusters = []
     for community in level:
-        indices = [place.get(node) if place else node for node in community]
+        indices: list[Any] = [place.get(node) if place else node for node in community]
         if not all(isinstance(i, int) and 0 <= i < count for i in indices):
             raise ParameterError("The graph is not the one that was searched: it lacks nodes.")
         clusters.append(sorted(indices))

@@ -10,7 +10,7 @@ import numpy as np
 import numpy.typing as npt
 
 from . import _arrow, _capi, _outputs
-from ._arrays import Nodes, Starts, rows, view
+from ._arrays import Nodes, Starts, row_of_each, rows, sizes_of, view
 from ._library import call
 
 if TYPE_CHECKING:
@@ -91,7 +91,7 @@ class Level(Sequence[frozenset[Any]]):
     @property
     def sizes(self) -> npt.NDArray[np.int64]:
         """The number of nodes of each community."""
-        return np.diff(self.starts.astype(np.int64))
+        return sizes_of(self.starts)
 
     @property
     def exact(self) -> npt.NDArray[np.bool_]:
@@ -114,7 +114,7 @@ class Level(Sequence[frozenset[Any]]):
         """For nodes from 0 (no node) on, ``(starts, communities)``: node v is in the communities
         ``communities[starts[v]:starts[v + 1]]``, ascending."""
         if self._by_node is None:
-            number = np.repeat(np.arange(len(self), dtype=np.uint32), self.sizes)
+            number = row_of_each(self.starts)
             order = np.argsort(self.members, kind="stable")
             counts = np.bincount(self.members, minlength=len(self.results._nodes_by_number))
             self._by_node = np.concatenate([[0], np.cumsum(counts)]), number[order]

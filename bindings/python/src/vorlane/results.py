@@ -296,7 +296,7 @@ class Results(Mapping[int, Level]):
             return _load, (os.path.abspath(self._directory),)
         (starts, values), exact = self._clique_rows
         return _found_again, (
-            _links_of(self._network),
+            self._network.given_links(),
             self._asked,
             np.array(starts),
             np.array(values),
@@ -310,20 +310,12 @@ class UnknownK(ParameterError, KeyError):
     __str__ = ParameterError.__str__
 
 
-def _links_of(network: Network) -> Links:
-    """The links as they count, between the caller's nodes."""
-    starts, target = network.link_rows()
-    source = np.repeat(np.arange(len(starts) - 1), np.diff(starts.astype(np.int64)))
-    return Links(
-        network.nodes()[1:], source.astype(np.uint32), target, network.weights(), network.directed
-    )
-
-
 def _found_again(
     links: Links, asked: Asked, starts: Starts, values: Nodes, exact_count: int
 ) -> Results:
-    """The results of cliques that were found before; thresholds have been applied already."""
-    options = link_options(links.directed, links.weight is not None, None, None)
+    """The results of cliques that were found before."""
+    thresholds = asked.min_weight, asked.max_weight
+    options = link_options(links.directed, links.weight is not None, *thresholds)
     network = Network.of_links(links, options)
     return find_in(network, asked, Control(), cliques=(starts, values), exact_count=exact_count)
 

@@ -2,8 +2,9 @@
 
 from __future__ import annotations
 
+import math
 from itertools import chain
-from typing import TYPE_CHECKING, Any, Iterator
+from typing import TYPE_CHECKING, Any
 
 import numpy as np
 import numpy.typing as npt
@@ -41,7 +42,7 @@ def is_networkit(data: Any) -> bool:
 
 
 def of_networkx(graph: Any, wishes: Wishes) -> Links:
-    """Nodes are the graph's own; parallel edges add up their weights."""
+    """Nodes are the graph's own. Of parallel edges each is a link, as thresholds look at each."""
     adjacency = graph._adj
     try:
         labels = list(adjacency)
@@ -49,12 +50,14 @@ def of_networkx(graph: Any, wishes: Wishes) -> Links:
         degrees = np.fromiter(map(len, adjacency.values()), np.int64, len(labels))
         ends = chain.from_iterable(adjacency.values())
         target = np.fromiter(map(index.__getitem__, ends), np.uint32, int(degrees.sum()))
-        weight = _networkx_weights(graph, wishes) if wishes.weighted else None
+        times, weight = _networkx_weights(graph, wishes) if wishes.weighted else (None, None)
     except (RuntimeError, KeyError, ValueError) as failure:
         if isinstance(failure, InputError):
             raise
         raise InputError(f"The graph changed while it was read ({failure}).") from failure
     source = np.repeat(np.arange(1, len(labels) + 1, dtype=np.uint32), degrees)
+    if times is not None:
+        source, target = np.repeat(source, times), np.repeat(target, times)
     directed = graph.is_directed() if wishes.directed is None else wishes.directed
     if not graph.is_directed():  # each link is met from both of its ends
         once = source <= target
@@ -64,30 +67,38 @@ def of_networkx(graph: Any, wishes: Wishes) -> Links:
     return Links(labels, source, target, weight, directed)
 
 
-def _networkx_weights(graph: Any, wishes: Wishes) -> npt.NDArray[np.float64]:
-    """In the order of the adjacency."""
+def _networkx_weights(
+    graph: Any, wishes: Wishes
+) -> tuple[npt.NDArray[np.int64] | None, npt.NDArray[np.float64]]:
+    """In the order of the adjacency, with the number of parallel edges of each pair."""
     key = wishes.weight or _WEIGHT
-    links: Iterator[tuple[Any, Any, Any]] = (
-        (u, v, data) for u, row in graph._adj.items() for v, data in row.items()
-    )
+    pairs = ((u, v, data) for u, row in graph._adj.items() for v, data in row.items())
+    if not graph.is_multigraph():
+        return None, np.array([_weight_of(u, v, data, key) for u, v, data in pairs], np.float64)
+    times: list[int] = []
+    weights: list[float] = []
+    for u, v, parallel in pairs:
+        times.append(len(parallel))
+        weights.extend(_weight_of(u, v, data, key) for data in parallel.values())
+    return np.array(times, np.int64), np.array(weights, np.float64)
 
-    def weight_of(u: Any, v: Any, data: Any) -> float:
-        parallel = data.values() if graph.is_multigraph() else (data,)
-        try:
-            weight = float(sum(each[key] for each in parallel))
-        except KeyError:
-            raise InputError(
-                f"The edge ({u!r}, {v!r}) has no attribute {key!r}; weight='NAME' tells another."
-            ) from None
-        except (TypeError, ValueError):
-            raise InputError(f"The weight of the edge ({u!r}, {v!r}) is no number.") from None
-        if not np.isfinite(weight):
-            raise InputError(
-                f"The weight of the edge ({u!r}, {v!r}) is {weight}; weights must be finite."
-            )
-        return weight
 
-    return np.array([weight_of(u, v, data) for u, v, data in links], np.float64)
+def _weight_of(u: Any, v: Any, data: Any, key: Any) -> float:
+    if key not in data:
+        raise InputError(
+            f"The edge ({u!r}, {v!r}) has no attribute {key!r}; weight='NAME' tells another."
+        )
+    try:
+        weight = float(data[key])
+    except (TypeError, ValueError):
+        raise InputError(
+            f"The weight of the edge ({u!r}, {v!r}) is {data[key]!r}, no number."
+        ) from None
+    if not math.isfinite(weight):
+        raise InputError(
+            f"The weight of the edge ({u!r}, {v!r}) is {weight}; weights must be finite numbers."
+        )
+    return weight
 
 
 def of_igraph(graph: Any, wishes: Wishes) -> Links:
