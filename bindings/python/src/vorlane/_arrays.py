@@ -33,11 +33,13 @@ def view(address: int | None, shape: tuple[int, ...], dtype: Any, owner: Any) ->
         empty = np.empty(shape, kind)
         empty.flags.writeable = False
         return empty
+    shown: npt.NDArray[Any]
     if kind.fields is None:
-        return np.asarray(_Memory(address, shape, kind.str, owner))
-    count = int(np.prod(shape)) * kind.itemsize
-    bytes_of_all: npt.NDArray[Any] = np.asarray(_Memory(address, (count,), "|u1", owner))
-    return bytes_of_all.view(kind).reshape(shape)
+        shown = np.asarray(_Memory(address, shape, kind.str, owner))
+    else:  # an interface of arrays tells no fields
+        size = int(np.prod(shape)) * kind.itemsize
+        shown = np.asarray(_Memory(address, (size,), "|u1", owner)).view(kind).reshape(shape)
+    return shown
 
 
 def rows(native: _capi.Rows, owner: Any) -> tuple[Starts, Nodes]:
