@@ -49,6 +49,7 @@ bare() {
 # Folders named like programs are no programs, and files are looked for where they belong.
 run="cmake g++ ninja-build"
 java="cmake default-jdk-headless g++ ninja-build"
+python="cmake g++ ninja-build python3 python3-venv"
 ci="clang clang-format clang-tidy cmake default-jdk-headless fish g++ libclang-rt-dev llvm mandoc maven ninja-build nodejs npm python3 python3-venv shellcheck zsh"
 while IFS='|' read -r task packages; do
   bare scripts/setup "$task" >/dev/null
@@ -57,6 +58,7 @@ while IFS='|' read -r task packages; do
 done <<END
 --run|$run
 --java|$java
+--python|$python
 --test|$java
 --ci|$ci
 END

@@ -129,3 +129,32 @@ def test_types() -> None:
         cwd=package.parent,
     )
     assert done.returncode == 0, done.stdout
+
+
+def with_examples(folder: Path, monkeypatch: pytest.MonkeyPatch) -> None:
+    (folder / "examples").symlink_to(ROOT / "examples")
+    monkeypatch.chdir(folder)
+
+
+def test_the_document(tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> None:
+    pytest.importorskip("pandas")
+    with_examples(tmp_path, monkeypatch)
+    outcome = doctest.testfile(
+        str(ROOT / "docs" / "python.md"),
+        module_relative=False,
+        encoding="utf-8",
+        optionflags=doctest.IGNORE_EXCEPTION_DETAIL,
+    )
+    assert outcome.failed == 0 and outcome.attempted > 20
+
+
+def test_the_notebook(tmp_path: Path, monkeypatch: pytest.MonkeyPatch) -> None:
+    client = pytest.importorskip("nbclient")
+    nbformat = pytest.importorskip("nbformat")
+    with_examples(tmp_path, monkeypatch)
+    notebook = nbformat.read(ROOT / "docs" / "python.ipynb", as_version=4)
+    client.NotebookClient(notebook, kernel_name="python3").execute(cwd=str(tmp_path))
+    shown = [set(output.get("data", {})) for cell in notebook.cells for output in cell.get("outputs", [])]
+    assert any("image/png" in kinds for kinds in shown)
+    assert sum("text/html" in kinds for kinds in shown) >= 3
+    assert not any(output.output_type == "error" for cell in notebook.cells for output in cell.get("outputs", []))
