@@ -5,6 +5,7 @@ from __future__ import annotations
 import ctypes
 import doctest
 import importlib
+import os
 import pkgutil
 import re
 import subprocess
@@ -92,9 +93,8 @@ def test_versions_agree() -> None:
 
 
 def modules() -> list[str]:
-    return ["vorlane"] + [
-        module.name for module in pkgutil.walk_packages(vl.__path__, "vorlane.")
-    ]
+    found = [module.name for module in pkgutil.walk_packages(vl.__path__, "vorlane.")]
+    return ["vorlane", *(name for name in found if not name.endswith(".libvorlane_c"))]
 
 
 def test_docstrings() -> None:
@@ -118,15 +118,17 @@ def test_everything_public_is_told_of() -> None:
                 assert value.__doc__, (name, method)
 
 
-def test_types() -> None:
+def test_types(tmp_path: Path) -> None:
     pytest.importorskip("mypy")
-    package = Path(vl.__file__).parent
+    sources = Path(vl.__file__).parents[1]
     configuration = Path(__file__).parents[1] / "pyproject.toml"
+    searched = {} if sources.name == "site-packages" else {"MYPYPATH": str(sources)}
     done = subprocess.run(
-        [sys.executable, "-m", "mypy", "--config-file", str(configuration), str(package)],
+        [sys.executable, "-m", "mypy", "--config-file", str(configuration), "-p", "vorlane"],
+        env={**os.environ, **searched},
         capture_output=True,
         text=True,
-        cwd=package.parent,
+        cwd=tmp_path,
     )
     assert done.returncode == 0, done.stdout
 
