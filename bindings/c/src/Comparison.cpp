@@ -21,7 +21,7 @@ namespace {
 /// Views of rows that outlive the call; throws an Error of kind `parameters` if they are no cover.
 Rows Cover_of(const vorlane_rows* rows, std::uint32_t node_count, const char* what) {
   Check_given(rows, what);
-  const Rows cover = Rows_of(*rows);
+  Rows cover = Rows_of(*rows);
   for (const auto community : cover)
     for (std::size_t i = 0; i < community.size(); ++i)
       if (community[i] == 0 || community[i] > node_count ||
