@@ -33,7 +33,7 @@ foreach(folder IN LISTS folders)
         if(NOT used STREQUAL unit)
           list(APPEND uses_${unit} ${used})
         endif()
-      elseif(used MATCHES "^vorlane/(rows|version)$" OR (used_folder STREQUAL "vorlane" AND folder MATCHES "^(face|queries|export|cli)$"))
+      elseif(used MATCHES "^vorlane/(rows|version)$" OR (used_folder STREQUAL "vorlane" AND folder MATCHES "^(face|queries|layout|export|report|cli)$"))
         # the public headers: types that all share, and what the face declares
       elseif(NOT used_folder IN_LIST may_use_${folder})
         message(SEND_ERROR "${file} includes ${used}.h, which ${folder}/ may not use")

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "export/Selection.h"
+#include "layout/Network_layout.h"
 
 namespace vorlane::exporting {
 
@@ -21,9 +23,8 @@ struct Point {
   float y = 0.0F;
 };
 
-/// How a network is drawn by the communities at the shown k, the same whenever it is drawn: every
-/// community is a disc of its nodes, the largest in the middle; nodes of several communities stand
-/// between these, nodes of none around all.
+/// How a network is drawn: coloured by the communities at the shown k, and laid out, the same
+/// whenever it is drawn.
 class Picture {
  public:
   explicit Picture(const Selection& selection);
@@ -34,7 +35,7 @@ class Picture {
   [[nodiscard]] Colour Colour_of_community(std::uint32_t community) const;
   /// At the shown k.
   [[nodiscard]] std::size_t Community_count() const { return rank_.size(); }
-  [[nodiscard]] Point Place_of(Node node) const { return places_[node]; }
+  [[nodiscard]] Point Place_of(Node node) const;
   /// The diameter, in the units of places.
   [[nodiscard]] double Size_of(Node node) const;
   /// By node: its communities at the shown k, ascending.
@@ -44,12 +45,11 @@ class Picture {
 
  private:
   void Rank(const Rows& communities);
-  void Place(const Rows& communities);
 
   gns::Row_index holders_;
   std::vector<std::uint32_t> by_size_;  ///< the communities, the largest first
   std::vector<std::uint32_t> rank_;     ///< by community: its place there
-  std::vector<Point> places_;           ///< by node
+  std::shared_ptr<const layout::Layout> layout_;
 };
 
 }  // namespace vorlane::exporting

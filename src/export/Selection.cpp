@@ -24,6 +24,13 @@ Memberships Selection::Memberships() const {
   return {Network().size(), levels};
 }
 
+std::shared_ptr<const layout::Layout> Selection::Layout() const {
+  if (layout_ == nullptr)
+    layout_ = std::make_shared<const layout::Layout>(
+        layout::Layout_of(Network(), queries::Forest(results_)));
+  return layout_;
+}
+
 std::string Attribute(std::string_view name, std::uint32_t k) {
   std::string attribute(name);
   return attribute.append("_k").append(std::to_string(k));

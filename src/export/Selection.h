@@ -1,17 +1,19 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "export/Memberships.h"
+#include "layout/Network_layout.h"
 #include "vorlane/results.h"
 
 namespace vorlane::exporting {
 
-/// What is exported: the communities at one k of some results, or at all.
+/// What is exported: the communities at one k of some results, or at all. Not for several threads.
 class Selection {
  public:
   /// Throws an Error of kind `parameters` if there is no level at `k`.
@@ -28,6 +30,9 @@ class Selection {
 
   /// Of the levels at Ks().
   [[nodiscard]] vorlane::exporting::Memberships Memberships() const;
+
+  /// Of the network and its communities at all k; made at the first call, which may take a while.
+  [[nodiscard]] std::shared_ptr<const layout::Layout> Layout() const;
 
   /// Calls use(first, second, weight) for each link, in the order of nodes; the weight is 1 where
   /// links have none.
@@ -46,6 +51,7 @@ class Selection {
   vorlane::Results results_;
   std::vector<std::uint32_t> ks_;
   std::optional<std::uint32_t> shown_k_;
+  mutable std::shared_ptr<const layout::Layout> layout_;
 };
 
 /// The name of a node's attribute at a k: "communities_k4".
