@@ -14,6 +14,7 @@
 #include "cli/Side_words.h"
 #include "cli/commands/Export_all.h"
 #include "cli/commands/Summary_text.h"
+#include "cli/commands/Title_of.h"
 #include "cli/terminal/Live_display.h"
 #include "cli/terminal/Resources.h"
 #include "cli/terminal/State_lines.h"
@@ -29,6 +30,7 @@
 #include "foundation/io/File_faults.h"
 #include "foundation/paths/Free_space.h"
 #include "foundation/paths/Total_path.h"
+#include "report/Report_file.h"
 
 namespace gns {
 
@@ -50,6 +52,8 @@ class Program_run : private Run_listener {
       order.format = format;
       vorlane::exporting::Refuse_existing_files(Files_of(order));
     }
+    if (const std::string& page = wishes_.output.report; !page.empty())
+      vorlane::exporting::Refuse_existing_files({page}, "report");
     return Report_end(Message());
   }
 
@@ -68,7 +72,7 @@ class Program_run : private Run_listener {
     List_file_faults();
     if (stopped) return Exit_code::stopped;
     if (message != run_finished || !File_faults().empty()) return Exit_code::run_failed;
-    const bool exported = Export();
+    const bool exported = Export_and_report();
     Print_findings();
     Tell(Why_no_communities(summary_, parameters_));
     return exported ? Exit_code::finished : Exit_code::run_failed;
@@ -163,11 +167,16 @@ class Program_run : private Run_listener {
   }
 
   /// Of the results as they stand in their files; false, with the reason told, if that fails.
-  bool Export() const {
-    if (wishes_.output.formats.empty()) return true;
+  bool Export_and_report() const {
+    const std::string& page = wishes_.output.report;
+    if (wishes_.output.formats.empty() && page.empty()) return true;
     try {
       const auto results = vorlane::Results::Open(parameters_.output_dir);
       Export_all(wishes_.output.formats, Order(), {results, std::nullopt});
+      if (page.empty()) return true;
+      vorlane::Report_options options;
+      options.title = Title_of(parameters_.input_file);
+      vorlane::report::Make_report(results, page, options);
       return true;
     } catch (const vorlane::Error& failure) {
       Tell(failure.what());

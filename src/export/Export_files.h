@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "export/Formats.h"
@@ -29,8 +30,9 @@ std::vector<std::string> Files_of(const Export_order& order, const Selection& se
 /// The same as far as they can be told before results are there.
 std::vector<std::string> Files_of(const Export_order& order);
 
-/// Throws an Error of kind `output` if one of the files is there and may not be replaced.
-void Refuse_existing_files(const std::vector<std::string>& files);
+/// Throws an Error of kind `output` if one of the files is there and may not be replaced, which
+/// the `word` of the program could do.
+void Refuse_existing_files(const std::vector<std::string>& files, std::string_view word = "export");
 
 /// Writes the files, each aside first and then under its name, so that none is ever seen in parts.
 /// Throws an Error: of kind `output` if a file can't be written, which then isn't there; `stopped`

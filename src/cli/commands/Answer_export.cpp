@@ -6,6 +6,7 @@
 #include "cli/Side_words.h"
 #include "cli/commands/Answers.h"
 #include "cli/commands/Export_all.h"
+#include "cli/commands/Title_of.h"
 #include "cli/options/Output_options.h"
 #include "export/Export_files.h"
 #include "foundation/Errors.h"
@@ -17,11 +18,6 @@ namespace {
 using vorlane::exporting::Export_order;
 using vorlane::exporting::Format;
 using vorlane::exporting::Selection;
-
-std::string Without_slashes(std::string path) {
-  while (path.size() > 1 && path.ends_with('/')) path.pop_back();
-  return path;
-}
 
 void To_stream(const Format& format, const Selection& selection, std::ostream& out) {
   vorlane::exporting::Stream_sink sink(out);

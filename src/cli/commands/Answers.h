@@ -20,6 +20,9 @@ void Answer_diff(const Word_line& line, std::ostream& out);
 /// Writes files, and their names on `out`.
 void Answer_export(const Word_line& line, std::ostream& out);
 
+/// Writes a page or a picture, and its name on `out`.
+void Answer_report(const Word_line& line, std::ostream& out);
+
 /// The argument of --k, nothing for "all" and without it.
 std::optional<std::uint32_t> K_of(const Word_line& line);
 

@@ -30,13 +30,14 @@ void Answer_help(const Word_line& line, std::ostream& out) {
 using Answer = void (*)(const Word_line& line, std::ostream& out);
 
 Answer Answer_of(const Word& word) {
-  constexpr std::array<std::pair<std::string_view, Answer>, 7> answers = {
+  constexpr std::array<std::pair<std::string_view, Answer>, 8> answers = {
       {{"summary", Answer_summary},
        {"which-k", Answer_which_k},
        {"query", Answer_query},
        {"tree", Answer_tree},
        {"diff", Answer_diff},
        {"export", Answer_export},
+       {"report", Answer_report},
        {"help", Answer_help}}};
   for (const auto& [name, answer] : answers)
     if (name == word.word) return answer;

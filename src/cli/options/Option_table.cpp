@@ -98,6 +98,19 @@ constexpr std::array options{
         .needs_argument = true,
     },
     Option{
+        .word = "--report",
+        .argument = "FILE",
+        .kind = Argument::file,
+        .group = Group::files,
+        .summary = "writes a page to look at the results as well: communities at every k as "
+                   "pictures and tables",
+        .without = "",
+        .description = "Writes the results as one html page as well, which any browser shows, as "
+                       "`vorlane report` does.",
+        .names = {"report", "html"},
+        .needs_argument = true,
+    },
+    Option{
         .word = "-w",
         .argument = "NUMBER",
         .kind = Argument::number,

@@ -27,9 +27,12 @@ std::vector<const vorlane::exporting::Format*> Formats_in(std::string_view names
 }
 
 bool Take_output_option(const Long_argument& given, Output_wishes& wishes) {
-  if (given.option.word != "--export") return false;
-  wishes.formats = Formats_in(given.argument);
-  return true;
+  if (given.option.word == "--export") {
+    wishes.formats = Formats_in(given.argument);
+    return true;
+  }
+  if (given.option.word == "--report") wishes.report = given.argument;
+  return given.option.word == "--report";
 }
 
 }  // namespace gns

@@ -62,6 +62,16 @@ constexpr Option k_only{
 };
 constexpr std::array diff_options{k_only, json, csv};
 
+constexpr Option force{
+
+    .word = "--force",
+    .argument = "",
+    .group = Option::Group::display,
+    .summary = "replaces files that exist",
+    .without = "",
+    .description = "Replaces files that exist, each once the new one is whole.",
+};
+
 constexpr std::array export_options{
     Option{
         .word = "--format",
@@ -93,14 +103,54 @@ constexpr std::array export_options{
                        "several files, or there are several formats, their names begin with FILE. "
                        "Without it they begin with the name of DIR.",
     },
+    force,
+};
+
+constexpr std::array report_options{
     Option{
-        .word = "--force",
+        .word = "-o",
+        .argument = "FILE",
+        .kind = Option::Argument::file,
+        .group = Option::Group::display,
+        .summary = "the page; `-` is standard output for a picture",
+        .without = "the name of DIR with .html behind it",
+        .description = "Writes to FILE; a picture, or the page, has the name of DIR without it.",
+    },
+    Option{
+        .word = "--k",
+        .argument = "K",
+        .kind = Option::Argument::number,
+        .group = Option::Group::display,
+        .summary = "the k that is shown first",
+        .without = "the recommended k",
+        .description = "Shows this k first, or in the picture.",
+        .needs_argument = true,
+    },
+    Option{
+        .word = "--svg",
+        .argument = "PICTURE",
+        .kind = Option::Argument::words,
+        .group = Option::Group::display,
+        .summary =
+            "a picture for print in place of the page: tree (communities in communities over "
+            "all k), graph (the network), distributions",
+        .without = "",
+        .description = "Writes a vector picture for print in place of the page, readable in black "
+                       "and white: `tree` shows which community lies in which over all k, `graph` "
+                       "the network with its communities at one k, or, if it has many nodes, the "
+                       "communities alone, `distributions` the four distributions at one k.",
+        .choices = {"tree", "graph", "distributions"},
+        .needs_argument = true,
+    },
+    Option{
+        .word = "--open",
         .argument = "",
         .group = Option::Group::display,
-        .summary = "replaces files that exist",
+        .summary = "opens the page in the browser",
         .without = "",
-        .description = "Replaces files that exist, each once the new one is whole.",
+        .description = "Opens the page in the browser of the desktop when it is written.",
     },
+    force,
 };
 
 constexpr std::array words{
@@ -175,6 +225,16 @@ constexpr std::array words{
             "Writes the network and the communities in DIR in formats of other programs. Files "
             "that exist are not replaced.",
         .options = export_options,
+    },
+    Word{
+        .word = "report",
+        .arguments = "DIR",
+        .summary = "a page to look at, or a picture for print",
+        .description =
+            "Writes one html page that shows the communities in DIR at every k, as pictures and "
+            "tables. It is a file by itself: it can be sent, kept and opened in any browser of "
+            "these years, without a net. A file that exists is not replaced.",
+        .options = report_options,
     },
     Word{
         .word = "help",

@@ -1,0 +1,4 @@
+declare module "virtual:licences" {
+  const licences: string;
+  export default licences;
+}

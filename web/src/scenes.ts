@@ -1,0 +1,219 @@
+import { row, type Rows } from "./block";
+import { coloursOf, themed } from "./colours";
+import { short } from "./dom";
+import type { Level, Model } from "./model";
+import type { Dot, Line, Scene } from "./scene";
+
+const mostLines = 4000;
+const mostLinks = 60000;
+export const mostMembers = 3000;
+
+/** A level with what its pictures and tables need. */
+export class Shown {
+  readonly colours: string[];
+  readonly holders: Rows; // by node: places
+
+  constructor(
+    readonly model: Model,
+    readonly level: Level,
+  ) {
+    this.colours = coloursOf(level);
+    this.holders = model.holders(level);
+  }
+
+  /** Where there are no levels. */
+  static ofNothing(model: Model): Shown {
+    return new Shown(model, {
+      k: 0,
+      first: 0,
+      end: 0,
+      exact: 0,
+      distributions: { membership: [], size: [], overlap: [], degree: [] },
+      ranked: new Uint32Array(),
+      circles: { x: new Float32Array(), y: new Float32Array(), radius: new Float32Array() },
+    });
+  }
+
+  colourOf(place: number): string {
+    return this.colours[place - this.level.first]!;
+  }
+
+  coloursOfNode(node: number): string[] {
+    return Array.from(row(this.holders, node), (place) => this.colourOf(place));
+  }
+
+  /** For pairs of communities that share nodes, both among `places`: how many. */
+  overlaps(places: Set<number>): Map<string, { a: number; b: number; shared: number }> {
+    const pairs = new Map<string, { a: number; b: number; shared: number }>();
+    for (let node = 0; node < this.model.facts.nodes; ++node) {
+      const { starts, values } = this.holders;
+      const end = starts[node + 1]!;
+      if (end - starts[node]! < 2) continue;
+      for (let i = starts[node]!; i < end; ++i) {
+        if (!places.has(values[i]!)) continue;
+        for (let j = i + 1; j < end; ++j) {
+          if (!places.has(values[j]!)) continue;
+          const key = `${values[i]} ${values[j]}`;
+          const pair = pairs.get(key);
+          if (pair) ++pair.shared;
+          else pairs.set(key, { a: values[i]!, b: values[j]!, shared: 1 });
+        }
+      }
+    }
+    return pairs;
+  }
+
+  /** The members of a community that are best known in it: those with most links. */
+  heads(place: number, count: number): string[] {
+    if (this.model.sizes[place]! > 3000) return [];
+    const nodes = this.model.members(place);
+    const inside = new Set(nodes);
+    const degree = new Map<number, number>(nodes.map((node) => [node, 0]));
+    for (const node of nodes)
+      for (const other of row(this.model.links, node))
+        if (inside.has(other)) {
+          degree.set(node, degree.get(node)! + 1);
+          degree.set(other, degree.get(other)! + 1);
+        }
+    nodes.sort((a, b) => degree.get(b)! - degree.get(a)! || a - b);
+    return nodes.slice(0, count).map((node) => this.model.names[node]!);
+  }
+}
+
+/** The largest communities of a level as circles, with lines between those that share nodes. */
+export function communitiesScene(shown: Shown): Scene {
+  const { level, model } = shown;
+  const count = level.circles.x.length;
+  const drawn = level.ranked.subarray(0, count);
+  const position = new Map<number, number>();
+  const dots: Dot[] = Array.from(drawn, (place, i) => {
+    position.set(place, i);
+    const size = model.sizes[place]!;
+    return {
+      x: level.circles.x[i]!,
+      y: level.circles.y[i]!,
+      radius: level.circles.radius[i]! * 0.88,
+      colours: [shown.colourOf(place)],
+      label: i < 60 ? `${short(shown.heads(place, 1)[0] ?? "", 18)} +${size - 1}` : `${size} nodes`,
+      place,
+    };
+  });
+  const pairs = [...shown.overlaps(new Set(drawn)).values()]
+    .sort((p, q) => q.shared - p.shared || p.a - q.a || p.b - q.b)
+    .slice(0, mostLines);
+  const colour = themed("overlap");
+  const lines = pairs.map(({ a, b, shared }) => ({
+    from: position.get(a)!,
+    to: position.get(b)!,
+    width: Math.min(8, 1 + Math.sqrt(shared)),
+    colour,
+  }));
+  return { dots, lines, inUnits: true };
+}
+
+/** Nodes with pies for those of several communities; links inside a community have its colour. */
+function nodesScene(shown: Shown, nodes: number[], radius: number, focus?: number): Scene {
+  const { model } = shown;
+  const position = new Map<number, number>();
+  nodes.forEach((node, i) => position.set(node, i));
+  const plain = themed("plain-node");
+  const dots: Dot[] = nodes.map((node) => {
+    const colours = shown.coloursOfNode(node);
+    const several = colours.length > 1;
+    return {
+      x: model.x[node]!,
+      y: model.y[node]!,
+      radius: colours.length === 0 ? radius * 0.7 : several ? radius * 1.5 : radius,
+      colours: colours.length === 0 ? [plain] : colours,
+      label: short(model.names[node]!),
+      important: several,
+      faded: focus !== undefined && !row(shown.holders, node).includes(focus),
+      node,
+    };
+  });
+  return { dots, lines: linksAmong(shown, nodes, position), inUnits: false };
+}
+
+function linksAmong(shown: Shown, nodes: number[], position: Map<number, number>): Line[] {
+  const { model } = shown;
+  const outside = themed("plain-link");
+  const arrow = model.facts.method === "directed";
+  const lines: Line[] = [];
+  for (const node of nodes)
+    for (const other of row(model.links, node)) {
+      const to = position.get(other);
+      if (to === undefined) continue;
+      const places = row(shown.holders, node);
+      const shared = row(shown.holders, other).find((place) => places.includes(place));
+      const colour = shared === undefined ? outside : `${shown.colourOf(shared)}66`;
+      lines.push({ from: position.get(node)!, to, width: shared === undefined ? 0.6 : 1, colour, arrow });
+      if (lines.length === mostLinks) return lines;
+    }
+  return lines;
+}
+
+export function networkScene(shown: Shown, focus?: number): Scene {
+  const count = shown.model.facts.nodes;
+  const nodes = Array.from({ length: count }, (_, node) => node);
+  return nodesScene(shown, nodes, Math.max(2, Math.min(9, 110 / Math.sqrt(count))), focus);
+}
+
+/** A community by itself, its members drawn apart from each other. */
+export function membersScene(shown: Shown, place: number): Scene {
+  const nodes = shown.model.members(place).sort((a, b) => a - b);
+  const radius = Math.max(3, Math.min(11, 110 / Math.sqrt(nodes.length)));
+  const scene = nodesScene(shown, nodes, radius);
+  if (nodes.length <= 400) relax(scene);
+  return scene;
+}
+
+/** A few dozen members have no room in the layout of a large network: forces as there, anew. */
+function relax(scene: Scene): void {
+  const { dots, lines } = scene;
+  const middle = { x: 0, y: 0 };
+  for (const dot of dots) {
+    middle.x += dot.x / dots.length;
+    middle.y += dot.y / dots.length;
+  }
+  let reach = 1e-9;
+  for (const dot of dots) reach = Math.max(reach, Math.hypot(dot.x - middle.x, dot.y - middle.y));
+  const side = Math.sqrt(dots.length);
+  dots.forEach((dot, i) => {
+    const turn = 2.399963 * i; // so that none stand at one place
+    dot.x = ((dot.x - middle.x) / reach) * side + 0.05 * Math.cos(turn);
+    dot.y = ((dot.y - middle.y) / reach) * side + 0.05 * Math.sin(turn);
+  });
+  const steps = 150;
+  const moves = dots.map(() => ({ x: 0, y: 0 }));
+  for (let step = 0; step < steps; ++step) {
+    dots.forEach((dot, i) => {
+      const move = moves[i]!;
+      move.x = -0.1 * dot.x;
+      move.y = -0.1 * dot.y;
+      for (const other of dots) {
+        const dx = dot.x - other.x;
+        const dy = dot.y - other.y;
+        const squared = Math.max(dx * dx + dy * dy, 0.01);
+        move.x += dx / squared;
+        move.y += dy / squared;
+      }
+    });
+    for (const { from, to } of lines) {
+      const dx = dots[to]!.x - dots[from]!.x;
+      const dy = dots[to]!.y - dots[from]!.y;
+      const distance = Math.hypot(dx, dy);
+      moves[from]!.x += dx * distance;
+      moves[from]!.y += dy * distance;
+      moves[to]!.x -= dx * distance;
+      moves[to]!.y -= dy * distance;
+    }
+    const longest = 0.5 * (1 - step / steps) + 0.005;
+    dots.forEach((dot, i) => {
+      const move = moves[i]!;
+      const length = Math.hypot(move.x, move.y);
+      const part = length > longest ? longest / length : 1;
+      dot.x += part * move.x;
+      dot.y += part * move.y;
+    });
+  }
+}
