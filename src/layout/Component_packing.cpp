@@ -57,12 +57,28 @@ std::vector<Circle> Circles_around(const std::vector<std::uint32_t>& components,
   return circles;
 }
 
+/// Brings far nodes of each component closer to its middle, and gives close ones room: at the
+/// distance r of a circle's R, a node goes to R (r / R)^0.875.
+void Even_out(const std::vector<std::uint32_t>& components, const std::vector<Circle>& circles,
+              std::vector<Point>& places) {
+  for (std::size_t node = 1; node < places.size(); ++node) {
+    const Circle& circle = circles[components[node]];
+    const double dx = places[node].x - circle.centre.x;
+    const double dy = places[node].y - circle.centre.y;
+    const double part = std::sqrt(dx * dx + dy * dy) / circle.radius;
+    if (part == 0) continue;
+    const double stretch = 1 / std::sqrt(std::sqrt(std::sqrt(part)));
+    places[node] = {circle.centre.x + stretch * dx, circle.centre.y + stretch * dy};
+  }
+}
+
 }  // namespace
 
 void Pack_components(const gns::Row_index& neighbours, std::vector<Point>& places) {
   std::uint32_t count = 0;
   const std::vector<std::uint32_t> components = Components(neighbours, count);
   const std::vector<Circle> before = Circles_around(components, places, count);
+  Even_out(components, before, places);
   std::vector<std::uint32_t> order(count);
   std::iota(order.begin(), order.end(), 0U);
   std::ranges::stable_sort(order, std::ranges::greater(),

@@ -26,3 +26,15 @@ export function coloursOf(level: Level): string[] {
 export function themed(name: string): string {
   return getComputedStyle(document.documentElement).getPropertyValue(`--${name}`).trim();
 }
+
+/** A colour of the form "#rrggbb" with so much of itself, the rest that of the ground. */
+export function pale(colour: string, part: number): string {
+  const ground = themed("card");
+  const mixed = [1, 3, 5].map((at) => {
+    const of = (text: string) => parseInt(text.slice(at, at + 2), 16);
+    return Math.round(part * of(colour) + (1 - part) * of(ground))
+      .toString(16)
+      .padStart(2, "0");
+  });
+  return `#${mixed.join("")}`;
+}

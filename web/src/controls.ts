@@ -32,6 +32,10 @@ export class Controls {
     recommended.textContent = `★ Start at k = ${facts.recommended}`;
     recommended.title = facts.reason ?? "";
     recommended.addEventListener("click", () => actions.chooseK(facts.recommended!));
+    const star = byId("star");
+    star.hidden = facts.recommended === undefined || levels.length < 2;
+    const at = levels.findIndex((level) => level.k === facts.recommended) / (levels.length - 1);
+    star.style.left = `calc(8px + ${at} * (100% - 16px))`; // as the thumb of the slider moves
     this.search.addEventListener("input", () => this.suggest());
     this.search.addEventListener("change", () => this.find());
   }

@@ -33,22 +33,28 @@ export function sceneInSvg(scene: Scene, size = 1000): string {
   const width = Math.ceil(2 * margin + (high.x - low.x) * scale) || 2 * margin;
   const height = Math.ceil(2 * margin + (high.y - low.y) * scale) || 2 * margin;
   const parts = begin(Math.max(width, 200), Math.max(height, 200));
+  for (const dot of scene.dots)
+    if (dot.ground)
+      parts.push(
+        `<circle cx="${short(x(dot.x))}" cy="${short(y(dot.y))}" r="${short(dot.radius * scale)}" fill="${dot.colours[0]}"/>`,
+      );
   for (const { from, to, width: thick, colour } of scene.lines) {
     const a = scene.dots[from]!;
     const b = scene.dots[to]!;
     parts.push(
       `<path d="M${short(x(a.x))} ${short(y(a.y))}L${short(x(b.x))} ${short(y(b.y))}" ` +
-        `stroke="${colour}" stroke-width="${thick}"/>`,
+        `stroke="${colour}" stroke-width="${short(scene.inUnits ? Math.max(1, thick * scale) : thick)}"/>`,
     );
   }
   const text = themed("text");
   const halo = themed("card");
   const labels: string[] = [];
-  scene.dots.forEach((dot, i) => {
+  scene.dots.forEach((dot) => {
+    if (dot.ground) return;
     const radius = scene.inUnits ? dot.radius * scale : dot.radius;
     const at = `${short(x(dot.x))} ${short(y(dot.y))}`;
     parts.push(`<g transform="translate(${at})">${pie(dot.colours, radius)}</g>`);
-    const hasRoom = scene.inUnits ? radius > 14 && i < 60 : scene.dots.length <= 120;
+    const hasRoom = scene.inUnits ? radius > 14 && dot.label !== "" : scene.dots.length <= 120;
     if (hasRoom)
       labels.push(
         `<text transform="translate(${at})" x="${scene.inUnits ? 0 : short(radius + 4)}" y="4" ` +

@@ -10,12 +10,13 @@ export interface Dot {
   faded?: boolean;
   node?: number;
   place?: number;
+  ground?: boolean; // drawn beneath all others, and never chosen
 }
 
 export interface Line {
   from: number; // positions among the dots
   to: number;
-  width: number; // in pixels
+  width: number; // as a radius
   colour: string;
   arrow?: boolean;
 }

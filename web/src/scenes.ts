@@ -1,6 +1,6 @@
 import { row, type Rows } from "./block";
-import { coloursOf, themed } from "./colours";
-import { short } from "./dom";
+import { coloursOf, pale, themed } from "./colours";
+import { counted, figure, short } from "./dom";
 import type { Level, Model } from "./model";
 import type { Dot, Line, Scene } from "./scene";
 
@@ -80,23 +80,26 @@ export class Shown {
   }
 }
 
-/** The largest communities of a level as circles, with lines between those that share nodes. */
+/** The largest communities of a level as circles, with lines between those that share nodes. Those
+    at the next lower k, in which they lie, are their ground. */
 export function communitiesScene(shown: Shown): Scene {
   const { level, model } = shown;
-  const count = level.circles.x.length;
-  const drawn = level.ranked.subarray(0, count);
+  const below = model.levels[model.levels.indexOf(level) - 1];
+  const dots = below ? grounds(model, below) : [];
   const position = new Map<number, number>();
-  const dots: Dot[] = Array.from(drawn, (place, i) => {
-    position.set(place, i);
+  const drawn = level.ranked.subarray(0, level.circles.x.length);
+  drawn.forEach((place, i) => {
+    position.set(place, dots.length);
     const size = model.sizes[place]!;
-    return {
+    const head = i < 80 ? short(shown.heads(place, 1)[0] ?? "", 18) : "";
+    dots.push({
       x: level.circles.x[i]!,
       y: level.circles.y[i]!,
-      radius: level.circles.radius[i]! * 0.88,
+      radius: level.circles.radius[i]! * 0.9,
       colours: [shown.colourOf(place)],
-      label: i < 60 ? `${short(shown.heads(place, 1)[0] ?? "", 18)} +${size - 1}` : `${size} nodes`,
+      label: head === "" ? counted(size, "node") : `${head} +${figure.format(size - 1)}`,
       place,
-    };
+    });
   });
   const pairs = [...shown.overlaps(new Set(drawn)).values()]
     .sort((p, q) => q.shared - p.shared || p.a - q.a || p.b - q.b)
@@ -105,10 +108,22 @@ export function communitiesScene(shown: Shown): Scene {
   const lines = pairs.map(({ a, b, shared }) => ({
     from: position.get(a)!,
     to: position.get(b)!,
-    width: Math.min(8, 1 + Math.sqrt(shared)),
+    width: Math.min(0.01, 0.0012 * Math.sqrt(shared)),
     colour,
   }));
   return { dots, lines, inUnits: true };
+}
+
+function grounds(model: Model, level: Level): Dot[] {
+  const colour = themed("ground");
+  return Array.from(level.circles.x, (x, i) => ({
+    x,
+    y: level.circles.y[i]!,
+    radius: level.circles.radius[i]!,
+    colours: [colour],
+    label: "",
+    ground: true,
+  })).filter((_, i) => model.children.starts[level.ranked[i]!]! < model.children.starts[level.ranked[i]! + 1]!);
 }
 
 /** Nodes with pies for those of several communities; links inside a community have its colour. */
@@ -126,7 +141,7 @@ function nodesScene(shown: Shown, nodes: number[], radius: number, focus?: numbe
       radius: colours.length === 0 ? radius * 0.7 : several ? radius * 1.5 : radius,
       colours: colours.length === 0 ? [plain] : colours,
       label: short(model.names[node]!),
-      important: several,
+      important: several || nodes.length <= 60,
       faded: focus !== undefined && !row(shown.holders, node).includes(focus),
       node,
     };
@@ -137,6 +152,13 @@ function nodesScene(shown: Shown, nodes: number[], radius: number, focus?: numbe
 function linksAmong(shown: Shown, nodes: number[], position: Map<number, number>): Line[] {
   const { model } = shown;
   const outside = themed("plain-link");
+  const strength = 0.5;
+  const paleColours = new Map<number, string>();
+  const paleOf = (place: number) => {
+    let colour = paleColours.get(place);
+    if (!colour) paleColours.set(place, (colour = pale(shown.colourOf(place), strength)));
+    return colour;
+  };
   const arrow = model.facts.method === "directed";
   const lines: Line[] = [];
   for (const node of nodes)
@@ -145,7 +167,7 @@ function linksAmong(shown: Shown, nodes: number[], position: Map<number, number>
       if (to === undefined) continue;
       const places = row(shown.holders, node);
       const shared = row(shown.holders, other).find((place) => places.includes(place));
-      const colour = shared === undefined ? outside : `${shown.colourOf(shared)}66`;
+      const colour = shared === undefined ? outside : paleOf(shared);
       lines.push({ from: position.get(node)!, to, width: shared === undefined ? 0.6 : 1, colour, arrow });
       if (lines.length === mostLinks) return lines;
     }
@@ -155,7 +177,7 @@ function linksAmong(shown: Shown, nodes: number[], position: Map<number, number>
 export function networkScene(shown: Shown, focus?: number): Scene {
   const count = shown.model.facts.nodes;
   const nodes = Array.from({ length: count }, (_, node) => node);
-  return nodesScene(shown, nodes, Math.max(2, Math.min(9, 110 / Math.sqrt(count))), focus);
+  return nodesScene(shown, nodes, Math.max(1.8, Math.min(9, 85 / Math.sqrt(count))), focus);
 }
 
 /** A community by itself, its members drawn apart from each other. */

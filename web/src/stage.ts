@@ -87,10 +87,10 @@ export class Stage {
         y: dot.y,
         size: dot.radius,
         label: dot.label,
-        forceLabel: dot.important === true && scene.dots.length <= 120,
+        forceLabel: dot.important === true && scene.dots.length <= 250,
         type: dot.faded ? "circle" : typeOf(dot.colours),
         color: dot.faded ? faded : dot.colours[0],
-        zIndex: dot.colours.length > 1 ? 1 : 0,
+        zIndex: dot.ground ? 0 : dot.colours.length > 1 ? 2 : 1,
         ...pieOf(dot.colours),
       }),
     );
@@ -110,6 +110,8 @@ export class Stage {
       zoomToSizeRatioFunction: scene.inUnits ? (ratio) => ratio : Math.sqrt,
       labelColor: { color: themed("text") },
       labelFont: "system-ui, sans-serif",
+      minEdgeThickness: 1,
+      defaultDrawNodeLabel: scene.inUnits ? drawInside : drawBeside,
       labelSize: 13,
       labelRenderedSizeThreshold: scene.inUnits ? 12 : 4,
       labelDensity: 0.6,
@@ -123,7 +125,10 @@ export class Stage {
       defaultDrawNodeHover: drawHover,
     });
     const dotOf = (node: string) => this.scene.dots[Number(node)];
-    sigma.on("clickNode", ({ node }) => this.onClick(dotOf(node)));
+    sigma.on("clickNode", ({ node }) => {
+      const dot = dotOf(node);
+      this.onClick(dot?.ground ? undefined : dot);
+    });
     sigma.on("clickStage", () => this.onClick(undefined));
     sigma.on("enterNode", () => (this.container.style.cursor = "pointer"));
     sigma.on("leaveNode", () => (this.container.style.cursor = ""));
@@ -156,10 +161,37 @@ function reference(scene: Scene): "positions" | "screen" {
   return scene.inUnits ? "positions" : "screen";
 }
 
+interface Drawn {
+  x: number;
+  y: number;
+  size: number;
+  label?: string | null;
+}
+
+function drawText(context: CanvasRenderingContext2D, text: string, x: number, y: number): void {
+  context.font = "13px system-ui, sans-serif";
+  context.lineJoin = "round";
+  context.lineWidth = 3;
+  context.strokeStyle = themed("card");
+  context.strokeText(text, x, y);
+  context.fillStyle = themed("text");
+  context.fillText(text, x, y);
+}
+
+function drawBeside(context: CanvasRenderingContext2D, data: Drawn): void {
+  if (data.label) drawText(context, data.label, data.x + data.size + 3, data.y + 4);
+}
+
+function drawInside(context: CanvasRenderingContext2D, data: Drawn): void {
+  if (!data.label) return;
+  context.font = "13px system-ui, sans-serif";
+  drawText(context, data.label, data.x - context.measureText(data.label).width / 2, data.y + 4);
+}
+
 /** A plate with the name beside the dot, in the colours of the page. */
 function drawHover(
   context: CanvasRenderingContext2D,
-  data: { x: number; y: number; size: number; label: string | null },
+  data: Drawn,
 ): void {
   const radius = data.size + 3;
   context.strokeStyle = themed("text");

@@ -1,5 +1,6 @@
-import { hierarchy, partition, type HierarchyRectangularNode } from "d3-hierarchy";
+import { hierarchy, type HierarchyNode, partition, type HierarchyRectangularNode } from "d3-hierarchy";
 import { themed } from "./colours";
+import { figure } from "./dom";
 import type { Model } from "./model";
 import type { Shown } from "./scenes";
 
@@ -20,7 +21,8 @@ export interface Rect {
 }
 
 const axis = 46;
-const narrow = 0.4;
+const narrow = 0.3;
+const mostBlocks = 600;
 
 /** The communities of all k, one standing on another: rows of k, tightest on top. */
 export class Tree {
@@ -47,10 +49,13 @@ export class Tree {
     const root = hierarchy<Block>(ground, (block) =>
       (block.place < 0 ? roots : [...childrenOf(model, block.top)]).map(blockAt),
     );
+    this.all = root.descendants().length - 1;
+    this.isPruned = this.all > mostBlocks;
+    if (this.isPruned) prune(root, (block) => model.sizes[block.place]! * (levelOf[block.top]! - levelOf[block.place]! + 1));
     root.eachAfter((node) => {
       const inside = node.children?.reduce((sum, child) => sum + child.value!, 0) ?? 0;
       const own = node.data.place < 0 ? 0 : model.sizes[node.data.place]!;
-      (node as { value?: number }).value = Math.max(own, inside);
+      (node as { value?: number }).value = Math.max(this.isPruned ? Math.sqrt(own) : own, inside);
     });
     root.sort((a, b) => b.value! - a.value! || a.data.place - b.data.place);
     this.blocks = partition<Block>()(root).descendants().slice(1);
@@ -58,6 +63,15 @@ export class Tree {
   }
 
   private readonly levelOf: Int32Array;
+  private readonly all: number;
+  private readonly isPruned: boolean;
+
+  legend(): string {
+    const blocks = this.isPruned
+      ? `The ${mostBlocks} of ${figure.format(this.all)} blocks that are largest and last longest; the wider, the more nodes.`
+      : "Each block is a community, as wide as its number of nodes.";
+    return `${blocks} It stands on the community that holds it. Click a row to see that k.`;
+  }
 
   /** Finds room for all blocks; rows of small k are higher, since more happens there. */
   layOut(width: number, height: number): void {
@@ -196,6 +210,24 @@ export class Tree {
     }
     return chain;
   }
+}
+
+/** Keeps the blocks of the highest scores, with those on which they stand. */
+function prune(root: HierarchyNode<Block>, score: (block: Block) => number): void {
+  const best = new Map<HierarchyNode<Block>, number>();
+  root.eachAfter((node) => {
+    const own = node.data.place < 0 ? Infinity : score(node.data);
+    best.set(node, own);
+  });
+  root.eachAfter((node) => {
+    if (node.parent) best.set(node.parent, Math.max(best.get(node.parent)!, best.get(node)!));
+  });
+  const least = Float64Array.from(best.values()).sort().at(-mostBlocks - 1)!;
+  root.eachBefore((node) => {
+    const kept = node.children?.filter((child) => best.get(child)! >= least);
+    if (kept && kept.length > 0) node.children = kept;
+    else delete node.children;
+  });
 }
 
 function childrenOf(model: Model, place: number): Uint32Array {

@@ -15,6 +15,7 @@ export class TreeBox {
     private readonly model: Model,
     private readonly actions: Actions,
   ) {
+    byId("tree-legend").textContent = tree.legend();
     this.canvas.addEventListener("click", (event) => this.click(event));
     this.canvas.addEventListener("pointermove", (event) => this.point(event));
     this.canvas.addEventListener("pointerleave", () => (this.tip.hidden = true));

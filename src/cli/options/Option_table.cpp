@@ -107,7 +107,7 @@ constexpr std::array options{
         .without = "",
         .description = "Writes the results as one html page as well, which any browser shows, as "
                        "`vorlane report` does.",
-        .names = {"report", "html"},
+        .names = {"report"},
         .needs_argument = true,
     },
     Option{
