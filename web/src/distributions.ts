@@ -14,6 +14,7 @@ const kinds = [
 /** The four distributions of a level, as points on scales of powers of ten and as tables. */
 export function showDistributions(root: HTMLElement, level: Level): void {
   root.replaceChildren();
+  const draws: (() => void)[] = []; // when all have their places, and so their widths
   for (const [name, question, across, upwards] of kinds) {
     const distribution = level.distributions[name];
     const zero = distribution.find(([value]) => value === 0)?.[1] ?? 0;
@@ -39,8 +40,9 @@ export function showDistributions(root: HTMLElement, level: Level): void {
       ),
     );
     root.append(section);
-    draw(plot, distribution, across, upwards);
+    draws.push(() => draw(plot, distribution, across, upwards));
   }
+  draws.forEach((start) => start());
 }
 
 function draw(plot: HTMLElement, distribution: Distribution, across: string, upwards: string): void {

@@ -4,7 +4,7 @@ import { counted, figure, short } from "./dom";
 import type { Level, Model } from "./model";
 import type { Dot, Line, Scene } from "./scene";
 
-const mostLines = 4000;
+const mostLines = 1500;
 const mostLinks = 60000;
 export const mostMembers = 3000;
 
@@ -141,7 +141,7 @@ function nodesScene(shown: Shown, nodes: number[], radius: number, focus?: numbe
       radius: colours.length === 0 ? radius * 0.7 : several ? radius * 1.5 : radius,
       colours: colours.length === 0 ? [plain] : colours,
       label: short(model.names[node]!),
-      important: several || nodes.length <= 60,
+      important: nodes.length <= 60,
       faded: focus !== undefined && !row(shown.holders, node).includes(focus),
       node,
     };
@@ -152,7 +152,9 @@ function nodesScene(shown: Shown, nodes: number[], radius: number, focus?: numbe
 function linksAmong(shown: Shown, nodes: number[], position: Map<number, number>): Line[] {
   const { model } = shown;
   const outside = themed("plain-link");
-  const strength = 0.5;
+  const thick = 2;
+  const thin = 1.2;
+  const strength = 0.6;
   const paleColours = new Map<number, string>();
   const paleOf = (place: number) => {
     let colour = paleColours.get(place);
@@ -168,9 +170,10 @@ function linksAmong(shown: Shown, nodes: number[], position: Map<number, number>
       const places = row(shown.holders, node);
       const shared = row(shown.holders, other).find((place) => places.includes(place));
       const colour = shared === undefined ? outside : paleOf(shared);
-      lines.push({ from: position.get(node)!, to, width: shared === undefined ? 0.6 : 1, colour, arrow });
-      if (lines.length === mostLinks) return lines;
+      lines.push({ from: position.get(node)!, to, width: thick, colour, arrow });
+      if (lines.length === mostLinks) break;
     }
+  if (lines.length > 500) for (const line of lines) line.width = thin;
   return lines;
 }
 

@@ -20,7 +20,7 @@ export interface Rect {
   top: number;
 }
 
-const axis = 46;
+const axis = 56;
 const narrow = 0.3;
 const mostBlocks = 600;
 
