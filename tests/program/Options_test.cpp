@@ -13,7 +13,8 @@ class Options : public ::testing::Test {
  protected:
   /// The exit code of a run with these words behind an input and an output.
   int Run(Words words) {
-    std::filesystem::remove_all(temp_.Path("out"));
+    for (const char* const made : {"out", "out.html"})
+      std::filesystem::remove_all(temp_.Path(made));
     words.insert(words.begin(), {"-i", "net", "-o", "out"});
     Child child(temp_, words);
     const int code = child.Wait();
@@ -42,6 +43,7 @@ class Options : public ::testing::Test {
 
   static std::string Suiting(const std::string& argument) {
     if (argument.starts_with("FILE ")) return "net";
+    if (argument.starts_with("PAGE ")) return "out.html";
     if (argument.starts_with("FORMAT ")) return "links";
     if (argument.starts_with("FORMATS ")) return "csv";
     if (argument.starts_with("A,B,W ")) return "2,1";

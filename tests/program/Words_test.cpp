@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 
 #include "Child.h"
@@ -152,6 +153,59 @@ TEST_F(ProgramWords, JsonHoldsAnyName) {
   EXPECT_NE(out_.find("\"nodes\":[\"\\\"q\\\"\",\"\\\\b\\\\\",\"\xEF\xBF\xBD\\u0001\"]"),
             std::string::npos)
       << out_;
+}
+
+TEST_F(ProgramWords, ReportWritesPagesAndPictures) {
+  ASSERT_EQ(Run({"report", "out/"}), 0) << err_;
+  EXPECT_EQ(out_, "out.html\n");
+  const std::string page = temp_.Read("out.html");
+  EXPECT_NE(page.find("<title>out · "), std::string::npos);
+  EXPECT_EQ(Run({"report", "out"}), 1);
+  EXPECT_EQ(err_,
+            "vorlane: 'out.html' exists; move it away, or replace it by vorlane report --force.\n");
+  EXPECT_EQ(Run({"report", "out", "--force", "--k", "3"}), 0) << err_;
+  EXPECT_NE(temp_.Read("out.html"), page) << "another k is shown first";
+  ASSERT_EQ(Run({"report", "out", "--svg", "tree"}), 0) << err_;
+  EXPECT_EQ(out_, "out.tree.svg\n");
+  const std::string tree = temp_.Read("out.tree.svg");
+  ASSERT_EQ(Run({"report", "out", "--svg=tree", "-o", "-"}), 0) << err_;
+  EXPECT_EQ(out_, tree);
+  ASSERT_EQ(Run({"-i", "net", "-o", "again", "--report", "again.html"}), 0) << err_;
+  EXPECT_NE(temp_.Read("again.html").find("<title>net · "), std::string::npos);
+  EXPECT_EQ(Run({"-i", "net", "-o", "third", "--report=again.html"}), 1) << "the run went on";
+  EXPECT_FALSE(std::filesystem::exists(temp_.Path("third")));
+}
+
+TEST_F(ProgramWords, ReportTellsWhatIsWrong) {
+  std::filesystem::create_directory(temp_.Path("foreign"));
+  const struct {
+    Words words;
+    int code;
+    const char* told;
+  } cases[] = {
+      {{"report"}, 2, "'report' needs more than that."},
+      {{"report", "foreign"}, 1, "foreign"},
+      {{"report", "out", "--svg", "pie"}, 2, "There is no picture 'pie'; there are tree, graph"},
+      {{"report", "out", "--k", "9"}, 2, "There is no level at k = 9; the levels are those of k"},
+      {{"report", "out", "-o", "-"}, 2, "Standard output takes a picture, no page"},
+      {{"report", "out", "-o", "none/page.html"}, 1, "'none/page.html' can't be written"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(Run(c.words), c.code) << c.told;
+    EXPECT_NE(err_.find(c.told), std::string::npos) << err_;
+  }
+  std::filesystem::remove(temp_.Path("out/k=3/communities"));
+  EXPECT_EQ(Run({"report", "out"}), 1);
+  EXPECT_NE(err_.find("k=3/communities"), std::string::npos) << err_;
+  EXPECT_FALSE(std::filesystem::exists(temp_.Path("out.html")));
+}
+
+TEST_F(ProgramWords, ReportOfAnUnfinishedRunSaysSo) {
+  temp_.Write("out/.unfinished", "");
+  EXPECT_EQ(Run({"report", "out", "-o", "page.html"}), 0) << err_;
+  EXPECT_EQ(err_,
+            "vorlane: warning: the run in 'out' has not finished; what it has found so far is "
+            "shown.\n");
 }
 
 }  // namespace

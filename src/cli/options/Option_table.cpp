@@ -99,7 +99,7 @@ constexpr std::array options{
     },
     Option{
         .word = "--report",
-        .argument = "FILE",
+        .argument = "PAGE",
         .kind = Argument::file,
         .group = Group::files,
         .summary = "writes a page to look at the results as well: communities at every k as "
