@@ -282,6 +282,23 @@ VORLANE_C_API vorlane_code vorlane_results_export(const vorlane_results *results
                                                   const char *format, uint32_t k, const char *path,
                                                   int overwrite);
 
+/* Writes one html page that needs nothing else: communities at every k as pictures and tables. `k` is
+   shown first; 0: the recommended one. `title` may be NULL. */
+VORLANE_C_API vorlane_code vorlane_results_report(const vorlane_results *results, const char *path,
+                                                  const char *title, uint32_t k, int overwrite,
+                                                  vorlane_control *control);
+
+typedef enum vorlane_figure {
+  VORLANE_TREE = 0,         /* the communities at all k, one inside another */
+  VORLANE_GRAPH = 1,        /* the network at a k, or its communities if it has many nodes */
+  VORLANE_DISTRIBUTIONS = 2 /* of a k: sizes, memberships, overlaps, degrees */
+} vorlane_figure;
+
+/* A picture as an SVG document, which lives until the same results are asked for another one. */
+VORLANE_C_API vorlane_code vorlane_results_figure(const vorlane_results *results,
+                                                  vorlane_figure which, uint32_t k,
+                                                  vorlane_control *control, const char **svg);
+
 /* ---- Comparing ---- */
 
 typedef struct vorlane_comparison vorlane_comparison;

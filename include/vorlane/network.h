@@ -25,8 +25,8 @@ struct Link_options {
   /// Of files: "links", "csv", "tsv", "graphml", "pajek", "matrix" or "metis"; empty: by the
   /// ending.
   std::string format;
-  /// Of csv and tsv: the columns of both names and, if there is one, the weight; by their names in
-  /// the first line or their numbers from 1. Empty: told by well-known names, else the first ones.
+  /// Of csv and tsv: columns of the names and perhaps the weight, by name or number; empty: known
+  /// ones.
   std::vector<std::string> columns;
 };
 

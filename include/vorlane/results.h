@@ -65,9 +65,8 @@ class VORLANE_API Results {
   /// such node.
   [[nodiscard]] std::optional<std::vector<Place>> Places_of(std::string_view name) const;
 
-  /// Writes what Find() has found into a directory, as a Results_writer does and with its errors;
-  /// levels are found once more for it. Of a directory's results it throws an Error of kind
-  /// `parameters`. Not to be used by several threads into one directory.
+  /// Writes what Find() has found, as a Results_writer does and with its errors; levels are found
+  /// once more for it. Of a directory's results it throws an Error of kind `parameters`.
   void Write(const std::string& directory, const std::string& source,
              const Control& control = {}) const;
 
@@ -83,11 +82,11 @@ class VORLANE_API Results {
 /// All at once: the cliques and all levels of a network, in memory. Throws as an Analysis.
 VORLANE_API Results Find(const Network& network, const Options& options = {},
                          const Control& control = {});
-/// The same from all cliques of the network, found before: for other options, without searching.
-/// Throws an Error of kind `input` if they can't be such.
+/// The same without a search, from all cliques of the network that were found before; throws an
+/// Error of kind `input` if they can't be such.
 VORLANE_API Results Find(const Network& network, const Cliques& known, const Options& options = {},
                          const Control& control = {});
-/// As the first one, written to a directory as it is found, as by a Results_writer.
+/// As the first one, written as it is found, as by a Results_writer.
 VORLANE_API Results Find_and_write(const Network& network, const Options& options,
                                    const std::string& directory, const std::string& source,
                                    const Control& control = {});

@@ -292,6 +292,23 @@ TEST(CFace, AStopEndsAFindUntilTheReset) {
   EXPECT_EQ(vorlane_control_report(control.get(), nullptr, 0), length);
 }
 
+TEST(CFace, ReportsAndFiguresAreMade) {
+  const gns::Temp_dir temp;
+  const Results found = Find(Read(gns::Sample_links("overlapping")));
+  const std::string page = temp.Path("page.html");
+  EXPECT_EQ(vorlane_results_report(found.get(), page.c_str(), "A & B", 3, 0, nullptr), VORLANE_OK);
+  EXPECT_NE(temp.Read("page.html").find("A &amp; B"), std::string::npos);
+  EXPECT_EQ(vorlane_results_report(found.get(), page.c_str(), nullptr, 3, 0, nullptr),
+            VORLANE_OUTPUT);
+  const char* svg = nullptr;
+  for (const auto which : {VORLANE_TREE, VORLANE_GRAPH, VORLANE_DISTRIBUTIONS}) {
+    EXPECT_EQ(vorlane_results_figure(found.get(), which, 0, nullptr, &svg), VORLANE_OK);
+    EXPECT_NE(std::strstr(svg, "</svg>"), nullptr);
+  }
+  EXPECT_EQ(vorlane_results_figure(found.get(), VORLANE_GRAPH, 99, nullptr, &svg),
+            VORLANE_PARAMETERS);
+}
+
 TEST(CFace, CoversAreCompared) {
   const std::size_t starts[] = {0, 3, 6};
   const std::uint32_t before[] = {1, 2, 3, 4, 5, 6};

@@ -24,5 +24,6 @@ struct vorlane_results {
   mutable std::optional<vorlane::queries::Summary> summary;
   mutable std::vector<vorlane_summary> summary_shown;
   mutable std::string reason;
+  mutable std::string figure;
   mutable std::optional<std::vector<vorlane_tree_node>> tree;
 };

@@ -8,6 +8,7 @@ import re
 from collections import Counter
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
+from xml.etree import ElementTree
 
 import numpy as np
 import pytest
@@ -207,6 +208,20 @@ def test_exports(tmp_path: Path) -> None:
         r.export(tmp_path / "picture.gif")
     with pytest.raises(vl.UnknownK):
         r.export(tmp_path / "x.json", k=77)
+
+
+def test_reports_and_figures(found: vl.Results, tmp_path: Path) -> None:
+    found.report(tmp_path / "page.html", title="<b>")
+    assert "<title>&lt;b&gt;" in (tmp_path / "page.html").read_text()
+    with pytest.raises(vl.OutputError, match="page.html"):
+        found.report(tmp_path / "page.html")
+    for which in ("tree", "graph", "distributions"):
+        ElementTree.fromstring(found.figure(which, k=found.ks[0] if found.ks else None))
+    assert ("data:image/svg+xml" in found._repr_html_()) == bool(found.ks)
+    with pytest.raises(vl.ParameterError, match="not 'pie'"):
+        found.figure("pie")
+    with pytest.raises(vl.UnknownK):
+        found.report(tmp_path / "other.html", k=99)
 
 
 def test_a_time_limit_leaves_approximate_communities(tmp_path: Path) -> None:

@@ -168,6 +168,8 @@ FUNCTIONS: dict[str, tuple[Any, list[Any]]] = {
     "vorlane_results_tree": (c_int, [Handle, _array_out, _number_out]),
     "vorlane_results_write": (c_int, [Handle, c_char_p, c_char_p, Handle]),
     "vorlane_results_export": (c_int, [Handle, c_char_p, c_uint32, c_char_p, c_int]),
+    "vorlane_results_report": (c_int, [Handle, c_char_p, c_char_p, c_uint32, c_int, Handle]),
+    "vorlane_results_figure": (c_int, [Handle, c_int, c_uint32, Handle, POINTER(c_char_p)]),
     "vorlane_compare": (c_int, [c_uint32, POINTER(Rows), POINTER(Rows), _handle_out]),
     "vorlane_comparison_look": (None, [Handle, POINTER(ComparisonView)]),
     "vorlane_comparison_free": (None, [Handle]),

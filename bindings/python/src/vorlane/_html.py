@@ -1,7 +1,8 @@
-"""How results show themselves in a notebook."""
+"""How results show themselves in a notebook: a table, and small ones in a figure."""
 
 from __future__ import annotations
 
+from base64 import b64encode
 from html import escape
 from typing import TYPE_CHECKING
 
@@ -9,6 +10,7 @@ if TYPE_CHECKING:
     from .results import LevelSummary, Results
 
 _MOST_ROWS = 20
+_MOST_IN_FIGURE = 2000  # communities; more take their time, and can't be told apart
 _HEADS = ("k", "communities", "largest", "covered nodes", "in several")
 
 
@@ -16,7 +18,8 @@ def table(results: Results) -> str:
     """A row for each k, equal neighbours folded, the recommended one marked; self-contained."""
     choice = results.which_k()
     nodes = len(results._network)
-    rows = _folded(results.summary(), choice.k)
+    levels = results.summary()
+    rows = _folded(levels, choice.k)
     hidden = len(rows) - _MOST_ROWS
     body = "".join(_row(level, k, k_text, nodes, choice.k) for level, k, k_text in rows[-_MOST_ROWS:])
     above = f"<p>{hidden} rows of larger k are left out.</p>" if hidden > 0 else ""
@@ -24,8 +27,17 @@ def table(results: Results) -> str:
     return (
         f"<div><p>{escape(repr(results)[1:-1])}</p>{above}"
         f"<table><thead><tr>{heads}</tr></thead><tbody>{body}</tbody></table>"
-        f"<p>{escape(choice.reason)}</p></div>"
+        f"<p>{escape(choice.reason)}</p>{_figure(results, levels)}</div>"
     )
+
+
+def _figure(results: Results, levels: list[LevelSummary]) -> str:
+    """The communities over all k, as a picture that scripts and styles of the page can't touch."""
+    if not 0 < sum(level.communities for level in levels) <= _MOST_IN_FIGURE:
+        return ""
+    svg = b64encode(results.figure("tree").encode()).decode()
+    text = "The communities at every k, each inside the one that holds it at the next lower k"
+    return f'<img alt="{text}" style="max-width:36em" src="data:image/svg+xml;base64,{svg}">'
 
 
 def _folded(

@@ -22,6 +22,7 @@ from .errors import OutputError, ParameterError
 from .level import Level
 
 _METHODS = ("undirected", "directed", "intensity")
+_FIGURES = ("tree", "graph", "distributions")
 
 
 class LevelSummary(NamedTuple):
@@ -280,16 +281,43 @@ class Results(Mapping[int, Level]):
         A format of several files puts their endings behind ``path``."""
         if format is None:
             format = os.path.splitext(os.fspath(path))[1].lstrip(".")
-        if k is not None:
-            self._refuse_unknown(k)
         call(
             "vorlane_results_export",
             self._owner.pointer,
             format.encode(),
-            k or 0,
+            self._known_or_0(k),
             os.fsencode(path),
             overwrite,
         )
+
+    def report(
+        self,
+        path: str | os.PathLike[str],
+        title: str | None = None,
+        k: int | None = None,
+        overwrite: bool = False,
+    ) -> None:
+        """Writes one html page that needs nothing else: communities at every k as pictures and
+        tables, to open, send and print. ``k`` is shown first, else the recommended one."""
+        control = Control()
+        name = None if title is None else title.encode()
+        arguments = os.fsencode(path), name, self._known_or_0(k), overwrite, control.pointer
+        run(lambda: call("vorlane_results_report", self._owner.pointer, *arguments), control)
+
+    def figure(self, which: str = "tree", k: int | None = None) -> str:
+        """A picture for print as an SVG document: the "tree" of communities over all k, the "graph"
+        at a k, or the "distributions" of a k."""
+        if which not in _FIGURES:
+            raise ParameterError(f"A figure is one of {_FIGURES}, not {which!r}.")
+        control, svg = Control(), ctypes.c_char_p()
+        arguments = _FIGURES.index(which), self._known_or_0(k), control.pointer, ctypes.byref(svg)
+        run(lambda: call("vorlane_results_figure", self._owner.pointer, *arguments), control)
+        return (svg.value or b"").decode()
+
+    def _known_or_0(self, k: int | None) -> int:
+        if k is not None:
+            self._refuse_unknown(k)
+        return k or 0
 
     def __reduce__(self) -> tuple[Any, ...]:
         if self._directory is not None:
