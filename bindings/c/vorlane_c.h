@@ -154,9 +154,13 @@ typedef struct vorlane_network_view {
   const double *weights; /* in the order of links.values, or NULL */
   const uint32_t *given; /* by node from 0 to size: its number in vorlane_links, or NULL */
   size_t name_bytes;     /* of all names together */
+  size_t warning_count;
 } vorlane_network_view;
 
 VORLANE_C_API void vorlane_network_look(const vorlane_network *network, vorlane_network_view *view);
+/* What in the file can't have been meant as it stands, with the line and the cure: the sentence
+   `warning` of warning_count, or NULL. */
+VORLANE_C_API const char *vorlane_network_warning(const vorlane_network *network, size_t warning);
 /* The names of all nodes: writes name_bytes bytes to `names` and size + 1 places to `starts`. */
 VORLANE_C_API void vorlane_network_names(const vorlane_network *network, char *names,
                                          size_t *starts);

@@ -54,6 +54,9 @@ class VORLANE_API Network {
   [[nodiscard]] Node size() const;
   [[nodiscard]] std::size_t Link_count() const;
   [[nodiscard]] const Link_options& How_taken() const;
+  /// What in the file can't have been meant as it stands, with the line and the cure; a sentence
+  /// each.
+  [[nodiscard]] const std::vector<std::string>& Warnings() const;
 
   /// The name of a node, in UTF-8 if the input was; empty for 0 and beyond size(). Of a network
   /// from numbers without names, the number in decimals. Valid as long as a copy of the network.

@@ -112,11 +112,6 @@ std::string Way_out(const std::exception& failure) {
   return file == nullptr ? "" : Of_other_kind(*file);
 }
 
-std::string In_words(const Link_file_warning& warning, const std::string& file) {
-  return "warning: " + file + ", line " + std::to_string(warning.line) + ": " + warning.fault +
-         "; " + warning.cure;
-}
-
 std::string Why_no_links(std::size_t links, const Link_counts& counts, const std::string& file) {
   if (links > 0) return "";
   const std::string in_file = " in " + file;

@@ -23,9 +23,6 @@ bool Outputs_are_one();
 /// Where and why a run failed, and what to do; empty where the message tells all that there is.
 std::string Way_out(const std::exception& failure);
 
-/// A warning on a link file.
-std::string In_words(const Link_file_warning& warning, const std::string& file);
-
 /// Why a run has no links; empty if it has.
 std::string Why_no_links(std::size_t links, const Link_counts& counts, const std::string& file);
 

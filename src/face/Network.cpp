@@ -37,8 +37,9 @@ namespace face {
 
 /// `number_of_name[i]`: the number that was given for the name at place i of the links.
 Network Network_of(gns::Link_map links, const Link_options& options,
-                   std::vector<Node> number_of_name) {
+                   std::vector<Node> number_of_name, std::vector<std::string> warnings) {
   auto body = std::make_shared<Network::Body>();
+  body->warnings = std::move(warnings);
   body->options = options;
   body->links_as_given = std::move(links);
   gns::Named_graph& graph = body->graph;
@@ -70,15 +71,19 @@ Network Network::Read(const std::string& path, const Link_options& options,
                                  taken.min_weight.value_or(0), taken.max_weight.has_value(),
                                  taken.max_weight.value_or(0)};
     gns::Link_map links;
-    gns::Link_file_check unheard;
-    gns::Read_network_file(path, Wishes_of(taken), rule, links, unheard);
-    return face::Network_of(std::move(links), taken);
+    gns::Link_file_check check;
+    gns::Read_network_file(path, Wishes_of(taken), rule, links, check);
+    std::vector<std::string> warnings;
+    for (const gns::Link_file_warning& warning : check.Warnings())
+      warnings.push_back(gns::In_words(warning, path));
+    return face::Network_of(std::move(links), taken, {}, std::move(warnings));
   });
 }
 
 Node Network::size() const { return body_->graph.Node_count(); }
 std::size_t Network::Link_count() const { return body_->graph.links.size(); }
 const Link_options& Network::How_taken() const { return body_->options; }
+const std::vector<std::string>& Network::Warnings() const { return body_->warnings; }
 std::string_view Network::Name(Node node) const { return body_->graph.names[node]; }
 
 std::optional<Node> Network::Find(std::string_view name) const {

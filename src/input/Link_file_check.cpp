@@ -189,4 +189,9 @@ std::string Link_file_check::To_new_file(const std::string& command) const {
   return unpacking_ + " " + Shell_word(path_) + " | " + command + " > NEW_FILE";
 }
 
+std::string In_words(const Link_file_warning& warning, const std::string& file) {
+  return file + ", line " + std::to_string(warning.line) + ": " + warning.fault + "; " +
+         warning.cure;
+}
+
 }  // namespace gns

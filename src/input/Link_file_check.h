@@ -18,6 +18,9 @@ struct Link_file_warning {
   std::string cure;   ///< what to do about it
 };
 
+/// "FILE, line 3: the names end with a comma; ..."
+std::string In_words(const Link_file_warning& warning, const std::string& file);
+
 /// Watches a link file being read, once from front to end, and notes each kind of thing that can't
 /// be meant once. It changes nothing about what a line means.
 class Link_file_check {

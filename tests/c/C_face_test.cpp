@@ -222,6 +222,16 @@ TEST(CFace, AnswersAreTheSameFromMemoryAndFromADirectory) {
   EXPECT_GT(std::strlen(reason), 10U);
 }
 
+TEST(CFace, WarningsOnAFileAreKept) {
+  const gns::Temp_dir temp;
+  const Network network = Read(temp.Write("links", "a, b\nb, c\n"));
+  ASSERT_EQ(Look(network.get()).warning_count, 1U);
+  const std::string warning = vorlane_network_warning(network.get(), 0);
+  EXPECT_NE(warning.find("links, line 1: commas, semicolons or bars"), std::string::npos)
+      << warning;
+  EXPECT_EQ(vorlane_network_warning(network.get(), 1), nullptr);
+}
+
 /// What fails tells its kind, its words and its place, and hands nothing out.
 TEST(CFace, FailuresAreCodesWithWords) {
   const gns::Temp_dir temp;

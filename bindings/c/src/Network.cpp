@@ -143,10 +143,16 @@ void vorlane_network_look(const vorlane_network* network, vorlane_network_view* 
   view->link_count = of.Link_count();
   view->directed = of.How_taken().directed;
   view->weighted = of.How_taken().weighted;
+  view->warning_count = of.Warnings().size();
   view->links = vorlane::c::View_of(of.Links());
   view->weights = of.Weights().Values().data();
   view->given = of.Given_numbers().Values().data();
   for (vorlane::Node node = 1; node <= of.size(); ++node) view->name_bytes += of.Name(node).size();
+}
+
+const char* vorlane_network_warning(const vorlane_network* network, size_t warning) {
+  const auto& warnings = network->network.Warnings();
+  return warning < warnings.size() ? warnings[warning].c_str() : nullptr;
 }
 
 void vorlane_network_names(const vorlane_network* network, char* names, size_t* starts) {

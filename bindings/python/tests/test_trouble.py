@@ -102,6 +102,16 @@ def test_the_place_in_a_file(tmp_path: Path) -> None:
     assert (failure.value.source, failure.value.line, failure.value.column) == (str(path), 2, 5)
 
 
+def test_a_file_that_can_not_be_meant_so_is_told(tmp_path: Path) -> None:
+    path = tmp_path / "links.txt"
+    path.write_text("from,to\na,b\nb,c\nc,a\n")
+    with pytest.raises(vl.InputError, match="links.txt"):
+        vl.find(path)
+    path.write_text("a, b\nb, c\nc, a\n")
+    with pytest.warns(vl.InputWarning, match="links.txt, line 1: .*comma"):
+        vl.find(path)
+
+
 @pytest.mark.parametrize(
     ("options", "words"),
     [

@@ -13,7 +13,15 @@ from ._compare import Change, Comparison, compare
 from ._control import Control, Progress
 from ._find import find, load
 from ._library import version as __version__
-from .errors import Error, InputError, MemoryExceeded, OutputError, ParameterError, Stopped
+from .errors import (
+    Error,
+    InputError,
+    InputWarning,
+    MemoryExceeded,
+    OutputError,
+    ParameterError,
+    Stopped,
+)
 from .level import Level
 from .results import Distributions, LevelSummary, Results, TreeNode, UnknownK, WhichK
 
@@ -24,6 +32,7 @@ __all__ = [
     "Distributions",
     "Error",
     "InputError",
+    "InputWarning",
     "Level",
     "LevelSummary",
     "MemoryExceeded",

@@ -69,6 +69,7 @@ class NetworkView(ctypes.Structure):
         ("weights", c_void_p),
         ("given", c_void_p),
         ("name_bytes", c_size_t),
+        ("warning_count", c_size_t),
     ]
 
 
@@ -149,6 +150,7 @@ FUNCTIONS: dict[str, tuple[Any, list[Any]]] = {
     "vorlane_network_from_links": (c_int, [POINTER(Links), POINTER(LinkOptions), _handle_out]),
     "vorlane_network_free": (None, [Handle]),
     "vorlane_network_look": (None, [Handle, POINTER(NetworkView)]),
+    "vorlane_network_warning": (c_char_p, [Handle, c_size_t]),
     "vorlane_network_names": (None, [Handle, c_void_p, c_void_p]),
     "vorlane_network_find": (c_int, [Handle, c_char_p, c_size_t, POINTER(c_uint32)]),
     "vorlane_network_given_links": (

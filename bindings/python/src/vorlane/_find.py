@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import os
+import warnings
 from typing import Any, Sequence
 
 from ._control import Control, run
@@ -10,7 +11,7 @@ from ._inputs import Path, Wishes, links_of
 from ._links import Links
 from ._network import Network, link_options
 from ._progress import ProgressOption, Watch
-from .errors import ParameterError
+from .errors import InputWarning, ParameterError
 from .results import Asked, Results, _load, find_in
 
 _LEAST_K = 3
@@ -81,6 +82,7 @@ def find(
         ParameterError: options don't go together.
         OutputError: the directory can't be written.
         MemoryExceeded, Stopped: the run had to end.
+        InputWarning: a file is read, but can't have been meant as it stands.
         KeyboardInterrupt: by Ctrl-C, within half a second; the next run is not disturbed.
     """
     if k is not None and k < _LEAST_K:
@@ -100,7 +102,10 @@ def find(
         return find_in(network, asked, control, save=save, source=origin)
 
     with Watch(progress) as watch:
-        return run(work, control, watch.call, memory_limit)
+        results = run(work, control, watch.call, memory_limit)
+    for text in results._network.warnings():
+        warnings.warn(text, InputWarning, stacklevel=2)
+    return results
 
 
 def _network_of(

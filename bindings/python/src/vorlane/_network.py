@@ -93,6 +93,13 @@ class Network:
     def weighted(self) -> bool:
         return bool(self._look.weighted)
 
+    def warnings(self) -> list[str]:
+        texts = (
+            library.vorlane_network_warning(self.owner.pointer, i)
+            for i in range(self._look.warning_count)
+        )
+        return [text.decode("utf-8", "replace") for text in texts]
+
     def link_rows(self) -> tuple[Starts, Nodes]:
         return rows(self._look.links, self.owner)
 

@@ -30,6 +30,10 @@ class InputError(Error, ValueError):
         self.column = column
 
 
+class InputWarning(UserWarning):
+    """A file that can't have been meant as it stands, as with a header among plain links."""
+
+
 class OutputError(Error, OSError):
     """Results that can't be written; the text names the files."""
 
