@@ -53,10 +53,11 @@ class Squares {
 }  // namespace
 
 void Push_apart(std::vector<Point>& places, double least) {
-  constexpr int rounds = 25;
   if (places.size() < 3 || least <= 0) return;
+  constexpr std::size_t visits = 500'000;
+  const std::size_t rounds = std::clamp<std::size_t>(visits / places.size(), 4, 25);
   std::vector<Point> moves(places.size());
-  for (int round = 0; round < rounds; ++round) {
+  for (std::size_t round = 0; round < rounds; ++round) {
     external_control::Check_for_stop_signal();
     std::ranges::fill(moves, Point{});
     const Squares squares(places, least);

@@ -69,7 +69,15 @@ export class Model {
       for (let p = 0; p < places; ++p) for (const node of row(own, p)) enter(node, p);
     });
     this.seen = new Uint32Array(facts.nodes);
+    this.degrees = new Uint32Array(facts.nodes);
+    for (let node = 0; node < facts.nodes; ++node)
+      for (let i = links.starts[node]!; i < links.starts[node + 1]!; ++i) {
+        ++this.degrees[node]!;
+        ++this.degrees[links.values[i]!]!;
+      }
   }
+
+  readonly degrees: Uint32Array; // by node: its links
 
   readonly children: Rows;
   private readonly homes: Rows; // by node: the places where it is an own node
@@ -127,20 +135,26 @@ export class Model {
     const around = this.around(level);
     const starts = new Uint32Array(this.facts.nodes + 1);
     const values = new Growing();
+    const { starts: from, values: homes } = this.homes;
     for (let node = 0; node < this.facts.nodes; ++node) {
-      const begin = values.length;
-      const { starts: from, values: homes } = this.homes;
-      starts[node + 1] = begin;
-      if (from[node] === from[node + 1]) continue;
+      starts[node + 1] = values.length;
+      const first = from[node]!;
+      const end = from[node + 1]!;
+      if (first === end) continue;
+      if (first + 1 === end) {
+        const place = around[homes[first]!]!;
+        if (place !== none) values.push(place);
+        starts[node + 1] = values.length;
+        continue;
+      }
       const found: number[] = [];
-      for (let i = from[node]!; i < from[node + 1]!; ++i) {
-        const home = homes[i]!;
-        const place = around[home]!;
+      for (let i = first; i < end; ++i) {
+        const place = around[homes[i]!]!;
         if (place !== none && !found.includes(place)) found.push(place);
       }
       found.sort((a, b) => a - b);
       for (const place of found) values.push(place);
-      starts[node + 1] = begin + found.length;
+      starts[node + 1] = values.length;
     }
     return { starts, values: values.done() };
   }

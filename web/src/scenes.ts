@@ -42,41 +42,42 @@ export class Shown {
     return Array.from(row(this.holders, node), (place) => this.colourOf(place));
   }
 
-  /** For pairs of communities that share nodes, both among `places`: how many. */
-  overlaps(places: Set<number>): Map<string, { a: number; b: number; shared: number }> {
-    const pairs = new Map<string, { a: number; b: number; shared: number }>();
-    for (let node = 0; node < this.model.facts.nodes; ++node) {
-      const { starts, values } = this.holders;
+  /** For pairs of the communities at the front of the ranks that share nodes: how many. */
+  overlaps(count: number): { a: number; b: number; shared: number }[] {
+    const { level, model } = this;
+    const rankOf = new Int32Array(level.end - level.first).fill(-1);
+    for (let rank = 0; rank < count; ++rank) rankOf[level.ranked[rank]! - level.first] = rank;
+    const pairs = new Map<number, number>();
+    const { starts, values } = this.holders;
+    for (let node = 0; node < model.facts.nodes; ++node) {
       const end = starts[node + 1]!;
-      if (end - starts[node]! < 2) continue;
-      for (let i = starts[node]!; i < end; ++i) {
-        if (!places.has(values[i]!)) continue;
+      for (let i = starts[node]!; i + 1 < end; ++i) {
+        const a = rankOf[values[i]! - level.first]!;
+        if (a < 0) continue;
         for (let j = i + 1; j < end; ++j) {
-          if (!places.has(values[j]!)) continue;
-          const key = `${values[i]} ${values[j]}`;
-          const pair = pairs.get(key);
-          if (pair) ++pair.shared;
-          else pairs.set(key, { a: values[i]!, b: values[j]!, shared: 1 });
+          const b = rankOf[values[j]! - level.first]!;
+          if (b < 0) continue;
+          const key = Math.min(a, b) * count + Math.max(a, b);
+          pairs.set(key, (pairs.get(key) ?? 0) + 1);
         }
       }
     }
-    return pairs;
+    return Array.from(pairs, ([key, shared]) => ({ a: Math.floor(key / count), b: key % count, shared }));
   }
 
-  /** The members of a community that are best known in it: those with most links. */
+  /** The nodes of a community that have most links, by name. */
   heads(place: number, count: number): string[] {
-    if (this.model.sizes[place]! > 3000) return [];
-    const nodes = this.model.members(place);
-    const inside = new Set(nodes);
-    const degree = new Map<number, number>(nodes.map((node) => [node, 0]));
-    for (const node of nodes)
-      for (const other of row(this.model.links, node))
-        if (inside.has(other)) {
-          degree.set(node, degree.get(node)! + 1);
-          degree.set(other, degree.get(other)! + 1);
-        }
-    nodes.sort((a, b) => degree.get(b)! - degree.get(a)! || a - b);
-    return nodes.slice(0, count).map((node) => this.model.names[node]!);
+    const { degrees, names, sizes } = this.model;
+    if (sizes[place]! > 3000) return [];
+    const best: number[] = [];
+    for (const node of this.model.members(place)) {
+      let at = best.length;
+      while (at > 0 && (degrees[best[at - 1]!]! < degrees[node]! || (degrees[best[at - 1]!] === degrees[node] && best[at - 1]! > node))) --at;
+      if (at === count) continue;
+      best.splice(at, 0, node);
+      best.length = Math.min(best.length, count);
+    }
+    return best.map((node) => names[node]!);
   }
 }
 
@@ -86,10 +87,9 @@ export function communitiesScene(shown: Shown): Scene {
   const { level, model } = shown;
   const below = model.levels[model.levels.indexOf(level) - 1];
   const dots = below ? grounds(model, below) : [];
-  const position = new Map<number, number>();
+  const ground = dots.length;
   const drawn = level.ranked.subarray(0, level.circles.x.length);
   drawn.forEach((place, i) => {
-    position.set(place, dots.length);
     const size = model.sizes[place]!;
     const head = i < 80 ? short(shown.heads(place, 1)[0] ?? "", 18) : "";
     dots.push({
@@ -101,13 +101,14 @@ export function communitiesScene(shown: Shown): Scene {
       place,
     });
   });
-  const pairs = [...shown.overlaps(new Set(drawn)).values()]
+  const pairs = shown
+    .overlaps(drawn.length)
     .sort((p, q) => q.shared - p.shared || p.a - q.a || p.b - q.b)
     .slice(0, mostLines);
   const colour = themed("overlap");
   const lines = pairs.map(({ a, b, shared }) => ({
-    from: position.get(a)!,
-    to: position.get(b)!,
+    from: ground + a,
+    to: ground + b,
     width: Math.min(0.01, 0.0012 * Math.sqrt(shared)),
     colour,
   }));
