@@ -90,6 +90,7 @@ std::vector<Point> Long_axes(const std::vector<std::uint32_t>& components,
     of = {of.xx + dx * dx, of.yy + dy * dy, of.xy + dx * dy};
   }
   std::vector<Point> axes;
+  axes.reserve(moments.size());
   for (const auto& [xx, yy, xy] : moments) {
     const double half = (xx - yy) / 2;
     const double root = std::sqrt(half * half + xy * xy);
@@ -146,6 +147,7 @@ void Pack_components(const gns::Row_index& neighbours, std::vector<Point>& place
   std::ranges::stable_sort(order, std::ranges::greater(),
                            [&](std::uint32_t i) { return before[i].radius; });
   std::vector<Circle> packed;
+  packed.reserve(count);
   for (const std::uint32_t i : order) packed.push_back(before[i]);
   Pack(packed);
   std::vector<Point> shifts(count);

@@ -24,24 +24,26 @@ struct Panel {
 };
 
 /// Powers of ten that hold all values from 1 on.
-double Decades(double most) { return std::max(1.0, std::ceil(std::log10(std::max(most, 1.0)))); }
+int Decades(double most) {
+  return std::max(1, static_cast<int>(std::ceil(std::log10(std::max(most, 1.0)))));
+}
 
-void Draw_axis_texts(const Panel& panel, double across, double upwards, Svg_sink& out) {
-  for (double decade = 0; decade <= across; ++decade) {
+void Draw_axis_texts(const Panel& panel, int across, int upwards, Svg_sink& out) {
+  for (int decade = 0; decade <= across; ++decade) {
     const double x = panel.left + panel_width * decade / across;
     out << "<text x=\"" << Length{x} << "\" y=\"" << Length{panel.top + panel_height + 16}
-        << "\" text-anchor=\"middle\">" << Length{std::pow(10.0, decade)} << "</text>\n";
+        << R"(" text-anchor="middle">)" << Length{std::pow(10.0, decade)} << "</text>\n";
   }
-  for (double decade = 0; decade <= upwards; ++decade) {
+  for (int decade = 0; decade <= upwards; ++decade) {
     const double y = panel.top + panel_height * (1 - decade / upwards);
     out << "<path d=\"M" << Length{panel.left} << ' ' << Length{y} << 'h' << Length{panel_width}
-        << "\" stroke=\"#ddd\"/><text x=\"" << Length{panel.left - 6} << "\" y=\"" << Length{y + 4}
-        << "\" text-anchor=\"end\">" << Length{std::pow(10.0, decade)} << "</text>\n";
+        << R"(" stroke="#ddd"/><text x=")" << Length{panel.left - 6} << "\" y=\"" << Length{y + 4}
+        << R"(" text-anchor="end">)" << Length{std::pow(10.0, decade)} << "</text>\n";
   }
   out << "<text x=\"" << Length{panel.left} << "\" y=\"" << Length{panel.top - 10}
-      << "\" font-size=\"15\">" << panel.title << "</text><text x=\""
+      << R"(" font-size="15">)" << panel.title << "</text><text x=\""
       << Length{panel.left + panel_width / 2} << "\" y=\"" << Length{panel.top + panel_height + 34}
-      << "\" text-anchor=\"middle\">" << panel.across << "</text><text transform=\"translate("
+      << R"(" text-anchor="middle">)" << panel.across << "</text><text transform=\"translate("
       << Length{panel.left - 48} << ' ' << Length{panel.top + panel_height / 2}
       << ") rotate(-90)\" text-anchor=\"middle\">" << panel.upwards << "</text>\n";
 }
@@ -55,8 +57,8 @@ void Draw(const Panel& panel, Svg_sink& out) {
     most = std::max<double>(most, times);
     if (value == 0) of_zero = times;
   }
-  const double across = Decades(largest);
-  const double upwards = Decades(most);
+  const int across = Decades(largest);
+  const int upwards = Decades(most);
   Draw_axis_texts(panel, across, upwards, out);
   out << "<rect x=\"" << Length{panel.left} << "\" y=\"" << Length{panel.top} << "\" width=\""
       << Length{panel_width} << "\" height=\"" << Length{panel_height}
@@ -70,14 +72,14 @@ void Draw(const Panel& panel, Svg_sink& out) {
   out << "</g>\n";
   if (of_zero > 0)
     out << "<text x=\"" << Length{panel.left + panel_width - 8} << "\" y=\""
-        << Length{panel.top + 18} << "\" text-anchor=\"end\">" << of_zero << " at 0</text>\n";
+        << Length{panel.top + 18} << R"(" text-anchor="end">)" << of_zero << " at 0</text>\n";
 }
 
 }  // namespace
 
 std::string Distributions_in_svg(const Drawing& drawing) {
   Svg_sink out(width, height, drawing.title);
-  out << "<text x=\"10\" y=\"24\" font-size=\"17\">" << exporting::In_xml{drawing.title}
+  out << R"(<text x="10" y="24" font-size="17">)" << exporting::In_xml{drawing.title}
       << ": distributions";
   if (drawing.k) out << " at k = " << *drawing.k;
   out << "</text>\n";

@@ -20,7 +20,7 @@ constexpr Node most_nodes = 3000;  ///< that are drawn one by one
 constexpr std::size_t most_circles = 400;
 
 void Put_title(const Drawing& drawing, std::string_view what, Svg_sink& out) {
-  out << "<text x=\"10\" y=\"24\" font-size=\"17\">" << exporting::In_xml{drawing.title} << what;
+  out << R"(<text x="10" y="24" font-size="17">)" << exporting::In_xml{drawing.title} << what;
   if (drawing.k) out << ", k = " << *drawing.k;
   out << "</text>\n";
 }
@@ -103,7 +103,7 @@ class Network_picture {
       out_ << "<circle r=\"" << Length{radius_} << "\" fill=\""
            << (communities.empty() ? "#ffffff" : drawing_.picture.Colour_of(node).In_hex())
            << "\" stroke=\"" << (communities.empty() ? "#999" : "#333")
-           << "\" stroke-width=\"0.8\"/>";
+           << R"(" stroke-width="0.8"/>)";
     else
       Draw_pie(communities);
     Draw_texts(node, communities);
@@ -123,9 +123,9 @@ class Network_picture {
       out_ << 'A' << Length{radius} << ' ' << Length{radius} << " 0 0 1 ";
       corner(static_cast<double>(i + 1));
       out_ << "Z\" fill=\"" << drawing_.picture.Colour_of_community(communities[i]).In_hex()
-           << "\" stroke=\"#fff\" stroke-width=\"0.6\"/>";
+           << R"(" stroke="#fff" stroke-width="0.6"/>)";
     }
-    out_ << "<circle r=\"" << Length{radius} << "\" fill=\"none\" stroke=\"#000\" "
+    out_ << "<circle r=\"" << Length{radius} << R"(" fill="none" stroke="#000" )"
          << "stroke-width=\"1.6\"/>";
   }
 
@@ -134,16 +134,15 @@ class Network_picture {
     constexpr double least_radius = 5;
     constexpr Node most_names = 80;
     if (radius_ >= least_radius && !communities.empty()) {
-      out_
-          << "<text y=\"" << Length{radius_ * 0.35} << "\" font-size=\"" << Length{radius_ * 0.95}
-          << "\" text-anchor=\"middle\" stroke=\"#fff\" stroke-width=\"2\" paint-order=\"stroke\">";
+      out_ << "<text y=\"" << Length{radius_ * 0.35} << "\" font-size=\"" << Length{radius_ * 0.95}
+           << R"(" text-anchor="middle" stroke="#fff" stroke-width="2" paint-order="stroke">)";
       for (std::size_t i = 0; i < communities.size(); ++i)
         out_ << (i > 0 ? "+" : "") << communities[i];
       out_ << "</text>";
     }
     if (network_.size() > most_names) return;
-    out_ << "<text y=\"" << Length{-1.5 * radius_} << "\" text-anchor=\"middle\" stroke=\"#fff\" "
-         << "stroke-width=\"3\" paint-order=\"stroke\">" << exporting::In_xml{network_.Name(node)}
+    out_ << "<text y=\"" << Length{-1.5 * radius_} << R"(" text-anchor="middle" stroke="#fff" )"
+         << R"(stroke-width="3" paint-order="stroke">)" << exporting::In_xml{network_.Name(node)}
          << "</text>";
   }
 
@@ -195,7 +194,7 @@ std::string Communities_in_svg(const Drawing& drawing) {
     constexpr double least_radius = 9;
     if (circle(i).radius * frame.Scale() < least_radius) continue;
     out << "<text x=\"" << frame.X(circle(i).centre.x) << "\" y=\"" << frame.Y(circle(i).centre.y)
-        << "\" dy=\"4\" text-anchor=\"middle\" stroke=\"#fff\" stroke-width=\"3\" "
+        << R"(" dy="4" text-anchor="middle" stroke="#fff" stroke-width="3" )"
         << "paint-order=\"stroke\">" << i << "</text>\n";
   }
   return out.Text();

@@ -5,7 +5,7 @@
 namespace vorlane::report {
 
 Svg_sink::Svg_sink(double width, double height, std::string_view title) : sink_(text_) {
-  *this << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << Length{width} << "\" height=\""
+  *this << R"(<svg xmlns="http://www.w3.org/2000/svg" width=")" << Length{width} << "\" height=\""
         << Length{height} << "\" viewBox=\"0 0 " << Length{width} << ' ' << Length{height}
         << "\" font-family=\"Helvetica, Arial, sans-serif\" font-size=\"13\">\n<title>"
         << exporting::In_xml{title}

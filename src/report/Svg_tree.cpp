@@ -85,7 +85,7 @@ class Tree_picture {
         out_(width, height_, drawing.title) {}
 
   std::string Draw() {
-    out_ << "<text x=\"10\" y=\"24\" font-size=\"17\">" << exporting::In_xml{drawing_.title}
+    out_ << R"(<text x="10" y="24" font-size="17">)" << exporting::In_xml{drawing_.title}
          << ": communities in communities";
     if (drawing_.k) out_ << ", coloured at k = " << *drawing_.k;
     out_ << "</text>\n";
@@ -117,7 +117,7 @@ class Tree_picture {
     const bool has_room = row >= least_for_text || forest_.Ks()[level] % 10 == 0;
     if (has_room)
       out_ << "<text x=\"" << Length{left - 8} << "\" y=\"" << Length{y + row / 2 + 4}
-           << "\" text-anchor=\"end\"" << (level == shown_ ? " font-weight=\"bold\"" : "") << '>'
+           << R"(" text-anchor="end")" << (level == shown_ ? " font-weight=\"bold\"" : "") << '>'
            << (level == shown_ || level == 0 ? "k = " : "") << k << "</text>\n";
     double haze_from = width;
     double haze_end = 0;
@@ -156,7 +156,7 @@ class Tree_picture {
     constexpr double least_row = 14;
     if (wide < room_for_text || row < least_row) return;
     out_ << "<text x=\"" << Length{x + wide / 2} << "\" y=\"" << Length{y + row / 2 + 4}
-         << "\" text-anchor=\"middle\" stroke=\"#fff\" stroke-width=\"3\" paint-order=\"stroke\">"
+         << R"(" text-anchor="middle" stroke="#fff" stroke-width="3" paint-order="stroke">)"
          << forest_.Size(place) << "</text>\n";
   }
 

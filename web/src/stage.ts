@@ -185,7 +185,8 @@ function drawBeside(context: CanvasRenderingContext2D, data: Drawn): void {
 function drawInside(context: CanvasRenderingContext2D, data: Drawn): void {
   if (!data.label) return;
   context.font = "13px system-ui, sans-serif";
-  drawText(context, data.label, data.x - context.measureText(data.label).width / 2, data.y + 4);
+  const { width } = context.measureText(data.label);
+  if (width < 2.5 * data.size) drawText(context, data.label, data.x - width / 2, data.y + 4);
 }
 
 /** A plate with the name beside the dot, in the colours of the page. */
