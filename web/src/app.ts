@@ -227,7 +227,7 @@ export class App {
       const { level } = this.shown!;
       const left = level.ranked.length - level.circles.x.length;
       const rest = left > 0 ? ` The ${figure.format(level.circles.x.length)} largest are drawn; the table has all.` : "";
-      return `Each disc is a community, named after its best linked member; lines join those that share nodes.${rest} Click one to see inside.`;
+      return `Each disc is a community, named after its best linked member that is in no other; lines join those that share nodes.${rest} Click one to see inside.`;
     }
     if (view === "members" && place !== undefined && !this.canDraw(place))
       return `This community has too many nodes to be drawn. A greater k takes it apart.`;

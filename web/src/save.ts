@@ -84,7 +84,7 @@ export function treeInSvg(tree: Tree, shown: Shown | undefined, width: number, h
   const parts = begin(width, height);
   for (const tick of tree.ticks(shown))
     parts.push(
-      `<text x="40" y="${short(tick.y + 4)}" text-anchor="end" fill="${themed("text")}"` +
+      `<text x="50" y="${short(tick.y + 4)}" text-anchor="end" fill="${themed("text")}"` +
         `${tick.isShown ? ' font-weight="700"' : ""}>${tick.isShown ? "k = " : ""}${tick.k}</text>`,
     );
   tree.forEachRect(shown, (rect, colour) =>

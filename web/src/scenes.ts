@@ -65,19 +65,28 @@ export class Shown {
     return Array.from(pairs, ([key, shared]) => ({ a: Math.floor(key / count), b: key % count, shared }));
   }
 
-  /** The nodes of a community that have most links, by name. */
+  /** The names of nodes by which a community is known: those of no other first, and of these the
+      ones with most links. */
   heads(place: number, count: number): string[] {
     const { degrees, names, sizes } = this.model;
     if (sizes[place]! > 3000) return [];
+    const { starts } = this.holders;
+    const alone = 2 ** 32; // outweighs all links
+    const weight = (node: number) =>
+      degrees[node]! + (starts[node + 1]! - starts[node]! === 1 ? alone : 0);
     const best: number[] = [];
     for (const node of this.model.members(place)) {
       let at = best.length;
-      while (at > 0 && (degrees[best[at - 1]!]! < degrees[node]! || (degrees[best[at - 1]!] === degrees[node] && best[at - 1]! > node))) --at;
+      while (at > 0 && isBefore(node, best[at - 1]!)) --at;
       if (at === count) continue;
       best.splice(at, 0, node);
       best.length = Math.min(best.length, count);
     }
     return best.map((node) => names[node]!);
+
+    function isBefore(a: number, b: number): boolean {
+      return weight(a) > weight(b) || (weight(a) === weight(b) && a < b);
+    }
   }
 }
 
