@@ -35,7 +35,7 @@ void Draw_axis_texts(const Panel& panel, int across, int upwards, Svg_sink& out)
         << R"(" text-anchor="middle">)" << Length{std::pow(10.0, decade)} << "</text>\n";
   }
   for (int decade = 0; decade <= upwards; ++decade) {
-    const double y = panel.top + panel_height * (1 - decade / upwards);
+    const double y = panel.top + panel_height * (1 - static_cast<double>(decade) / upwards);
     out << "<path d=\"M" << Length{panel.left} << ' ' << Length{y} << 'h' << Length{panel_width}
         << R"(" stroke="#ddd"/><text x=")" << Length{panel.left - 6} << "\" y=\"" << Length{y + 4}
         << R"(" text-anchor="end">)" << Length{std::pow(10.0, decade)} << "</text>\n";
