@@ -1,7 +1,6 @@
 #include "percolation/Prefix_lists.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "control/Polled_resize.h"
 #include "control/Run_control.h"
@@ -18,28 +17,32 @@ Prefix_lists<Rank>::Prefix_lists(const Clique_ranks<Rank>& cliques, std::uint32_
       unclaimed_(node_count) {
   for (std::uint32_t rank = 0; rank < node_count; ++rank)
     positions_[rank] = Tail::Position_of(node_count - 1 - rank);  // frequent ones apart
-  Sort_by_size();
+  Note_largest();
 }
 
 template <typename Rank>
-void Prefix_lists<Rank>::Sort_by_size() {
-  std::vector<std::size_t> places;  // per size: where its cliques begin
+void Prefix_lists<Rank>::Note_largest() {
+  largest_of_.resize((cliques_.size() + block - 1) / block, 0);
   for (std::size_t clique = 0; clique < cliques_.size(); ++clique) {
-    const std::size_t size = cliques_[clique].size();
-    if (size >= places.size()) places.resize(size + 1, 0);
-    ++places[size];
+    std::size_t& largest = largest_of_[clique / block];
+    largest = std::max(largest, cliques_[clique].size());
   }
-  std::size_t place = 0;
-  for (std::size_t size = places.size(); size > 0; --size)
-    place += std::exchange(places[size - 1], place);
-  by_size_.resize(cliques_.size());
-  for (Clique_index clique = 0; clique < cliques_.size(); ++clique)
-    by_size_[places[cliques_[clique].size()]++] = clique;
+  if (!largest_of_.empty()) largest_ = *std::ranges::max_element(largest_of_);
 }
 
+/// Calls use(clique, its row) for the cliques of so many nodes, ascending.
 template <typename Rank>
-std::uint32_t Prefix_lists<Rank>::Largest() const {
-  return by_size_.empty() ? 0 : static_cast<std::uint32_t>(cliques_[by_size_.front()].size());
+template <typename Use>
+void Prefix_lists<Rank>::For_each_of(std::size_t least_size, Use use) const {
+  for (std::size_t start = 0; start < cliques_.size(); start += block) {
+    external_control::Check_inside_long_stage();
+    if (largest_of_[start / block] < least_size) continue;
+    const std::size_t end = std::min(start + block, cliques_.size());
+    for (std::size_t clique = start; clique < end; ++clique) {
+      const Row row = cliques_[clique];
+      if (row.size() >= least_size) use(static_cast<Clique_index>(clique), row);
+    }
+  }
 }
 
 /// Gives each list its place.
@@ -47,11 +50,9 @@ template <typename Rank>
 void Prefix_lists<Rank>::Lay_out() {
   std::vector<std::uint32_t>& lengths = unclaimed_;
   std::ranges::fill(lengths, 0U);
-  for (const Clique_index clique : by_size_) {
-    external_control::Check_inside_long_stage();
-    const auto row = cliques_[clique];
+  For_each_of(least_overlap_, [&](Clique_index, Row row) {
     for (const Rank rank : row.first(Reach(row.size(), least_overlap_))) ++lengths[rank];
-  }
+  });
   std::size_t start = 0;
   for (std::size_t rank = 0; rank < lists_.size(); ++rank) {
     lists_[rank].start = start;
@@ -61,50 +62,65 @@ void Prefix_lists<Rank>::Lay_out() {
   list_cliques_ = {};
   external_control::Assign_zeros(tails_, start);
   external_control::Assign_zeros(list_cliques_, start);
-  overlap_ = 0;
 }
 
-/// The first overlap may be the only one; from the second on there will be others.
+/// Per clique the signature of the nodes at which it isn't listed.
+template <typename Rank>
+std::vector<typename Prefix_lists<Rank>::Tail> Prefix_lists<Rank>::Tails_beyond_reach() const {
+  std::vector<Tail> tails(cliques_.size());
+  For_each_of(least_overlap_, [&](Clique_index clique, Row row) {
+    for (std::size_t at = row.size(), reach = Reach(at, least_overlap_); at > reach; --at)
+      Add_in_front(row[at - 1], tails[clique]);
+  });
+  return tails;
+}
+
+/// Fills the lists from behind, as the overlap rises: cliques leave them at their last nodes first,
+/// so that each signature comes from the one behind it.
+template <typename Rank>
+void Prefix_lists<Rank>::Fill() {
+  std::vector<Tail> tails = Tails_beyond_reach();
+  std::vector<std::uint32_t>& left = unclaimed_;
+  for (std::uint32_t overlap = least_overlap_; overlap <= largest_; ++overlap) {
+    For_each_of(overlap, [&](Clique_index clique, Row row) {
+      const std::size_t stays = Reach(row.size(), overlap + 1);
+      for (std::size_t at = Reach(row.size(), overlap); at > stays; --at) {
+        const Rank node = row[at - 1];
+        Add_in_front(node, tails[clique]);
+        const std::size_t place = lists_[node].start + --left[node];
+        tails_[place] = tails[clique];
+        list_cliques_[place] = clique;
+      }
+    });
+  }
+}
+
+/// The first overlap may be the only one; from the second on there will be others. Where claimed
+/// cliques have been moved, only a smaller overlap finds the first entries in their place.
 template <typename Rank>
 void Prefix_lists<Rank>::Reset(std::uint32_t overlap) {
-  if (overlap < least_overlap_) {
+  if (overlap < least_overlap_ || overlap > overlap_) {
     constexpr std::uint32_t usual_least = 2;
-    const bool is_first = least_overlap_ == ~std::uint32_t{0};
-    least_overlap_ = is_first ? overlap : std::min(overlap, usual_least);
+    const bool is_first = overlap_ == 0;
+    least_overlap_ = is_first ? overlap : std::min({overlap, least_overlap_, usual_least});
     Lay_out();
+    Fill();
+    for (List& list : lists_) list.listed = 0;
+    overlap_ = std::max(static_cast<std::uint32_t>(largest_), overlap) + 1;
   }
-  if (overlap_ == 0 || overlap > overlap_) {
-    for (List& list : lists_) list.filled = 0;
-    overlap_ = std::max(Largest(), overlap) + 1;
-  }
-  while (overlap_ > overlap) Enter_next_level();
+  while (overlap_ > overlap) Lower_overlap();
   for (std::size_t rank = 0; rank < lists_.size(); ++rank)
-    lists_[rank].length = unclaimed_[rank] = lists_[rank].filled;
+    lists_[rank].length = unclaimed_[rank] = lists_[rank].listed;
 }
 
+/// Lets the overlap fall by one and counts the cliques at the nodes that come into their reach.
 template <typename Rank>
-typename Prefix_lists<Rank>::Tail Prefix_lists<Rank>::Tail_of(Row nodes) const {
-  Tail tail;
-  for (auto node = nodes.rbegin(); node != nodes.rend(); ++node) Add_in_front(*node, tail);
-  return tail;
-}
-
-/// Lets the overlap fall by one and enters the cliques at the nodes that come into their reach.
-template <typename Rank>
-void Prefix_lists<Rank>::Enter_next_level() {
+void Prefix_lists<Rank>::Lower_overlap() {
   const std::uint32_t before = overlap_--;
-  for (const Clique_index clique : by_size_) {
-    external_control::Check_inside_long_stage();
-    const auto row = cliques_[clique];
-    if (row.size() < overlap_) break;
+  For_each_of(overlap_, [&](Clique_index, Row row) {
     const std::size_t reach = Reach(row.size());
-    for (std::size_t at = Reach(row.size(), before); at < reach; ++at) {
-      List& list = lists_[row[at]];
-      const std::size_t place = list.start + list.filled++;
-      tails_[place] = Tail_of(row.subspan(at));
-      list_cliques_[place] = clique;
-    }
-  }
+    for (std::size_t at = Reach(row.size(), before); at < reach; ++at) ++lists_[row[at]].listed;
+  });
 }
 
 template class Prefix_lists<std::uint16_t>;

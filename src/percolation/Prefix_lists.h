@@ -16,11 +16,12 @@ namespace gns {
 /// common node among the first m - t + 1 nodes of the one and the first n - t + 1 of the other
 /// (prefix filter: R. J. Bayardo, Y. Ma, R. Srikant, WWW 2007). So a clique is listed at these
 /// nodes only, its reach, and a search for those that share t with it reads the lists of these
-/// only. As t falls by one, each clique comes into one list more: lists grow from t to t. Beside
-/// each entry stands a signature of the clique's nodes from that one on: at their first common
-/// node, two cliques have all others behind it.
+/// only. As t falls by one, each clique comes into one list more: lists are filled once for all t,
+/// in the order in which t falls, and each t reads them as far as its entries go. Beside each entry
+/// stands a signature of the clique's nodes from that one on: at their first common node, two
+/// cliques have all others behind it.
 ///
-/// Memory: 12 bytes per clique and node of its reach at the least t, 4 per clique.
+/// Memory: 12 bytes per clique and node of its reach at the least t.
 template <typename Rank>
 class Prefix_lists {
  public:
@@ -30,7 +31,7 @@ class Prefix_lists {
   Prefix_lists(const Clique_ranks<Rank>& cliques, std::uint32_t node_count, bool nested);
 
   /// Lists all cliques for a t of `overlap` (1 or more), none of them claimed. Cheap if t falls:
-  /// but for the second one, all lists are laid out once.
+  /// but for the second one, all lists are filled once.
   void Reset(std::uint32_t overlap);
 
   /// Number of nodes at which a clique of `size` nodes is listed.
@@ -66,9 +67,11 @@ class Prefix_lists {
  private:
   using Row = typename Clique_ranks<Rank>::Row;
 
+  static constexpr std::size_t block = 64;  ///< of cliques, passed over together
+
   struct List {
     std::size_t start = 0;
-    std::uint32_t filled = 0;
+    std::uint32_t listed = 0;  ///< entries at the present t
     std::uint32_t length = 0;  ///< claimed cliques are moved behind it from time to time
   };
 
@@ -78,26 +81,30 @@ class Prefix_lists {
     const std::size_t least_size = nested_ || overlap == 1 ? overlap : overlap + std::size_t{1};
     return size < least_size ? 0 : size - overlap + 1;
   }
-  [[nodiscard]] Tail Tail_of(Row nodes) const;
-  void Sort_by_size();
+  void Note_largest();
   void Lay_out();
-  void Enter_next_level();
-  [[nodiscard]] std::uint32_t Largest() const;
+  void Fill();
+  [[nodiscard]] std::vector<Tail> Tails_beyond_reach() const;
+  void Lower_overlap();
+  template <typename Use>
+  void For_each_of(std::size_t least_size, Use use) const;
   template <typename Is_unclaimed>
   void Drop_claimed(List& list, Is_unclaimed is_unclaimed);
 
   const Clique_ranks<Rank>& cliques_;
   bool nested_;
-  std::uint32_t overlap_ = 0;                        ///< 0: nothing listed yet
-  std::uint32_t least_overlap_ = ~std::uint32_t{0};  ///< the lists have room for this one or more
-  std::vector<Clique_index> by_size_;                ///< bigger ones first
-  std::vector<std::uint8_t> positions_;              ///< per node: where it stands in signatures
+  std::uint32_t overlap_ = 0;            ///< 0: nothing listed yet
+  std::uint32_t least_overlap_ = 0;      ///< the lists hold this one or more
+  std::size_t largest_ = 0;              ///< size of the largest clique
+  std::vector<std::size_t> largest_of_;  ///< per block of cliques: size of the largest one
+  std::vector<std::uint8_t> positions_;  ///< per node: where it stands in signatures
   std::vector<List> lists_;
   std::vector<std::uint32_t> unclaimed_;
   std::vector<Tail> tails_;  ///< of all lists
   std::vector<Clique_index> list_cliques_;
 };
 
+/// Without a branch on what is claimed, for no processor can foretell it.
 template <typename Rank>
 template <typename Is_unclaimed>
 void Prefix_lists<Rank>::Drop_claimed(List& list, Is_unclaimed is_unclaimed) {
@@ -105,10 +112,10 @@ void Prefix_lists<Rank>::Drop_claimed(List& list, Is_unclaimed is_unclaimed) {
   Clique_index* const cliques = list_cliques_.data() + list.start;
   std::uint32_t kept = 0;
   for (std::uint32_t i = 0; i < list.length; ++i) {
-    if (!is_unclaimed(cliques[i])) continue;
+    const Clique_index clique = cliques[i];
     std::swap(cliques[i], cliques[kept]);
     std::swap(tails[i], tails[kept]);
-    ++kept;
+    kept += is_unclaimed(clique) ? 1 : 0;
   }
   list.length = kept;
 }
