@@ -28,6 +28,8 @@ class Clique_ranks {
   Clique_ranks(const Clique_vector& cliques, const Node_ranks& nodes);
 
   [[nodiscard]] std::size_t size() const { return cliques_.size(); }
+  /// Number of members of all cliques together.
+  [[nodiscard]] std::size_t Members() const { return ranks_.size(); }
   [[nodiscard]] Row operator[](std::size_t clique) const {
     const Node_span members = cliques_[clique];
     const auto start = static_cast<std::size_t>(members.data() - cliques_.Values().data());

@@ -4,6 +4,7 @@
 
 #include "control/Polled_resize.h"
 #include "control/Run_control.h"
+#include "percolation/Signature_positions.h"
 
 namespace gns {
 
@@ -12,11 +13,9 @@ Prefix_lists<Rank>::Prefix_lists(const Clique_ranks<Rank>& cliques, std::uint32_
                                  bool nested)
     : cliques_(cliques),
       nested_(nested),
-      positions_(node_count),
+      positions_(Signature_positions(cliques, node_count, Tail::positions)),
       lists_(node_count),
       unclaimed_(node_count) {
-  for (std::uint32_t rank = 0; rank < node_count; ++rank)
-    positions_[rank] = Tail::Position_of(node_count - 1 - rank);  // frequent ones apart
   Note_largest();
 }
 

@@ -25,7 +25,7 @@ namespace gns {
 template <typename Rank>
 class Prefix_lists {
  public:
-  using Tail = Signature<1, 10>;
+  using Tail = Signature<1, 4>;
 
   /// `cliques` must outlive the object. With `nested` false, no clique lies inside another.
   Prefix_lists(const Clique_ranks<Rank>& cliques, std::uint32_t node_count, bool nested);

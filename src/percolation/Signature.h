@@ -18,13 +18,7 @@ class Signature {
  public:
   static constexpr unsigned bits = words * 64;
   static constexpr unsigned positions = bits - collision_bits;
-
-  /// Where a node stands, by its turn: nodes that are met often should have different turns, modulo
-  /// `positions`.
-  static constexpr std::uint8_t Position_of(std::uint32_t turn) {
-    static_assert(positions <= 256);
-    return static_cast<std::uint8_t>(turn % positions);
-  }
+  static_assert(positions <= 256);
 
   void Add(std::uint8_t position) {
     std::uint64_t& word = words_[position / 64];
