@@ -59,7 +59,7 @@ void Prefix_lists<Rank>::Lay_out() {
   }
   tails_ = {};  // gives its memory back before more is taken
   list_cliques_ = {};
-  external_control::Assign_zeros(tails_, start);
+  external_control::Assign_zeros(tails_, start + readable_behind);
   external_control::Assign_zeros(list_cliques_, start);
 }
 

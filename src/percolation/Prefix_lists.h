@@ -46,6 +46,9 @@ class Prefix_lists {
     for (std::size_t i = 0, reach = Reach(row.size()); i < reach; ++i) --unclaimed_[row[i]];
   }
 
+  /// So many signatures behind those of a list can be read, too, whatever they are.
+  static constexpr std::uint32_t readable_behind = 31;
+
   /// The cliques of a list with their signatures, parallel; a fourth at most are claimed.
   struct Entries {
     const Tail* tails;

@@ -10,12 +10,13 @@ namespace gns {
 
 namespace {
 
-/// Calls use(clique) for cliques all over, of as many members together as tell enough in little
-/// time. Where many nodes share every position anyway, nothing can be told.
+/// Calls use(clique) for cliques all over, an eighth at most, of as many members together as tell
+/// enough in little time. Where many nodes share every position anyway, nothing can be told.
 template <typename Rank, typename Use>
 void For_each_of_sample(const Clique_ranks<Rank>& cliques, unsigned positions, Use use) {
   constexpr std::size_t most_members = std::size_t{1} << 18U;
-  const std::size_t step = cliques.Members() / most_members + 1;
+  constexpr std::size_t least_step = 8;
+  const std::size_t step = cliques.Members() / most_members + least_step;
   for (std::size_t clique = 0; clique < cliques.size(); clique += step)
     if (cliques[clique].size() <= std::size_t{4} * positions)
       use(static_cast<std::uint32_t>(clique));

@@ -32,7 +32,7 @@ void Unclaimed_cliques<Rank>::Reset(std::uint32_t overlap) {
 template <typename Rank>
 void Unclaimed_cliques<Rank>::Append_neighbours(Clique_index clique,
                                                 std::vector<Clique_index>& neighbours) {
-  candidates_.clear();
+  candidate_count_ = 0;
   const Row row = ranks_[clique];
   const Row to_read = Lists_to_read(row);
   if (to_read.empty()) return;
@@ -42,7 +42,7 @@ void Unclaimed_cliques<Rank>::Append_neighbours(Clique_index clique,
     Meet(lists_.Read(node, [this](Clique_index met) { return Is_unclaimed(met); }),
          tails_[static_cast<std::size_t>(&node - row.data())].As_question());
   }
-  if (!candidates_.empty()) Append_checked(row, neighbours);
+  if (candidate_count_ != 0) Append_checked(row, neighbours);
 }
 
 /// Begins a question and yields the nodes whose lists are to be read: of the reach, those up to the
@@ -64,42 +64,53 @@ typename Unclaimed_cliques<Rank>::Row Unclaimed_cliques<Rank>::Lists_to_read(Row
 /// Adds the unclaimed cliques of a list to the candidates, as far as their signatures allow.
 template <typename Rank>
 void Unclaimed_cliques<Rank>::Meet(const Entries& entries, Tail question) {
-  constexpr std::uint32_t block = 256;
-  constexpr std::uint32_t word = sizeof(std::uint64_t);  // flags looked at together
-  const std::uint32_t least_bound = std::min(overlap_, Tail::bits);
-  passed_.clear();
-  Run_at_processor_level([&] {
-    alignas(64) std::array<std::uint8_t, block> buffer;
-    for (std::uint32_t start = 0; start < entries.count; start += block) {
-      const std::uint32_t count = std::min(block, entries.count - start);
-      const Tail* const __restrict tails = entries.tails + start;
-      const Clique_index* const cliques = entries.cliques + start;
-      std::uint8_t* const __restrict flags = buffer.data();
-      const Tail asked = question;
-      const std::uint32_t bound = least_bound;
-      for (std::uint32_t i = 0; i < count; ++i)
-        flags[i] = tails[i].Shared_at_most(asked) >= bound ? 1 : 0;
-      for (std::uint32_t i = count; i % word != 0; ++i) flags[i] = 0;
-      for (std::uint32_t at = 0; at < count; at += word) {
-        std::uint64_t hits = 0;
-        std::memcpy(&hits, flags + at, word);
-        for (; hits != 0; hits &= hits - 1) {
-          const Clique_index met =
-              cliques[at + static_cast<std::uint32_t>(std::countr_zero(hits)) / word];
-          if (!Is_unclaimed(met)) continue;
-          passed_.push_back(met);
-          __builtin_prefetch(&met_[met]);
-          ranks_.Prefetch_place(met);
-        }
-      }
-    }
-  });
-  for (const Clique_index met : passed_) {
-    if (met_[met] == question_) continue;
+  passed_.resize(std::max<std::size_t>(passed_.size(), entries.count));
+  std::size_t passed = 0;
+  Run_at_processor_level([&] { passed = Pass(entries, question, passed_.data()); });
+  std::size_t count = candidate_count_;
+  candidates_.resize(std::max(candidates_.size(), count + passed));
+  for (std::size_t i = 0; i < passed; ++i) {
+    const Clique_index met = passed_[i];
+    candidates_[count] = met;
+    count += met_[met] != question_ ? 1 : 0;
     met_[met] = question_;
-    candidates_.push_back(met);
     __builtin_prefetch(ranks_[met].data());
   }
+  candidate_count_ = count;
+}
+
+/// Writes the unclaimed cliques of a list that their signatures let pass, and yields their number.
+/// Whole blocks of signatures are looked at, whatever stands behind the list; and what is claimed
+/// is overwritten, for no processor can foretell a branch on it.
+template <typename Rank>
+[[gnu::always_inline]] inline std::size_t Unclaimed_cliques<Rank>::Pass(
+    const Entries& entries, Tail question, Clique_index* const passed) const {
+  constexpr std::uint32_t word = sizeof(std::uint64_t);  // flags looked at together
+  constexpr std::uint32_t block = Prefix_lists<Rank>::readable_behind + 1;
+  const std::uint32_t bound = std::min(overlap_, Tail::bits);
+  alignas(64) std::array<std::uint8_t, block> flags;
+  std::size_t count = 0;
+  for (std::uint32_t start = 0; start < entries.count; start += block) {
+    const Tail* const __restrict tails = entries.tails + start;
+    const Clique_index* const cliques = entries.cliques + start;
+    for (std::uint32_t i = 0; i < block; ++i)
+      flags[i] = tails[i].Shared_at_most(question) >= bound ? 1 : 0;
+    const std::uint32_t left = std::min(block, entries.count - start);
+    for (std::uint32_t at = 0; at < left; at += word) {
+      std::uint64_t hits = 0;
+      std::memcpy(&hits, flags.data() + at, word);
+      if (left - at < word) hits &= (std::uint64_t{1} << (8 * (left - at))) - 1;
+      for (; hits != 0; hits &= hits - 1) {
+        const Clique_index met =
+            cliques[at + static_cast<std::uint32_t>(std::countr_zero(hits)) / word];
+        passed[count] = met;
+        count += Is_unclaimed(met) ? 1 : 0;
+        __builtin_prefetch(&met_[met]);
+        ranks_.Prefetch_place(met);
+      }
+    }
+  }
+  return count;
 }
 
 /// Forms the signatures of the clique in question from each of its nodes on.
@@ -117,7 +128,7 @@ template <typename Rank>
 void Unclaimed_cliques<Rank>::Append_checked(Row row, std::vector<Clique_index>& neighbours) {
   for (const Rank rank : row) marked_[rank] = 1;
   const auto first = static_cast<std::ptrdiff_t>(neighbours.size());
-  for (const Clique_index candidate : candidates_) {
+  for (const Clique_index candidate : std::span(candidates_).first(candidate_count_)) {
     std::uint32_t shared = 0;
     for (const Rank rank : ranks_[candidate]) shared += marked_[rank];
     if (shared >= overlap_) neighbours.push_back(candidate);

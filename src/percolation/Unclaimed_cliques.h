@@ -53,6 +53,7 @@ class Unclaimed_cliques {
   Row Lists_to_read(Row row);
   void Sign_tails(Row row);
   void Meet(const Entries& entries, Tail question);
+  std::size_t Pass(const Entries& entries, Tail question, Clique_index* passed) const;
   void Append_checked(Row row, std::vector<Clique_index>& neighbours);
 
   Clique_ranks<Rank> ranks_;
@@ -62,10 +63,12 @@ class Unclaimed_cliques {
   std::uint32_t question_ = 0;
   std::vector<std::uint32_t> met_;        ///< per clique: the question that it was last met in
   std::vector<std::uint32_t> asked_for_;  ///< per node: the last question about a clique with it
-  std::vector<Clique_index> passed_;      ///< what is left of a list
-  std::vector<Clique_index> candidates_;  ///< and of a question
-  std::vector<Tail> tails_;               ///< of the clique in question, from each of its nodes on
-  std::vector<std::uint8_t> marked_;      ///< per node: member of the clique in question
+  // The next two are as long as they had to be so far.
+  std::vector<Clique_index> passed_;      ///< begins with what is left of a list
+  std::vector<Clique_index> candidates_;  ///< begins with what is left in a question
+  std::size_t candidate_count_ = 0;
+  std::vector<Tail> tails_;           ///< of the clique in question, from each of its nodes on
+  std::vector<std::uint8_t> marked_;  ///< per node: member of the clique in question
 };
 
 }  // namespace gns
