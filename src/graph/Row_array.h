@@ -28,6 +28,9 @@ class Row_array {
   /// Values of all rows, in order.
   [[nodiscard]] Row Values() const { return {values_.data(), values_.size()}; }
 
+  /// Makes room for so many more values at once.
+  void Reserve(std::size_t count) { values_.Room_for(count); }
+
   void push_back(Row row) {
     values_.append(row.data(), row.size());
     Close_row();

@@ -24,7 +24,10 @@ std::shared_ptr<const Communities> Percolation::At(std::uint32_t k) {
     Leave_communities();
     communities_ = std::make_shared<Communities>();
   }
+  // Of those before, the cliques have been noted: only others may still want them.
+  if (communities_.use_count() == 1) communities_->com_cliques.clear();
   auto result = std::make_shared<Communities>();
+  result->com_cliques.Reserve(claimed_.size());
   Collect(false, *result);
   result->exact_com_count = static_cast<std::uint32_t>(result->size());
   Collect(true, *result);
@@ -41,6 +44,7 @@ void Percolation::Leave_communities() {
 
 void Percolation::Prepare() {
   constexpr std::uint32_t most_of_16_bits = 65536;
+  claimed_.reserve(cliques_.size());
   const Node_ranks nodes(cliques_);
   if (nodes.count <= most_of_16_bits)
     unclaimed_.emplace<Unclaimed<std::uint16_t>>(cliques_, nodes, nested_);

@@ -17,7 +17,9 @@ Unclaimed_cliques<Rank>::Unclaimed_cliques(const Clique_vector& cliques, const N
       claimed_(cliques.size() / word_bits + 1, 0),
       met_(cliques.size(), 0),
       asked_for_(nodes.count, 0),
-      marked_(nodes.count, 0) {}
+      marked_(nodes.count, 0) {
+  candidates_.reserve(cliques.size());
+}
 
 template <typename Rank>
 void Unclaimed_cliques<Rank>::Reset(std::uint32_t overlap) {
