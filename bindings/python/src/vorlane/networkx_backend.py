@@ -45,8 +45,9 @@ _LEAST_K = 3
 _HUBS = 2  # nodes that are linked to all others
 _BLOCK = 10_000  # cliques whose lists are made at a time
 
-#: Below so many links networkx is done before a graph is converted.
-_WORTHWHILE_LINKS = 60
+#: Links times a node's links, about the steps of networkx's search: below so many it is done before
+#: a graph is converted.
+_WORTHWHILE_STEPS = 1800
 #: Above so many nodes their links need not be counted.
 _WORTHWHILE_NODES = 1000
 #: A node's own neighbourhood is searched by networkx faster than this share of the graph is here.
@@ -184,8 +185,8 @@ def should_run(name: str, args: Sequence[Any], kwargs: dict[str, Any]) -> bool |
             return "few nodes are asked for"
     if len(graph) > _WORTHWHILE_NODES:
         return True
-    links = sum(map(len, graph._adj.values())) // 2
-    return links >= _WORTHWHILE_LINKS or "the graph is small"
+    ends = sum(map(len, graph._adj.values()))
+    return ends * ends >= 2 * len(graph) * _WORTHWHILE_STEPS or "the graph is small"
 
 
 def _by_parameter(name: str, args: Sequence[Any], kwargs: dict[str, Any]) -> dict[str, Any]:
@@ -193,7 +194,7 @@ def _by_parameter(name: str, args: Sequence[Any], kwargs: dict[str, Any]) -> dic
 
 
 def _refuse_what_cannot_run(name: str, *args: Any) -> None:
-    """networkx before 3.3 doesn't ask when a call names its backend."""
+    """networkx before 3.3 tries without asking can_run(), and goes on by itself then."""
     answer = can_run(name, args, {})
     if answer is not True:
         raise NotImplementedError(f"{name}: {answer}.")
