@@ -176,3 +176,8 @@ def print_row(*cells):
 def print_head(*titles):
     print_row(*titles)
     print("|" + " --- |" + " ---: |" * (len(titles) - 1), flush=True)
+
+
+def tell(goal, at_most, figure):
+    """One row of a table of goals."""
+    print_row(goal, f"{at_most:g}", figure, "yes" if figure <= at_most else "no")

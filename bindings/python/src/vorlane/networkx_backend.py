@@ -45,6 +45,8 @@ _LEAST_K = 3
 _HUBS = 2  # nodes that are linked to all others
 _BLOCK = 10_000  # cliques whose lists are made at a time
 
+#: Cliques that there may be in a graph that is searched in the calling thread.
+_MOST_CLIQUES_AT_ONCE = 10_000_000
 #: Links times a node's links, about the steps of networkx's search: below so many it is done before
 #: a graph is converted.
 _WORTHWHILE_STEPS = 1800
@@ -98,17 +100,34 @@ class Graph:
     def communities(self, k: int) -> Level | tuple[()]:
         if k > len(self.nodes):
             return ()
-        found = _found(self._network, k)
-        return found[k] if k in found.ks else ()
+        found = self._found(self._network, k)
+        return Level(found, k) if k in found.ks else ()
 
     def cliques(self) -> tuple[npt.NDArray[np.int64], Nodes]:
         """All maximal cliques, even of one or two nodes: where they start in an array of places of
         nodes, and this."""
-        found = _found(self._network_with_hubs, _LEAST_K)
+        found = self._found(self._network_with_hubs, _LEAST_K)
         (starts, members), _ = found._clique_rows
         place = np.array(found._nodes_by_number[1:], np.uint32)[members - 1]
         each = np.arange(len(starts), dtype=np.int64)
         return starts.astype(np.int64) - _HUBS * each, place[place < len(self.nodes)]
+
+    def _found(self, network: Network, k: int) -> Results:
+        """On a thread of its own, so that Ctrl-C is heard, unless it would take longer to start."""
+        control = Control()
+        if self._is_searched_at_once:
+            return find_in(network, Asked(k), control)
+        return run(lambda: find_in(network, Asked(k), control), control)
+
+    @cached_property
+    def _is_searched_at_once(self) -> bool:
+        """A graph of degeneracy d has no more than n * 3 ** (d / 3) maximal cliques (D. Eppstein,
+        M. Löffler, D. Strash, 2010); d nodes or more then have d neighbours or more."""
+        count = len(self.nodes)
+        ends = np.concatenate((self._links.source, self._links.target))
+        degrees = np.sort(np.bincount(ends, minlength=1))[::-1]
+        most = np.count_nonzero(degrees > np.arange(len(degrees)))
+        return bool(np.log(count + 1) + most / 3 * np.log(3) < np.log(_MOST_CLIQUES_AT_ONCE))
 
     @cached_property
     def _network(self) -> Network:
@@ -133,11 +152,6 @@ def _network_of(count: int, source: Nodes, target: Nodes) -> Network:
     """Whose nodes are called by their places: the names' order is nothing that networkx shows."""
     links = Links(np.arange(count, dtype=np.int64), source, target)
     return Network.of_links(links, link_options(False, False, None, None))
-
-
-def _found(network: Network, k: int) -> Results:
-    control = Control()
-    return run(lambda: find_in(network, Asked(k), control), control)
 
 
 def convert_from_nx(graph: Any, **_: Any) -> Graph:
