@@ -80,7 +80,10 @@ Asked Asked_by(JNIEnv* env, bool directed, bool weighted, bool links, jdoubleArr
   Check_for_java_error(env);
   const auto [intensity, min_weight, max_weight, time_limit, k] = n;
   Asked asked;
-  asked.how = {directed, weighted, Number(min_weight), Number(max_weight)};
+  asked.how.directed = directed;
+  asked.how.weighted = weighted;
+  asked.how.min_weight = Number(min_weight);
+  asked.how.max_weight = Number(max_weight);
   asked.options.intensity = Number(intensity);
   asked.options.time_limit = Number(time_limit);
   if (!std::isnan(k)) asked.options.k = k > 0 ? static_cast<std::uint32_t>(k) : 0;
