@@ -50,7 +50,7 @@ bare() {
 run="cmake g++ ninja-build"
 java="cmake default-jdk-headless g++ ninja-build"
 python="cmake g++ ninja-build python3 python3-venv"
-ci="chromium clang clang-format clang-tidy cmake default-jdk-headless fish g++ libclang-rt-dev llvm mandoc maven ninja-build nodejs npm python3 python3-venv shellcheck zsh"
+ci="ccache chromium clang clang-format clang-tidy cmake default-jdk-headless fish g++ libclang-rt-dev llvm mandoc maven ninja-build nodejs npm python3 python3-venv shellcheck zsh"
 while IFS='|' read -r task packages; do
   bare scripts/setup "$task" >/dev/null
   expect "setup $task" "apt-get update apt-get install -y --no-install-recommends $packages" \
