@@ -44,7 +44,7 @@ extern "C" {
 /* VORLANE_ABI_VERSION of the library that was loaded; compare it before anything else. */
 VORLANE_C_API uint32_t vorlane_abi_version(void);
 /* "1.0.0" */
-VORLANE_C_API const char *vorlane_version(void);
+VORLANE_C_API const char* vorlane_version(void);
 
 /* ---- Failures ---- */
 
@@ -60,15 +60,15 @@ typedef enum vorlane_code {
 
 typedef struct vorlane_failure {
   vorlane_code code;
-  const char *text;   /* for people: sentences that tell the place and the cure */
-  const char *source; /* the file that it is about; empty if it is about none */
+  const char* text;   /* for people: sentences that tell the place and the cure */
+  const char* source; /* the file that it is about; empty if it is about none */
   size_t line;        /* counted from 1; 0 if it isn't known */
   size_t column;
 } vorlane_failure;
 
 /* The text of the last failure in this thread; writes the whole of it to `failure` unless that is
    NULL. The texts live until the thread's next call fails. */
-VORLANE_C_API const char *vorlane_last_failure(vorlane_failure *failure);
+VORLANE_C_API const char* vorlane_last_failure(vorlane_failure* failure);
 
 /* ---- Control: stopping and watching from another thread ---- */
 
@@ -83,17 +83,17 @@ typedef struct vorlane_progress {
 } vorlane_progress;
 
 /* One control serves one call at a time; where a call takes one, it may be NULL. */
-VORLANE_C_API vorlane_code vorlane_control_new(vorlane_control **control);
-VORLANE_C_API void vorlane_control_free(vorlane_control *control);
+VORLANE_C_API vorlane_code vorlane_control_new(vorlane_control** control);
+VORLANE_C_API void vorlane_control_free(vorlane_control* control);
 /* Ends the call that the control was handed to within some hundredths of a second, by
    VORLANE_STOPPED, and those after it until the reset. From any thread or signal handler. */
-VORLANE_C_API void vorlane_control_stop(vorlane_control *control);
-VORLANE_C_API void vorlane_control_reset(vorlane_control *control);
-VORLANE_C_API void vorlane_control_progress(const vorlane_control *control,
-                                            vorlane_progress *progress);
+VORLANE_C_API void vorlane_control_stop(vorlane_control* control);
+VORLANE_C_API void vorlane_control_reset(vorlane_control* control);
+VORLANE_C_API void vorlane_control_progress(const vorlane_control* control,
+                                            vorlane_progress* progress);
 /* What is going on, in words: up to `size` bytes with the zero, cut if there are more. Returns how
    many bytes it takes, as snprintf() does. */
-VORLANE_C_API size_t vorlane_control_report(const vorlane_control *control, char *text,
+VORLANE_C_API size_t vorlane_control_report(const vorlane_control* control, char* text,
                                             size_t size);
 
 /* ---- Networks ---- */
@@ -103,8 +103,8 @@ typedef struct vorlane_network vorlane_network;
 /* `size` rows in two arrays: row i is values[starts[i]] up to values[starts[i + 1]]. */
 typedef struct vorlane_rows {
   size_t size;
-  const size_t *starts; /* size + 1 places */
-  const uint32_t *values;
+  const size_t* starts; /* size + 1 places */
+  const uint32_t* values;
 } vorlane_rows;
 
 /* How links are taken. All zero but for thresholds that are not a number is the default. */
@@ -113,15 +113,16 @@ typedef struct vorlane_link_options {
   int weighted;       /* set by either threshold */
   double min_weight;  /* a link at or below it is left out; NaN: none is */
   double max_weight;  /* a link at or above it is left out; NaN: none is */
-  const char *format; /* of a file: "links", "csv", ...; NULL: told by its name */
-  const char *columns; /* of csv and tsv: "FROM,TO" or "FROM,TO,WEIGHT", by name or number, or NULL */
+  const char* format; /* of a file: "links", "csv", ...; NULL: told by its name */
+  const char*
+      columns; /* of csv and tsv: "FROM,TO" or "FROM,TO,WEIGHT", by name or number, or NULL */
 } vorlane_link_options;
 
 /* From a file in any format that the program reads; "-" is standard input. */
-VORLANE_C_API vorlane_code vorlane_network_read(const char *path,
-                                                const vorlane_link_options *options,
-                                                vorlane_control *control,
-                                                vorlane_network **network);
+VORLANE_C_API vorlane_code vorlane_network_read(const char* path,
+                                                const vorlane_link_options* options,
+                                                vorlane_control* control,
+                                                vorlane_network** network);
 
 /* Links between numbers from 1 to node_count. Node i is called by the i-th name, or the decimals of
    numbers[i - 1], or its own decimals: nodes and communities come in the same order as if the
@@ -129,50 +130,50 @@ VORLANE_C_API vorlane_code vorlane_network_read(const char *path,
 typedef struct vorlane_links {
   uint32_t node_count;
   size_t link_count;
-  const uint32_t *from;
-  const uint32_t *to;
-  const double *weights;     /* NULL without */
-  const int64_t *numbers;    /* node_count of them, or NULL */
-  const char *names;         /* one behind the other, or NULL */
-  const size_t *name_starts; /* name i is names[name_starts[i - 1]] up to names[name_starts[i]] */
+  const uint32_t* from;
+  const uint32_t* to;
+  const double* weights;     /* NULL without */
+  const int64_t* numbers;    /* node_count of them, or NULL */
+  const char* names;         /* one behind the other, or NULL */
+  const size_t* name_starts; /* name i is names[name_starts[i - 1]] up to names[name_starts[i]] */
 } vorlane_links;
 
 /* The arrays are copied. A link of a node to itself is dropped. `weights` and options->weighted go
    together. */
-VORLANE_C_API vorlane_code vorlane_network_from_links(const vorlane_links *links,
-                                                      const vorlane_link_options *options,
-                                                      vorlane_network **network);
-VORLANE_C_API void vorlane_network_free(vorlane_network *network);
+VORLANE_C_API vorlane_code vorlane_network_from_links(const vorlane_links* links,
+                                                      const vorlane_link_options* options,
+                                                      vorlane_network** network);
+VORLANE_C_API void vorlane_network_free(vorlane_network* network);
 
 typedef struct vorlane_network_view {
   uint32_t size; /* nodes with links to others */
   size_t link_count;
   int directed;
   int weighted;
-  vorlane_rows links; /* by node from 0 to size: the second nodes of its links, ascending; in an
-                         undirected network a link stands at its smaller node */
-  const double *weights; /* in the order of links.values, or NULL */
-  const uint32_t *given; /* by node from 0 to size: its number in vorlane_links, or NULL */
+  vorlane_rows links;    /* by node from 0 to size: the second nodes of its links, ascending; in an
+                            undirected network a link stands at its smaller node */
+  const double* weights; /* in the order of links.values, or NULL */
+  const uint32_t* given; /* by node from 0 to size: its number in vorlane_links, or NULL */
   size_t name_bytes;     /* of all names together */
   size_t warning_count;
 } vorlane_network_view;
 
-VORLANE_C_API void vorlane_network_look(const vorlane_network *network, vorlane_network_view *view);
+VORLANE_C_API void vorlane_network_look(const vorlane_network* network, vorlane_network_view* view);
 /* What in the file can't have been meant as it stands, with the line and the cure: the sentence
    `warning` of warning_count, or NULL. */
-VORLANE_C_API const char *vorlane_network_warning(const vorlane_network *network, size_t warning);
+VORLANE_C_API const char* vorlane_network_warning(const vorlane_network* network, size_t warning);
 /* The names of all nodes: writes name_bytes bytes to `names` and size + 1 places to `starts`. */
-VORLANE_C_API void vorlane_network_names(const vorlane_network *network, char *names,
-                                         size_t *starts);
-/* The links as they were given, in the order of names, those over a threshold left out: link i leads
-   from from[i] to to[i]. In an undirected network, two in opposite directions are two. The same
-   links with the same names make the same network. `weights` becomes NULL without. */
-VORLANE_C_API vorlane_code vorlane_network_given_links(const vorlane_network *network,
-                                                       const uint32_t **from, const uint32_t **to,
-                                                       const double **weights, size_t *count);
+VORLANE_C_API void vorlane_network_names(const vorlane_network* network, char* names,
+                                         size_t* starts);
+/* The links as they were given, in the order of names, those over a threshold left out: link i
+   leads from from[i] to to[i]. In an undirected network, two in opposite directions are two. The
+   same links with the same names make the same network. `weights` becomes NULL without. */
+VORLANE_C_API vorlane_code vorlane_network_given_links(const vorlane_network* network,
+                                                       const uint32_t** from, const uint32_t** to,
+                                                       const double** weights, size_t* count);
 /* The node of a name; 0 if there is none. */
-VORLANE_C_API vorlane_code vorlane_network_find(const vorlane_network *network, const char *name,
-                                                size_t length, uint32_t *node);
+VORLANE_C_API vorlane_code vorlane_network_find(const vorlane_network* network, const char* name,
+                                                size_t length, uint32_t* node);
 
 /* ---- Results ---- */
 
@@ -188,37 +189,37 @@ typedef struct vorlane_options {
   double intensity;  /* k-cliques need a geometric mean of weights above it; NaN: not asked for */
   double time_limit; /* seconds of processor time for a node's search; NaN: none */
   uint32_t k;        /* one k only, 3 or more; 0: all */
-  const vorlane_rows *cliques; /* all cliques of the network, found before: no search is needed; or
+  const vorlane_rows* cliques; /* all cliques of the network, found before: no search is needed; or
                                   NULL */
   size_t exact_clique_count;
-  const char *directory; /* where to write the files of the program as well, or NULL */
-  const char *source;    /* what their first lines call the input; NULL: "memory" */
+  const char* directory; /* where to write the files of the program as well, or NULL */
+  const char* source;    /* what their first lines call the input; NULL: "memory" */
 } vorlane_options;
 
 /* Finds all cliques and communities. Not with `cliques` and a `directory` at once. */
-VORLANE_C_API vorlane_code vorlane_find(const vorlane_network *network,
-                                        const vorlane_options *options, vorlane_control *control,
-                                        vorlane_results **results);
+VORLANE_C_API vorlane_code vorlane_find(const vorlane_network* network,
+                                        const vorlane_options* options, vorlane_control* control,
+                                        vorlane_results** results);
 /* Opens a results directory; its parts are read when they are asked for. */
-VORLANE_C_API vorlane_code vorlane_results_open(const char *directory, vorlane_results **results);
-VORLANE_C_API void vorlane_results_free(vorlane_results *results);
+VORLANE_C_API vorlane_code vorlane_results_open(const char* directory, vorlane_results** results);
+VORLANE_C_API void vorlane_results_free(vorlane_results* results);
 
 typedef struct vorlane_results_view {
   vorlane_method method;
   int finished;       /* 0 for the directory of a run that goes on, was stopped or failed */
-  const uint32_t *ks; /* descending */
+  const uint32_t* ks; /* descending */
   size_t k_count;
 } vorlane_results_view;
 
-VORLANE_C_API void vorlane_results_look(const vorlane_results *results, vorlane_results_view *view);
+VORLANE_C_API void vorlane_results_look(const vorlane_results* results, vorlane_results_view* view);
 /* A network of its own, to be given back. */
-VORLANE_C_API vorlane_code vorlane_results_network(const vorlane_results *results,
-                                                   vorlane_network **network);
+VORLANE_C_API vorlane_code vorlane_results_network(const vorlane_results* results,
+                                                   vorlane_network** network);
 
 /* By clique: its nodes, ascending. Those from exact_count on are approximate. With one k asked for,
    smaller cliques may not be among them. */
-VORLANE_C_API vorlane_code vorlane_results_cliques(const vorlane_results *results,
-                                                   vorlane_rows *members, size_t *exact_count);
+VORLANE_C_API vorlane_code vorlane_results_cliques(const vorlane_results* results,
+                                                   vorlane_rows* members, size_t* exact_count);
 
 typedef struct vorlane_level {
   uint32_t k;
@@ -226,12 +227,12 @@ typedef struct vorlane_level {
   vorlane_rows members;     /* by community: its nodes, ascending */
   vorlane_rows cliques;     /* by community: its cliques; no rows with the intensity method */
   vorlane_rows k_cliques;   /* with the intensity method: by k-clique, its nodes */
-  const uint32_t *overlaps; /* by pair of communities: first, second, how many nodes they share */
+  const uint32_t* overlaps; /* by pair of communities: first, second, how many nodes they share */
   size_t overlap_count;
 } vorlane_level;
 
-VORLANE_C_API vorlane_code vorlane_results_level(const vorlane_results *results, uint32_t k,
-                                                 vorlane_level *level);
+VORLANE_C_API vorlane_code vorlane_results_level(const vorlane_results* results, uint32_t k,
+                                                 vorlane_level* level);
 
 typedef enum vorlane_distribution {
   VORLANE_MEMBERSHIP = 0, /* communities of a node -> nodes */
@@ -241,9 +242,9 @@ typedef enum vorlane_distribution {
 } vorlane_distribution;
 
 /* Pairs of a value and how often it occurs, values ascending: 2 * count numbers. */
-VORLANE_C_API vorlane_code vorlane_results_distribution(const vorlane_results *results, uint32_t k,
+VORLANE_C_API vorlane_code vorlane_results_distribution(const vorlane_results* results, uint32_t k,
                                                         vorlane_distribution which,
-                                                        const uint32_t **pairs, size_t *count);
+                                                        const uint32_t** pairs, size_t* count);
 
 typedef struct vorlane_summary {
   uint32_t k;
@@ -257,12 +258,12 @@ typedef struct vorlane_summary {
 } vorlane_summary;
 
 /* One for each k, descending. */
-VORLANE_C_API vorlane_code vorlane_results_summary(const vorlane_results *results,
-                                                   const vorlane_summary **levels, size_t *count);
+VORLANE_C_API vorlane_code vorlane_results_summary(const vorlane_results* results,
+                                                   const vorlane_summary** levels, size_t* count);
 /* The k to begin with (G. Palla et al., Nature 435, 2005) and a sentence that says why; 0 if there
    are no communities. The text belongs to the results. */
-VORLANE_C_API vorlane_code vorlane_results_which_k(const vorlane_results *results, uint32_t *k,
-                                                   const char **reason);
+VORLANE_C_API vorlane_code vorlane_results_which_k(const vorlane_results* results, uint32_t* k,
+                                                   const char** reason);
 
 /* A community and the one at the next lower k that holds it. */
 typedef struct vorlane_tree_node {
@@ -272,25 +273,25 @@ typedef struct vorlane_tree_node {
 } vorlane_tree_node;
 
 /* All communities of all k, k ascending. */
-VORLANE_C_API vorlane_code vorlane_results_tree(const vorlane_results *results,
-                                                const vorlane_tree_node **nodes, size_t *count);
+VORLANE_C_API vorlane_code vorlane_results_tree(const vorlane_results* results,
+                                                const vorlane_tree_node** nodes, size_t* count);
 
 /* Writes what vorlane_find() has found as the files of the program; the directory must be missing
    or empty. `source` as in vorlane_options. */
-VORLANE_C_API vorlane_code vorlane_results_write(const vorlane_results *results,
-                                                 const char *directory, const char *source,
-                                                 vorlane_control *control);
+VORLANE_C_API vorlane_code vorlane_results_write(const vorlane_results* results,
+                                                 const char* directory, const char* source,
+                                                 vorlane_control* control);
 /* Writes a file of one of the formats of `vorlane export`, at one k, or at all for 0. A format of
    several files, or of a file for each k, puts their endings behind `path`. */
-VORLANE_C_API vorlane_code vorlane_results_export(const vorlane_results *results,
-                                                  const char *format, uint32_t k, const char *path,
+VORLANE_C_API vorlane_code vorlane_results_export(const vorlane_results* results,
+                                                  const char* format, uint32_t k, const char* path,
                                                   int overwrite);
 
-/* Writes one html page that needs nothing else: communities at every k as pictures and tables. `k` is
-   shown first; 0: the recommended one. `title` may be NULL. */
-VORLANE_C_API vorlane_code vorlane_results_report(const vorlane_results *results, const char *path,
-                                                  const char *title, uint32_t k, int overwrite,
-                                                  vorlane_control *control);
+/* Writes one html page that needs nothing else: communities at every k as pictures and tables. `k`
+   is shown first; 0: the recommended one. `title` may be NULL. */
+VORLANE_C_API vorlane_code vorlane_results_report(const vorlane_results* results, const char* path,
+                                                  const char* title, uint32_t k, int overwrite,
+                                                  vorlane_control* control);
 
 typedef enum vorlane_figure {
   VORLANE_TREE = 0,         /* the communities at all k, one inside another */
@@ -299,9 +300,9 @@ typedef enum vorlane_figure {
 } vorlane_figure;
 
 /* A picture as an SVG document, which lives until the same results are asked for another one. */
-VORLANE_C_API vorlane_code vorlane_results_figure(const vorlane_results *results,
+VORLANE_C_API vorlane_code vorlane_results_figure(const vorlane_results* results,
                                                   vorlane_figure which, uint32_t k,
-                                                  vorlane_control *control, const char **svg);
+                                                  vorlane_control* control, const char** svg);
 
 /* ---- Comparing ---- */
 
@@ -329,17 +330,17 @@ typedef struct vorlane_change {
 typedef struct vorlane_comparison_view {
   double omega; /* omega index (L. M. Collins, C. W. Dent, 1988) */
   double nmi;   /* of overlapping communities (A. F. McDaid, D. Greene, N. Hurley, 2011) */
-  const vorlane_change *changes; /* of all of the first cover, then new ones of the second */
+  const vorlane_change* changes; /* of all of the first cover, then new ones of the second */
   size_t change_count;
 } vorlane_comparison_view;
 
 /* Compares two covers of the nodes 1 to node_count; each row holds nodes in ascending order. */
-VORLANE_C_API vorlane_code vorlane_compare(uint32_t node_count, const vorlane_rows *first,
-                                           const vorlane_rows *second,
-                                           vorlane_comparison **comparison);
-VORLANE_C_API void vorlane_comparison_look(const vorlane_comparison *comparison,
-                                           vorlane_comparison_view *view);
-VORLANE_C_API void vorlane_comparison_free(vorlane_comparison *comparison);
+VORLANE_C_API vorlane_code vorlane_compare(uint32_t node_count, const vorlane_rows* first,
+                                           const vorlane_rows* second,
+                                           vorlane_comparison** comparison);
+VORLANE_C_API void vorlane_comparison_look(const vorlane_comparison* comparison,
+                                           vorlane_comparison_view* view);
+VORLANE_C_API void vorlane_comparison_free(vorlane_comparison* comparison);
 
 /* ---- Arrow ---- */
 
@@ -348,8 +349,8 @@ struct ArrowArrayStream;
 /* The communities at a k for Arrow's C stream interface: one batch with a row for each, of
    `community` (uint32), `exact` (bool) and `members` (large list of uint32, nodes). Members aren't
    copied; what is handed out keeps them alive and is to be released as Arrow tells. */
-VORLANE_C_API vorlane_code vorlane_results_arrow(const vorlane_results *results, uint32_t k,
-                                                 struct ArrowArrayStream *stream);
+VORLANE_C_API vorlane_code vorlane_results_arrow(const vorlane_results* results, uint32_t k,
+                                                 struct ArrowArrayStream* stream);
 
 #ifdef __cplusplus
 }
