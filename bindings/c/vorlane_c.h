@@ -4,8 +4,8 @@
 /* Vorlane for C, and for whatever can call C: overlapping communities in networks by clique
    percolation, in memory.
 
-     vorlane_network *network;
-     vorlane_results *results;
+     vorlane_network* network;
+     vorlane_results* results;
      vorlane_level level;
      if (vorlane_network_read("links.txt", NULL, NULL, &network) ||
          vorlane_find(network, NULL, NULL, &results) || vorlane_results_level(results, 4, &level))
@@ -110,12 +110,11 @@ typedef struct vorlane_rows {
 /* How links are taken. All zero but for thresholds that are not a number is the default. */
 typedef struct vorlane_link_options {
   int directed;
-  int weighted;       /* set by either threshold */
-  double min_weight;  /* a link at or below it is left out; NaN: none is */
-  double max_weight;  /* a link at or above it is left out; NaN: none is */
-  const char* format; /* of a file: "links", "csv", ...; NULL: told by its name */
-  const char*
-      columns; /* of csv and tsv: "FROM,TO" or "FROM,TO,WEIGHT", by name or number, or NULL */
+  int weighted;        /* set by either threshold */
+  double min_weight;   /* a link at or below it is left out; NaN: none is */
+  double max_weight;   /* a link at or above it is left out; NaN: none is */
+  const char* format;  /* of a file: "links", "csv", ...; NULL: told by its name */
+  const char* columns; /* of csv, tsv: "FROM,TO" or "FROM,TO,WEIGHT", by name or number; or NULL */
 } vorlane_link_options;
 
 /* From a file in any format that the program reads; "-" is standard input. */

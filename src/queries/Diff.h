@@ -36,8 +36,8 @@ struct Change {
 struct Level_diff {
   std::uint32_t k = 0;
   std::vector<Change> changes;  ///< Changes_between()
-  double omega = 1.0;  ///< Omega_index()
-  double nmi = 1.0;    ///< Overlapping_nmi()
+  double omega = 1.0;           ///< Omega_index()
+  double nmi = 1.0;             ///< Overlapping_nmi()
 };
 
 /// What became of the communities of the first cover, in their order, then each one of the second
