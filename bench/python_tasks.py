@@ -142,6 +142,8 @@ def of_networkit(path):
 
     def whole():
         graph = networkit.GraphFromCoo((np.ones(len(source)), (source, target)), n=count)
+        graph.removeMultiEdges()  # its search crashes on links in both directions
+        graph.removeSelfLoops()
         search = networkit.clique.MaximalCliques(graph)
         search.run()
         return search.getCliques()
