@@ -284,7 +284,6 @@ def test_a_library_that_is_missing_or_foreign_is_told(tmp_path: Path) -> None:
 
 def test_memory_is_given_back() -> None:
     resource = """
-        import gc
         from conftest import random_links
         import vorlane as vl
         from vorlane._control import _resident_bytes
@@ -293,9 +292,9 @@ def test_memory_is_given_back() -> None:
             r = vl.find(links)
             r[3].membership, r.tree(), r.summary(), r[3].arrow.__arrow_c_stream__(), list(r[4])
         for _ in range(100): work()
-        gc.collect(); before = _resident_bytes()
+        before = _resident_bytes()
         for _ in range(1000): work()
-        gc.collect(); print(_resident_bytes() - before)
+        print(_resident_bytes() - before)
     """
     done = run_python(resource)
     assert done.returncode == 0, done.stderr

@@ -4,7 +4,7 @@ from __future__ import annotations
 
 import ctypes
 from collections.abc import Sequence
-from typing import TYPE_CHECKING, Any, Iterator, overload
+from typing import TYPE_CHECKING, Any, Iterator, Tuple, overload
 
 import numpy as np
 import numpy.typing as npt
@@ -15,6 +15,10 @@ from ._library import call
 
 if TYPE_CHECKING:
     from .results import Results
+
+
+#: Starts by node, and communities.
+Holders = Tuple[npt.NDArray[np.int64], npt.NDArray[np.uint32]]
 
 
 class Level(Sequence[frozenset[Any]]):
@@ -51,7 +55,6 @@ class Level(Sequence[frozenset[Any]]):
         )
         self._cliques = rows(native.cliques, owner)
         self._k_cliques = rows(native.k_cliques, owner)
-        self._by_node: tuple[npt.NDArray[np.int64], npt.NDArray[np.uint32]] | None = None
 
     def __len__(self) -> int:
         return len(self.starts) - 1
@@ -110,15 +113,16 @@ class Level(Sequence[frozenset[Any]]):
         place = self.results._nodes_by_number.__getitem__
         return [frozenset(map(place, row)) for row in _lists(*self._k_cliques)]
 
-    def holders(self) -> tuple[npt.NDArray[np.int64], npt.NDArray[np.uint32]]:
+    def holders(self) -> Holders:
         """For nodes from 0 (no node) on, ``(starts, communities)``: node v is in the communities
         ``communities[starts[v]:starts[v + 1]]``, ascending."""
-        if self._by_node is None:
+        kept = self.results._holders
+        if self.k not in kept:
             number = row_of_each(self.starts)
             order = np.argsort(self.members, kind="stable")
             counts = np.bincount(self.members, minlength=len(self.results._nodes_by_number))
-            self._by_node = np.concatenate([[0], np.cumsum(counts)]), number[order]
-        return self._by_node
+            kept[self.k] = np.concatenate([[0], np.cumsum(counts)]), number[order]
+        return kept[self.k]
 
     @property
     def membership(self) -> dict[Any, tuple[int, ...]]:

@@ -5,6 +5,7 @@ from __future__ import annotations
 import ctypes
 import os
 import shutil
+import weakref
 from collections.abc import Mapping
 from functools import cached_property
 from typing import Any, Iterator, NamedTuple
@@ -19,7 +20,7 @@ from ._library import Owner, call, library
 from ._links import Links
 from ._network import Network, link_options, optional
 from .errors import OutputError, ParameterError
-from .level import Level
+from .level import Holders, Level
 
 _METHODS = ("undirected", "directed", "intensity")
 _FIGURES = ("tree", "graph", "distributions")
@@ -100,7 +101,10 @@ class Results(Mapping[int, Level]):
         self._owner = owner
         self._asked = asked
         self._directory = directory
-        self._levels: dict[int, Level] = {}
+        # A level refers to its results: these must not refer back, or both would wait for the
+        # collector of cycles with all their native memory.
+        self._levels: weakref.WeakValueDictionary[int, Level] = weakref.WeakValueDictionary()
+        self._holders: dict[int, Holders] = {}
         if network is not None:
             self.__dict__["_network"] = network
         look = _capi.ResultsView()
@@ -150,12 +154,13 @@ class Results(Mapping[int, Level]):
         return [frozenset(members[a:b]) for a, b in zip(ends, ends[1:])]
 
     def __getitem__(self, k: int) -> Level:
-        if k not in self._levels:
+        level = self._levels.get(k)
+        if level is None:
             if k not in self.ks:
                 there = f"there are {self.ks}" if self.ks else "there are none"
                 raise UnknownK(f"There are no communities at k = {k!r}; {there}.")
-            self._levels[k] = Level(self, k)
-        return self._levels[k]
+            level = self._levels[k] = Level(self, k)
+        return level
 
     def __iter__(self) -> Iterator[int]:
         return iter(self.ks)
