@@ -92,7 +92,7 @@ def k_clique_communities(path, k, backend, limit):
 
 
 def random_graphs(count):
-    """By how many ms calls that try the backend first are slower at most than those that don't, each
+    """By how many ms calls that try the backend are slower at most than those that don't, each
     the least of five that take turns."""
     generator = random.Random(1)
     calls = {
