@@ -53,8 +53,10 @@ std::string Reason(const Candidate& chosen, const Summary& summary) {
   const std::string covers = "covers " + Percent(chosen.share) + " of the nodes";
   if (level.second_largest == 0)
     return "At every k there is one community at most; this one " + covers + ".";
+  const std::string times = Rounded(level.Dominance());
   const std::string size =
-      "its largest community has " + Rounded(level.Dominance()) + " times the nodes of the second";
+      times == "1" ? "its largest community is about as large as the second"
+                   : "its largest community has " + times + " times the nodes of the second";
   if (level.Dominance() <= most_dominant)
     return "It " + covers + ", the most before a giant community swallows the others: " + size +
            Below(summary, level) + ".";
