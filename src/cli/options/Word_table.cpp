@@ -63,7 +63,6 @@ constexpr Option k_only{
 constexpr std::array diff_options{k_only, json, csv};
 
 constexpr Option force{
-
     .word = "--force",
     .argument = "",
     .group = Option::Group::display,

@@ -156,9 +156,7 @@ class Results(Mapping[int, Level]):
     def __getitem__(self, k: int) -> Level:
         level = self._levels.get(k)
         if level is None:
-            if k not in self.ks:
-                there = f"there are {self.ks}" if self.ks else "there are none"
-                raise UnknownK(f"There are no communities at k = {k!r}; {there}.")
+            self._refuse_unknown(k)
             level = self._levels[k] = Level(self, k)
         return level
 
@@ -238,7 +236,9 @@ class Results(Mapping[int, Level]):
         return Distributions(*map(pairs, range(4)))
 
     def _refuse_unknown(self, k: int) -> None:
-        self[k]
+        if k not in self.ks:
+            there = f"there are {self.ks}" if self.ks else "there are none"
+            raise UnknownK(f"There are no communities at k = {k!r}; {there}.")
 
     def _handed_out(self, name: str, struct: type[ctypes.Structure]) -> npt.NDArray[Any]:
         address, count = ctypes.c_void_p(), ctypes.c_size_t()

@@ -6,7 +6,7 @@ import os
 from typing import Any, Callable, NamedTuple, Union
 
 from .._links import Links
-from ..errors import InputError, ParameterError
+from ..errors import InputError
 from . import columns, frames, graphs, matrices
 
 
@@ -49,5 +49,3 @@ _KINDS: list[tuple[Callable[[Any], bool], Callable[[Any, Wishes], Links]]] = [
     (columns.is_columns, columns.of_columns),
     (columns.is_pairs, columns.of_pairs),
 ]
-
-__all__ = ["Links", "ParameterError", "Path", "Wishes", "links_of"]
