@@ -7,11 +7,12 @@
 
 namespace gns {
 
-/// The message of the `Xerror_msg` that an operation throws.
-inline std::string Thrown_message(const std::function<void()>& operation) {
+/// The message of the error of such a type that an operation throws.
+template <typename Error = Xerror_msg>
+std::string Thrown_message(const std::function<void()>& operation) {
   try {
     operation();
-  } catch (const Xerror_msg& error) {
+  } catch (const Error& error) {
     return error.what();
   }
   return "nothing was thrown";

@@ -15,6 +15,7 @@ void Progress::Reset() {
 }
 
 void End_by_stop() {
+  if (control_sub::role_of_this_thread != Worker_role::sole) throw Worker_leaves();
   Report_state(std::string(" Process stopped by user.\n"));
   if (void (*const leave)() = This_control().before_unwinding.load(); leave != nullptr) leave();
   throw std::logic_error("Process stopped by user.\n");

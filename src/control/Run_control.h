@@ -27,6 +27,11 @@ struct Progress {
 
 /// All that a run shares with those who watch it.
 struct Run_control {
+  /// Threads that may work for the run at a time; what is one behind the other by its nature has
+  /// one all the same.
+  unsigned workers = 1;
+  /// A worker has failed: the polls of the others end them.
+  std::atomic<bool> abandoned = false;
   std::atomic<bool> stop = false;
   /// Beside `stop`: it is to be honoured inside the long stages too (reading, sorting, percolation,
   /// writing), where otherwise it waits for the next stage.
@@ -68,25 +73,47 @@ class Control_in_use {
   Run_control* before_;
 };
 
-/// Replaces the state report.
-inline void Report_state(std::string text) { This_control().state_report = std::move(text); }
+/// What a thread is to its run: the sole one, or, for a while, the first of several workers or a
+/// fellow of that one.
+enum class Worker_role : std::uint8_t { sole, first, fellow };
+
+/// What ends a worker, and is met by nobody but On_workers(): a stop, or the failure of another.
+class Worker_leaves {};
+
+namespace control_sub {
+[[gnu::tls_model("initial-exec")]] inline constinit thread_local Worker_role role_of_this_thread =
+    Worker_role::sole;
+}  // namespace control_sub
+
+/// Replaces the state report. Fellows don't: what they would say goes with what the first worker
+/// says, but is about something else.
 inline void Report_state(std::shared_ptr<const Report> report) {
-  This_control().state_report = std::move(report);
+  if (control_sub::role_of_this_thread != Worker_role::fellow)
+    This_control().state_report = std::move(report);
+}
+inline void Report_state(std::string text) {
+  if (control_sub::role_of_this_thread != Worker_role::fellow)
+    This_control().state_report = std::move(text);
 }
 
-/// Assigns the report of a stop, calls `before_unwinding` and throws
-/// std::logic_error("Process stopped by user.\n").
+/// Ends a run: assigns the report of a stop, calls `before_unwinding` and throws
+/// std::logic_error("Process stopped by user.\n"). Where there are several workers it ends the one
+/// that calls it, and On_workers() does the rest.
 [[noreturn]] void End_by_stop();
 
 /// Returns while no stop is asked for; otherwise ends the run by an exception.
 inline void Check_for_stop_signal() {
-  if (This_control().stop.load(std::memory_order_relaxed)) [[unlikely]]
+  const Run_control& control = This_control();
+  if (control.stop.load(std::memory_order_relaxed) ||
+      control.abandoned.load(std::memory_order_relaxed)) [[unlikely]]
     End_by_stop();
 }
 
 /// The poll of the long stages: only a stop at once ends the run here.
 inline void Check_inside_long_stage() {
-  if (This_control().stop_at_once.load(std::memory_order_relaxed)) [[unlikely]]
+  const Run_control& control = This_control();
+  if (control.stop_at_once.load(std::memory_order_relaxed) ||
+      control.abandoned.load(std::memory_order_relaxed)) [[unlikely]]
     End_by_stop();
 }
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 /// Beside the state report: how much of its work the stage at hand has done, in units of its own.
-/// One thread keeps it, any other may read.
+/// The threads of the run keep it, any other may read.
 namespace external_control {
 
 class Work_done {
@@ -17,7 +17,7 @@ class Work_done {
 
   /// A stage with so much work to do; 0 ends the telling.
   void Begin(std::uint64_t total);
-  void Add(std::uint64_t units) { Set(done_.load(std::memory_order_relaxed) + units); }
+  void Add(std::uint64_t units) { done_.fetch_add(units, std::memory_order_relaxed); }
   void Set(std::uint64_t done) { done_.store(done, std::memory_order_relaxed); }
   /// Never more done than there is.
   [[nodiscard]] Share Now() const;

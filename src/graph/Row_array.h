@@ -35,6 +35,17 @@ class Row_array {
     values_.append(row.data(), row.size());
     Close_row();
   }
+  /// Appends all rows of another one.
+  void Append_rows(const Row_array& other) {
+    if (other.empty()) return;
+    const std::size_t offset = values_.size();
+    values_.append(other.values_.data(), other.values_.size());
+    if (starts_.size() == 0) starts_.push_back(0);
+    std::size_t* const starts = starts_.Room_for(other.size());
+    for (std::size_t row = 0; row < other.size(); ++row)
+      starts[row] = offset + other.starts_.data()[row + 1];
+    starts_.Grew(other.size());
+  }
   /// Appends to the row under construction, which Close_row() then adds.
   void Append(const Value& value) { values_.push_back(value); }
   void Close_row() {

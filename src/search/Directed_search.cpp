@@ -1,6 +1,8 @@
 #include "search/Directed_search.h"
 
-#include "search/Queue_search.h"
+#include <memory>
+
+#include "search/Whole_search.h"
 
 namespace gns {
 
@@ -17,8 +19,9 @@ Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
                 const Dir_vertex_map& dir_vtx_map, const Time_limit* limit) {
   Node_order order;
   Sort_dir_vtx_map(order, dir_vtx_map, "Neighs");
-  Directed_node_search search(dir_vtx_map, order);
-  return Search_all(search, dir_vtx_map.Rows(), order, kind, limit, cliques, overlap_matrix);
+  const Search_graph graph(dir_vtx_map, order);
+  const auto make = [&] { return std::make_unique<Directed_node_search>(graph); };
+  return Search_all(make, {dir_vtx_map.Rows(), order}, kind, limit, cliques, overlap_matrix);
 }
 
 }  // namespace

@@ -10,21 +10,21 @@
 #include "search/Left_map.h"
 #include "search/Node_search.h"
 #include "search/Overlap_matrix.h"
-#include "search/Search_graph.h"
+#include "search/Unfinished_graph.h"
 
 namespace gns {
 
 /// Finds the directed cliques of a node, in the order of Gap_order.
 class Directed_node_search : public Node_search {
  public:
-  Directed_node_search(const Dir_vertex_map& dir_vtx_map, const Node_order& order)
-      : graph_(dir_vtx_map, order) {}
+  /// `graph` must outlive the object.
+  explicit Directed_node_search(const Search_graph& graph) : graph_(graph) {}
 
   void Find(Node_index node, Attempt& attempt, Clique_vector& cliques) override;
   void Finish(Node_index node) override { graph_.Finish(node); }
 
  private:
-  Search_graph graph_;
+  Unfinished_graph graph_;
   Clique_walk walk_;
   Gap_order order_;
   Local_graph local_;

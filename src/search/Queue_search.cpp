@@ -9,7 +9,6 @@
 
 #include "control/Run_control.h"
 #include "foundation/Errors.h"
-#include "foundation/text/My_double2string.h"
 #include "search/Clique_reports.h"
 #include "search/Hard_cliques.h"
 
@@ -19,12 +18,6 @@ namespace {
 
 using external_control::Report_state;
 namespace reports = Clique_find_report_sub_routines;
-
-std::string Title_of(const Search_kind& kind, const Time_limit* limit) {
-  constexpr unsigned digits = 3;
-  if (limit == nullptr) return kind.title;
-  return kind.timed_title + double2string(limit->seconds, digits) + ":";
-}
 
 /// Composes a report at once and makes it the state report.
 template <typename Compose>
@@ -84,64 +77,6 @@ class Node_queue {
   bool gives_up_ = false;
 };
 
-void Report_end(const Search_kind& kind, const Time_limit* limit, bool all_solved,
-                const Clique_vector& cliques) {
-  const auto count = static_cast<std::uint32_t>(cliques.size());
-  Report([&](std::ostream& s) {
-    if (!all_solved)
-      reports::Report_clique_search_end("exact " + kind.unit, count, s);
-    else if (limit == nullptr)
-      reports::Report_clique_search_end(kind.unit, count, s);
-    else
-      reports::Report_clique_search_end(kind.unit, count, kind.closing_line, s);
-  });
-}
-
-void Note_progress(std::size_t cliques, std::uint32_t nodes_left, std::uint32_t failed_in_a_row) {
-  external_control::Progress& progress = external_control::This_control().progress;
-  progress.cliques_found.store(cliques, std::memory_order_relaxed);
-  progress.nodes_left.store(nodes_left, std::memory_order_relaxed);
-  progress.failed_in_a_row.store(failed_in_a_row, std::memory_order_relaxed);
-}
-
-/// Passes everything on, and tells the work that is done. The work on a node is taken to be the
-/// square of the number of its candidates: its neighbours that have more neighbours than it, or as
-/// many and a greater index.
-class Told_search : public Node_search {
- public:
-  Told_search(Node_search& search, const Adjacency& neighs, const Node_order& order)
-      : search_(search), neighs_(neighs) {
-    std::uint64_t total = 0;
-    for (const Node_index node : order) total += Work_on(node);
-    external_control::This_control().work_done.Begin(total);
-  }
-  ~Told_search() override { external_control::This_control().work_done.Begin(0); }
-  Told_search(const Told_search&) = delete;
-  Told_search& operator=(const Told_search&) = delete;
-
-  void Find(Node_index node, Attempt& attempt, Clique_vector& cliques) override {
-    search_.Find(node, attempt, cliques);
-  }
-  void Finish(Node_index node) override {
-    search_.Finish(node);
-    external_control::This_control().work_done.Add(Work_on(node));
-  }
-
- private:
-  [[nodiscard]] std::uint64_t Work_on(Node_index node) const {
-    const std::size_t degree = neighs_[node].size();
-    std::uint64_t candidates = 0;
-    for (const Node_index other : neighs_[node]) {
-      const std::size_t degree_of_other = neighs_[other].size();
-      if (degree_of_other > degree || (degree_of_other == degree && other > node)) ++candidates;
-    }
-    return 1 + candidates * candidates;
-  }
-
-  Node_search& search_;
-  const Adjacency& neighs_;
-};
-
 }  // namespace
 
 void Refuse_more_than(std::size_t most_cliques, const Clique_vector& cliques) {
@@ -179,14 +114,6 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
   Refuse_more_than(most_cliques, cliques);
   Report_end(kind, limit, left.empty(), cliques);
   return left;
-}
-
-Left_map Search_all(Node_search& search, const Adjacency& neighs, const Node_order& order,
-                    const Search_kind& kind, const Time_limit* limit, Clique_vector& cliques,
-                    Overlap_matrix& overlap_matrix) {
-  overlap_matrix = Overlap_matrix(cliques);  // stays right as the cliques come, up to a stop
-  Told_search told(search, neighs, order);
-  return Spanned_by(Search_queue(told, order, kind, limit, cliques), neighs);
 }
 
 }  // namespace gns

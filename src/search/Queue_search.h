@@ -2,16 +2,13 @@
 
 #include <cstddef>
 #include <limits>
-#include <string>
 #include <vector>
 
-#include "graph/Adjacency.h"
 #include "graph/Node_order.h"
 #include "search/Attempt.h"
 #include "search/Clique_vector.h"
-#include "search/Left_map.h"
 #include "search/Node_search.h"
-#include "search/Overlap_matrix.h"
+#include "search/Search_kind.h"
 
 namespace gns {
 
@@ -20,14 +17,6 @@ constexpr std::size_t most_numbered_cliques = std::numeric_limits<Clique_index>:
 
 /// Throws Xerror_msg if there are more cliques than that.
 void Refuse_more_than(std::size_t most_cliques, const Clique_vector& cliques);
-
-/// What a search is called in its reports.
-struct Search_kind {
-  std::string title;         ///< of an exact search, with its colon
-  std::string timed_title;   ///< in front of the time limit
-  std::string unit;          ///< what is found
-  std::string closing_line;  ///< of a time-limited search that left no node
-};
 
 /// Searches the nodes one by one, in the order given.
 ///
@@ -42,11 +31,5 @@ std::vector<Node_index> Search_queue(Node_search& search, const Node_order& orde
                                      const Search_kind& kind, const Time_limit* limit,
                                      Clique_vector& cliques,
                                      std::size_t most_cliques = most_numbered_cliques);
-
-/// The whole of a search: yields what was given up as a subgraph of `neighs`, and makes the matrix
-/// a view of `cliques`, of those recorded so far if a stop ends it.
-Left_map Search_all(Node_search& search, const Adjacency& neighs, const Node_order& order,
-                    const Search_kind& kind, const Time_limit* limit, Clique_vector& cliques,
-                    Overlap_matrix& overlap_matrix);
 
 }  // namespace gns

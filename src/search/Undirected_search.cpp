@@ -1,10 +1,11 @@
 #include "search/Undirected_search.h"
 
 #include <algorithm>
+#include <memory>
 #include <numeric>
 
 #include "graph/Core.h"
-#include "search/Queue_search.h"
+#include "search/Whole_search.h"
 
 namespace gns {
 
@@ -24,8 +25,9 @@ Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix, const Ve
                 const Adjacency& neighs, std::uint32_t least_size, const Time_limit* limit) {
   Node_order order;
   Sort_Vtx_map(order, vtx_map);
-  Undirected_node_search search(neighs, order, least_size);
-  return Search_all(search, neighs, order, kind, limit, cliques, overlap_matrix);
+  const Search_graph graph(neighs, order);
+  const auto make = [&] { return std::make_unique<Undirected_node_search>(graph, least_size); };
+  return Search_all(make, {neighs, order}, kind, limit, cliques, overlap_matrix);
 }
 
 }  // namespace

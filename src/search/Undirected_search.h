@@ -9,7 +9,7 @@
 #include "search/Left_map.h"
 #include "search/Node_search.h"
 #include "search/Overlap_matrix.h"
-#include "search/Search_graph.h"
+#include "search/Unfinished_graph.h"
 
 namespace gns {
 
@@ -17,10 +17,9 @@ namespace gns {
 /// order where the attempt runs over).
 class Undirected_node_search : public Node_search {
  public:
-  /// Cliques of fewer than `least_size` nodes are left out.
-  Undirected_node_search(const Adjacency& neighs, const Node_order& order,
-                         std::size_t least_size = 3)
-      : graph_(neighs, order), walk_(least_size) {}
+  /// Cliques of fewer than `least_size` nodes are left out. `graph` must outlive the object.
+  explicit Undirected_node_search(const Search_graph& graph, std::size_t least_size = 3)
+      : graph_(graph), walk_(least_size) {}
 
   void Find(Node_index node, Attempt& attempt, Clique_vector& cliques) override;
   void Finish(Node_index node) override { graph_.Finish(node); }
@@ -28,7 +27,7 @@ class Undirected_node_search : public Node_search {
  private:
   void Sort_found();
 
-  Search_graph graph_;
+  Unfinished_graph graph_;
   Clique_walk walk_;
   Local_graph local_;
   std::vector<Bit_word> found_;

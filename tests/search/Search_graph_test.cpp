@@ -1,16 +1,16 @@
-#include "search/Search_graph.h"
-
 #include <gtest/gtest.h>
 
 #include <set>
 
 #include "Random_graphs.h"
+#include "search/Unfinished_graph.h"
 
 namespace gns {
 namespace {
 
 /// How many local graphs a search of the graph builds.
-int Local_graphs_of(Search_graph graph, const Node_order& order) {
+int Local_graphs_of(const Search_graph& whole, const Node_order& order) {
+  Unfinished_graph graph(whole);
   Local_graph local;
   int count = 0;
   for (const Node_index node : order) {

@@ -33,6 +33,8 @@ File_faults_kept::File_faults_kept(File_fault_list& list)
 
 File_faults_kept::~File_faults_kept() { at_hand = before_; }
 
+File_fault_list& File_faults_at_hand() { return *at_hand; }
+
 void Note_file_fault(const std::string& path, const std::string& action, int error_number) {
   at_hand->Note(path, action, error_number);
 }

@@ -38,7 +38,10 @@ class File_faults_kept {
   File_fault_list* before_;
 };
 
-/// The list at hand.
+/// The list at hand, for another thread of the same run to keep.
+File_fault_list& File_faults_at_hand();
+
+/// What goes into it, comes from it and leaves it.
 void Note_file_fault(const std::string& path, const std::string& action, int error_number);
 std::vector<File_fault> File_faults();
 void Forget_file_faults();

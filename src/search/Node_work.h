@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "graph/Adjacency.h"
+#include "graph/Node_order.h"
+
+namespace gns {
+
+/// The nodes in the order of a search, and an estimate of the work on each: the square of the
+/// number of its candidates, which are its neighbours that come later.
+class Node_work {
+ public:
+  /// `order` is by the number of neighbours; both must outlive the object.
+  Node_work(const Adjacency& neighs, const Node_order& order) : neighs_(neighs), order_(order) {}
+
+  [[nodiscard]] const Node_order& Order() const { return order_; }
+  [[nodiscard]] const Adjacency& Neighs() const { return neighs_; }
+  [[nodiscard]] std::uint64_t Of(Node_index node) const;
+  /// Of the nodes at the places from `first` up to `last` of the order.
+  [[nodiscard]] std::uint64_t Of_range(std::size_t first, std::size_t last) const;
+
+  /// Cuts the order into so many ranges, or fewer, of about equal work: the places where they
+  /// begin, ascending from 0, and the end.
+  [[nodiscard]] std::vector<std::size_t> Ranges(std::size_t count) const;
+
+ private:
+  const Adjacency& neighs_;
+  const Node_order& order_;
+};
+
+}  // namespace gns
