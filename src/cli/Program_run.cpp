@@ -87,6 +87,7 @@ class Program_run : private Run_listener {
 
   std::string Message() {
     running_ = this;
+    external_control::PROCESS_CONTROL.workers = wishes_.jobs;
     external_control::BEFORE_UNWINDING = Leave;
     std::string message = Message_of_stages();
     external_control::BEFORE_UNWINDING = nullptr;

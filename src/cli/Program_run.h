@@ -12,6 +12,7 @@ struct Long_wishes {
   Progress_option progress;
   Input_wishes input;
   Output_wishes output;
+  unsigned jobs = 1;  ///< cores to work with
 };
 
 /// Does what a command line asks for, without its long words. The message of the run and a table of

@@ -13,6 +13,7 @@
 #include "cli/commands/Commands.h"
 #include "cli/options/Help_text.h"
 #include "cli/options/Input_options.h"
+#include "cli/options/Jobs_option.h"
 #include "cli/options/Usage.h"
 #include "cli/options/Word_table.h"
 #include "cli/terminal/Stop_signals.h"
@@ -36,7 +37,8 @@ Exit_code Answer(int argc, const char* const* argv) {
     const std::string_view word = argv[i];
     if (gns::Read_progress_option(word, wishes.progress)) continue;
     if (const auto given = gns::Long_argument_at({argv + i, argv + argc})) {
-      if (!gns::Take_input_option(*given, wishes.input))
+      if (!gns::Take_input_option(*given, wishes.input) &&
+          !gns::Take_jobs_option(*given, wishes.jobs))
         gns::Take_output_option(*given, wishes.output);
       i += static_cast<int>(given->words) - 1;
       continue;

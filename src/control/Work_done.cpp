@@ -11,6 +11,12 @@ void Work_done::Begin(std::uint64_t total) {
   ++stage_;
 }
 
+void Work_done::Raise(std::uint64_t done) {
+  std::uint64_t before = done_;
+  while (before < done && !done_.compare_exchange_weak(before, done)) {
+  }
+}
+
 Work_done::Share Work_done::Now() const {
   const std::uint64_t stage = stage_;
   const std::uint64_t total = total_;

@@ -19,6 +19,8 @@ class Work_done {
   void Begin(std::uint64_t total);
   void Add(std::uint64_t units) { done_.fetch_add(units, std::memory_order_relaxed); }
   void Set(std::uint64_t done) { done_.store(done, std::memory_order_relaxed); }
+  /// At least so much is done.
+  void Raise(std::uint64_t done);
   /// Never more done than there is.
   [[nodiscard]] Share Now() const;
 

@@ -1,5 +1,6 @@
 #include "control/Workers.h"
 
+#include <algorithm>
 #include <atomic>
 #include <exception>
 #include <mutex>
@@ -83,6 +84,20 @@ void On_workers(unsigned count, const std::function<void(unsigned)>& work) {
     work(0);
   else
     Team(work).Work(count);
+}
+
+void On_ranges(std::size_t count, const std::function<void(std::size_t, std::size_t)>& use) {
+  constexpr std::size_t ranges_of_worker = 8;
+  constexpr std::size_t least_range = 4096;  // for less it is not worth the asking
+  const unsigned workers = This_control().workers;
+  if (workers == 1 || count <= least_range) return use(0, count);
+  const std::size_t step =
+      std::max(least_range, count / (std::size_t{workers} * ranges_of_worker) + 1);
+  std::atomic<std::size_t> next = 0;
+  On_workers(workers, [&](unsigned) {
+    for (std::size_t first = 0; (first = next.fetch_add(step)) < count;)
+      use(first, std::min(first + step, count));
+  });
 }
 
 }  // namespace external_control

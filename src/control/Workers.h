@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 
 namespace external_control {
@@ -12,5 +13,10 @@ namespace external_control {
 /// and then the run. Where the system gives no more threads there are fewer workers. With one,
 /// and in a worker of others, no thread is started.
 void On_workers(unsigned count, const std::function<void(unsigned worker)>& work);
+
+/// Has the workers of the run do use(first, last) for ranges that together are 0 up to `count`,
+/// each by one of them; all at once where there is one. For what is alike for all that is in them.
+void On_ranges(std::size_t count,
+               const std::function<void(std::size_t first, std::size_t last)>& use);
 
 }  // namespace external_control

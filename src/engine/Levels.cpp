@@ -10,39 +10,65 @@ namespace gns {
 
 using external_control::Report_state;
 
-Levels::Levels(const Levels_input& input) : input_(input) {
+Levels::Levels(const Levels_input& input) : common_(std::make_shared<Common>(input)) {
   if (input.intensity_threshold)
-    weighted_cliques_.emplace(input.cliques, input.index_links);
+    common_->weighted_cliques.emplace(input.cliques, input.index_links);
   else
-    percolation_.emplace(input.cliques, input.exact_clique_count, false);
-  if (percolation_ && !input.links_are_kept) percolation_->Give_up_links();
+    common_->percolation.emplace(input.cliques, input.exact_clique_count, false);
+  if (common_->percolation && !input.links_are_kept) common_->percolation->Give_up_links();
 }
 
-void Levels::Find_k_cliques(Level& level) {
+void Levels::Share(std::uint32_t largest_k, std::uint32_t smallest_k) {
+  common_->turns.emplace();
+  common_->largest_k = largest_k;
+  common_->smallest_k = smallest_k;
+  if (!common_->percolation) return;
+  common_->percolation->Expect_fellows();
+  common_->percolation->Walk().Prepare();
+}
+
+Levels Levels::Fellow() const {
+  Levels fellow(common_);
+  if (!common_->percolation) return fellow;
+  fellow.fellow_walk_.emplace(common_->percolation->Walk().Fellow());
+  fellow.fellow_walk_->Make_lists(common_->smallest_k);
+  return fellow;
+}
+
+std::uint64_t Levels::Bytes_of_fellow() const {
+  return common_->percolation ? common_->percolation->Walk().Bytes_of_fellow() : 0;
+}
+
+void Levels::Find_k_cliques(Level& level) const {
   level.k_cliques.emplace(level.k);
-  Generate_k_cls_from_cls_ec(*weighted_cliques_, *level.k_cliques, level.k,
-                             *input_.intensity_threshold);
+  Generate_k_cls_from_cls_ec(*common_->weighted_cliques, *level.k_cliques, level.k,
+                             *Input().intensity_threshold);
 }
 
 void Levels::Find_communities(Level& level) {
-  if (input_.intensity_threshold)
+  if (Input().intensity_threshold)
     Join_by_intensity(level);
   else
     Join_by_overlap(level);
 }
 
+/// What is claimed can be told for each k by itself; the contents of communities come from those
+/// of the k above.
 void Levels::Join_by_overlap(Level& level) {
   std::ostringstream report;
-  Coms_report_sub::Report_com_export(level.k, input_.max_clique_size, report);
+  Coms_report_sub::Report_com_export(level.k, Input().max_clique_size, report);
   Report_state(report.str());
-  level.communities = percolation_->At(level.k);
+  const Claimed_cliques& claimed = Walk().At(level.k);
+  if (common_->turns) common_->turns->Await(common_->largest_k - level.k);
+  level.communities = common_->percolation->Contents(level.k, claimed);
+  if (common_->turns) common_->turns->Pass();
   Report_state(" done.\n");
 }
 
 void Levels::Join_by_intensity(Level& level) const {
   auto communities = std::make_shared<Communities>();
   Intensity_coms_from_k_cliques_ec(*level.k_cliques, communities->coms, level.com_k_cliques,
-                                   weighted_cliques_->Logs(), *input_.intensity_threshold);
+                                   common_->weighted_cliques->Logs(), *Input().intensity_threshold);
   communities->exact_com_count = static_cast<std::uint32_t>(communities->size());
   level.communities = std::move(communities);
 }
@@ -52,7 +78,7 @@ void Levels::Link_communities(Level& level) {
 }
 
 void Levels::Count(Level& level) const {
-  level.statistics = Statistics_of(*level.communities, level.com_graph, input_.node_count);
+  level.statistics = Statistics_of(*level.communities, level.com_graph, Input().node_count);
 }
 
 }  // namespace gns

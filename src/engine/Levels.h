@@ -3,9 +3,11 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "communities/Communities.h"
 #include "communities/Level_statistics.h"
+#include "control/Turns.h"
 #include "graph/Index_links.h"
 #include "graph/Row_array.h"
 #include "intensity/K_clique_communities.h"
@@ -52,22 +54,46 @@ class Levels {
  public:
   explicit Levels(const Levels_input& input);
 
-  [[nodiscard]] const Levels_input& Input() const { return input_; }
+  [[nodiscard]] const Levels_input& Input() const { return common_->input; }
 
   /// The steps of a level, in their order, each with what it needs from those before it. The first
   /// one is of the intensity method.
-  void Find_k_cliques(Level& level);
+  void Find_k_cliques(Level& level) const;
   void Find_communities(Level& level);
   static void Link_communities(Level& level);
   void Count(Level& level) const;
 
+  /// Prepares for workers that find every k from `largest_k` down to `smallest_k` once, each of
+  /// them taking the largest that is left: from here on a level is found when the one above it is.
+  void Share(std::uint32_t largest_k, std::uint32_t smallest_k);
+  /// For one more worker, when they are shared; callable from its thread. Throws std::bad_alloc.
+  [[nodiscard]] Levels Fellow() const;
+  /// About how many bytes a fellow takes.
+  [[nodiscard]] std::uint64_t Bytes_of_fellow() const;
+
  private:
+  /// What all workers see.
+  struct Common {
+    explicit Common(const Levels_input& levels_input) : input(levels_input) {}
+
+    Levels_input input;
+    std::optional<Percolation> percolation;            ///< of the plain method
+    std::optional<Weighted_cliques> weighted_cliques;  ///< of the intensity method
+    /// Of those that are shared: whose communities are to be found next, down from `largest_k`.
+    std::optional<external_control::Turns> turns;
+    std::uint32_t largest_k = 0;
+    std::uint32_t smallest_k = 0;
+  };
+
+  explicit Levels(std::shared_ptr<Common> common) : common_(std::move(common)) {}
+  [[nodiscard]] Claim_walk& Walk() {
+    return fellow_walk_ ? *fellow_walk_ : common_->percolation->Walk();
+  }
   void Join_by_overlap(Level& level);
   void Join_by_intensity(Level& level) const;
 
-  Levels_input input_;
-  std::optional<Percolation> percolation_;  ///< of the plain method
-  std::optional<Weighted_cliques> weighted_cliques_;
+  std::shared_ptr<Common> common_;
+  std::optional<Claim_walk> fellow_walk_;
 };
 
 }  // namespace gns

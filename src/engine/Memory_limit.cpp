@@ -5,16 +5,12 @@
 
 #include <algorithm>
 #include <charconv>
-#include <filesystem>
 #include <optional>
-#include <stdexcept>
 #include <string_view>
-#include <vector>
 
+#include "foundation/Control_groups.h"
 #include "foundation/Environment.h"
 #include "foundation/Errors.h"
-#include "foundation/io/Line_reader.h"
-#include "foundation/text/Text_fields.h"
 
 namespace gns {
 
@@ -25,80 +21,34 @@ constexpr std::uint64_t megabyte = kilobyte * kilobyte;
 
 /// Where a version of the control groups keeps its figures.
 struct Cgroup_files {
-  const char* mount;
   const char* limit;
   const char* usage;
   const char* inactive_files;
   const char* active_files;
 };
-constexpr Cgroup_files version_1 = {"/sys/fs/cgroup/memory", "memory.limit_in_bytes",
-                                    "memory.usage_in_bytes", "total_inactive_file",
-                                    "total_active_file"};
-constexpr Cgroup_files version_2 = {"/sys/fs/cgroup", "memory.max", "memory.current",
-                                    "inactive_file", "active_file"};
-
-/// The lines of a file of the system; none if it is missing or can't be read.
-std::vector<std::string> Lines_of(const std::string& path) {
-  std::vector<std::string> lines;
-  try {
-    Line_reader file(path);
-    for (std::string_view line; file.Next(line);) lines.emplace_back(line);
-  } catch (const std::logic_error&) {
-    lines.clear();
-  }
-  return lines;
-}
-
-/// The number on the line that begins with the key, or, without one, on the first.
-std::optional<std::uint64_t> Number_in(const std::string& path, std::string_view key = {}) {
-  for (const std::string& line : Lines_of(path)) {
-    std::string_view rest = line;
-    if (!key.empty() && Extract_word(rest) != key) continue;
-    const std::string_view digits = Extract_word(rest);
-    std::uint64_t number = 0;
-    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    if (result.ec == std::errc()) return number;
-    return std::nullopt;
-  }
-  return std::nullopt;
-}
+constexpr Cgroup_files version_1 = {"/memory.limit_in_bytes", "/memory.usage_in_bytes",
+                                    "total_inactive_file", "total_active_file"};
+constexpr Cgroup_files version_2 = {"/memory.max", "/memory.current", "inactive_file",
+                                    "active_file"};
 
 std::uint64_t Less(std::uint64_t a, std::uint64_t b) { return a > b ? a - b : 0; }
 
 /// What is left in one control group; nothing if it has no limit.
-std::optional<std::uint64_t> Left_in_group(const std::string& group, const Cgroup_files& files) {
-  const std::optional<std::uint64_t> limit = Number_in(group + "/" + files.limit);
+std::optional<std::uint64_t> Left_in_group(const Control_group& group) {
+  const Cgroup_files& files = group.version == 1 ? version_1 : version_2;
+  const std::optional<std::uint64_t> limit = Number_in(group.directory + files.limit);
   if (!limit) return std::nullopt;
-  const std::string stat = group + "/memory.stat";
+  const std::string stat = group.directory + "/memory.stat";
   const std::uint64_t cached = Number_in(stat, files.inactive_files).value_or(0) +
                                Number_in(stat, files.active_files).value_or(0);
-  return Less(*limit, Less(Number_in(group + "/" + files.usage).value_or(0), cached));
+  return Less(*limit, Less(Number_in(group.directory + files.usage).value_or(0), cached));
 }
 
-/// The least that is left in a control group and in those around it.
-std::uint64_t Left_in_groups(const std::string& mount, std::filesystem::path group,
-                             const Cgroup_files& files) {
-  std::uint64_t least = UINT64_MAX;
-  for (;; group = group.parent_path()) {
-    least = std::min(least, Left_in_group(mount + group.string(), files).value_or(UINT64_MAX));
-    if (!group.has_relative_path()) return least;
-  }
-}
-
-/// A line reads "NUMBER:CONTROLLER,...:/PATH"; version 2 has no controllers.
+/// The least that is left in a control group around this process.
 std::uint64_t Left_in_own_groups(const std::string& root) {
   std::uint64_t least = UINT64_MAX;
-  for (const std::string& line : Lines_of(root + "/proc/self/cgroup")) {
-    const std::size_t first = line.find(':');
-    const std::size_t second = line.find(':', first + 1);
-    if (second == std::string::npos) continue;
-    std::string controllers = line.substr(first, second - first + 1);
-    std::ranges::replace(controllers, ',', ':');
-    const bool memory = controllers.find(":memory:") != std::string::npos;
-    if (!memory && controllers != "::") continue;
-    const Cgroup_files& files = memory ? version_1 : version_2;
-    least = std::min(least, Left_in_groups(root + files.mount, line.substr(second + 1), files));
-  }
+  for (const Control_group& group : Groups_around("memory", root))
+    least = std::min(least, Left_in_group(group).value_or(UINT64_MAX));
   return least;
 }
 

@@ -7,6 +7,7 @@
 #include "control/Run_control.h"
 #include "engine/Check_switches.h"
 #include "engine/Find_level.h"
+#include "engine/Find_levels.h"
 #include "engine/Levels.h"
 #include "engine/Own_input.h"
 #include "engine/Work_of_levels.h"
@@ -173,21 +174,31 @@ class Run {
     const std::uint32_t from = single ? parameters_.single_k : input.max_clique_size;
     const std::uint32_t to = single ? parameters_.single_k : least_k;
     Tell_bound(input, from, to);
-    Levels levels(input);
     Work_of_levels work(summary_.cliques_of_size, from, to);
     const Level_output output = {*results_, graph_.names};
-    const auto find_and_write = [&](std::uint32_t k) {
+    const auto find_and_write = [&](std::uint32_t k, Levels& levels) {
+      if (!single) Check_for_stop_signal();
       mark_->Check();
       Level level = Find_level(k, levels, &output);
-      if (wishes_.keeper != nullptr) wishes_.keeper->Keep_level(level, graph_.links);
-      summary_.extractions.push_back({k, std::move(level.statistics)});
+      if (wishes_.keeper == nullptr) Leave_statistics_only(level);
+      return level;
     };
-    if (single) return find_and_write(from);
-    for (std::uint32_t k = from; k >= to; --k) {
-      Check_for_stop_signal();
-      find_and_write(k);
-      work.End_level(k);
-    }
+    const auto keep = [&](Level& level) {
+      if (wishes_.keeper != nullptr) wishes_.keeper->Keep_level(level, graph_.links);
+      summary_.extractions.push_back({level.k, std::move(level.statistics)});
+      if (!single) work.End_level(level.k);
+    };
+    // A table has entries of every k, and no lock.
+    const bool one_by_one = wishes_.tables != Table_pointers();
+    Find_levels(input, {from, to}, one_by_one ? 1 : external_control::This_control().workers,
+                {find_and_write, keep});
+  }
+
+  static void Leave_statistics_only(Level& level) {
+    Level kept;
+    kept.k = level.k;
+    kept.statistics = std::move(level.statistics);
+    level = std::move(kept);
   }
 
   void Tell_bound(const Levels_input& input, std::uint32_t from, std::uint32_t to) const {

@@ -31,7 +31,7 @@ class Work_of_levels {
 
   void End_level(std::uint32_t k) {
     done_ += cliques_from_[k];
-    external_control::This_control().work_done.Set(done_);
+    external_control::This_control().work_done.Raise(done_);
   }
 
  private:

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "control/Run_control.h"
+#include "control/Workers.h"
 
 namespace gns {
 
@@ -23,18 +24,34 @@ Node_ranks::Node_ranks(const Clique_vector& cliques) {
 
 template <typename Rank>
 Clique_ranks<Rank>::Clique_ranks(const Clique_vector& cliques, const Node_ranks& nodes)
-    : cliques_(cliques) {
-  ranks_.reserve(cliques.Values().size());
-  for (const Node_index node : cliques.Values())
-    ranks_.push_back(static_cast<Rank>(nodes.rank_of[node]));
-  auto first = ranks_.begin();
-  for (std::size_t clique = 0; clique < cliques.size(); ++clique) {
-    external_control::Check_inside_long_stage();
-    const auto last = first + static_cast<std::ptrdiff_t>(cliques[clique].size());
-    std::sort(first, last);
-    first = last;
-  }
+    : cliques_(cliques), ranks_(cliques.Values().size()) {
+  external_control::On_ranges(cliques.size(), [&](std::size_t first, std::size_t last) {
+    for (std::size_t clique = first; clique < last; ++clique) {
+      external_control::Check_inside_long_stage();
+      const Node_span members = cliques[clique];
+      Rank* const row = ranks_.data() + (members.data() - cliques.Values().data());
+      for (std::size_t i = 0; i < members.size(); ++i)
+        row[i] = static_cast<Rank>(nodes.rank_of[members[i]]);
+      std::sort(row, row + members.size());
+    }
+  });
 }
+
+namespace {
+
+using Any_ranks = decltype(Ranked_cliques::rows);
+
+Any_ranks Ranks_of(const Clique_vector& cliques, const Node_ranks& nodes) {
+  constexpr std::uint32_t most_of_16_bits = 65536;
+  if (nodes.count <= most_of_16_bits)
+    return Any_ranks(std::in_place_type<Clique_ranks<std::uint16_t>>, cliques, nodes);
+  return Any_ranks(std::in_place_type<Clique_ranks<std::uint32_t>>, cliques, nodes);
+}
+
+}  // namespace
+
+Ranked_cliques::Ranked_cliques(const Clique_vector& cliques, const Node_ranks& nodes)
+    : node_count(nodes.count), rows(Ranks_of(cliques, nodes)) {}
 
 template class Clique_ranks<std::uint16_t>;
 template class Clique_ranks<std::uint32_t>;

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <variant>
 #include <vector>
 
 #include "search/Clique_vector.h"
@@ -42,6 +43,19 @@ class Clique_ranks {
  private:
   const Clique_vector& cliques_;
   std::vector<Rank> ranks_;  ///< parallel to the values of the cliques
+};
+
+/// Cliques as rows of ranks that take 16 bits where these are enough, the same for all who look.
+struct Ranked_cliques {
+  /// `cliques` must outlive the object. Made by the workers of the run.
+  explicit Ranked_cliques(const Clique_vector& cliques)
+      : Ranked_cliques(cliques, Node_ranks(cliques)) {}
+
+  std::uint32_t node_count;  ///< nodes that some clique holds
+  std::variant<Clique_ranks<std::uint16_t>, Clique_ranks<std::uint32_t>> rows;
+
+ private:
+  Ranked_cliques(const Clique_vector& cliques, const Node_ranks& nodes);
 };
 
 }  // namespace gns

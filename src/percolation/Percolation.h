@@ -2,12 +2,10 @@
 
 #include <cstdint>
 #include <memory>
-#include <variant>
-#include <vector>
 
 #include "communities/Communities.h"
+#include "percolation/Claim_walk.h"
 #include "percolation/Community_contents.h"
-#include "percolation/Unclaimed_cliques.h"
 #include "search/Clique_vector.h"
 
 namespace gns {
@@ -20,8 +18,7 @@ namespace gns {
 /// found for it is used again. Any order of k gives the same results.
 class Percolation {
  public:
-  /// Cliques at and behind `exact_clique_count` are approximate. `nested` tells that a clique may
-  /// lie inside another: then one of k - 1 nodes can join at k. `cliques` must outlive the object.
+  /// See Claim_walk. `cliques` must outlive the object.
   Percolation(const Clique_vector& cliques, std::uint32_t exact_clique_count, bool nested);
   ~Percolation() { Leave_communities(); }
   Percolation(const Percolation&) = delete;
@@ -31,45 +28,27 @@ class Percolation {
   /// does.
   std::shared_ptr<const Communities> At(std::uint32_t k);
 
+  /// The two halves of At(), for several workers: each claims cliques by a walk of its own, this
+  /// one or a fellow of it, and what they have claimed is asked for its communities by one thread
+  /// at a time.
+  [[nodiscard]] Claim_walk& Walk() { return walk_; }
+  void Expect_fellows() { has_fellows_ = true; }
+  std::shared_ptr<const Communities> Contents(std::uint32_t k, const Claimed_cliques& claimed);
+
   /// From here on the links of communities are given up once the next k has been asked for, though
   /// others hold the communities, and must not be read. For those who want the rest only.
   void Give_up_links() { gives_up_links_ = true; }
 
  private:
-  struct Claimed_range {
-    std::size_t first;
-    std::size_t last;
-    bool approximate;
-  };
-
-  /// Nodes get numbers of 16 bits where these are enough.
-  template <typename Rank>
-  using Unclaimed = Unclaimed_cliques<Rank>;
-  using Any_unclaimed =
-      std::variant<std::monostate, Unclaimed<std::uint16_t>, Unclaimed<std::uint32_t>>;
-
   void Leave_communities();
-  void Prepare();
-  void Claim_all(std::uint32_t k);
-  template <typename Rank>
-  void Claim_all(std::uint32_t k, Unclaimed<Rank>& unclaimed);
-  template <typename Rank>
-  void Claim_community(Clique_index seed, Unclaimed<Rank>& unclaimed);
-  template <typename Rank>
-  std::size_t Claim_neighbours(Clique_index clique, Unclaimed<Rank>& unclaimed);
-  void Collect(bool approximate, Communities& result);
+  void Collect(const Claimed_cliques& claimed, bool approximate, Communities& result);
 
-  const Clique_vector& cliques_;
-  std::uint32_t exact_clique_count_;
-  bool nested_;
-  std::size_t largest_ = 0;  ///< size of the largest clique
-  Any_unclaimed unclaimed_;  ///< made when it is first needed
+  Claim_walk walk_;
   Community_contents contents_;
-  std::vector<Clique_index> claimed_;  ///< in claim order, community behind community
-  std::vector<Claimed_range> found_;   ///< the communities in order of discovery
-  std::uint32_t last_k_ = 0;           ///< 0: communities_ is empty
+  std::uint32_t last_k_ = 0;  ///< 0: communities_ is empty
   std::shared_ptr<Communities> communities_ = std::make_shared<Communities>();
   bool gives_up_links_ = false;
+  bool has_fellows_ = false;
 };
 
 }  // namespace gns

@@ -94,6 +94,15 @@ void Prefix_lists<Rank>::Fill() {
   }
 }
 
+template <typename Rank>
+void Prefix_lists<Rank>::Make(std::uint32_t least_overlap) {
+  least_overlap_ = least_overlap;
+  Lay_out();
+  Fill();
+  for (List& list : lists_) list.listed = 0;
+  overlap_ = std::max(static_cast<std::uint32_t>(largest_), least_overlap) + 1;
+}
+
 /// The first overlap may be the only one; from the second on there will be others. Where claimed
 /// cliques have been moved, only a smaller overlap finds the first entries in their place.
 template <typename Rank>
@@ -101,11 +110,7 @@ void Prefix_lists<Rank>::Reset(std::uint32_t overlap) {
   if (overlap < least_overlap_ || overlap > overlap_) {
     constexpr std::uint32_t usual_least = 2;
     const bool is_first = overlap_ == 0;
-    least_overlap_ = is_first ? overlap : std::min({overlap, least_overlap_, usual_least});
-    Lay_out();
-    Fill();
-    for (List& list : lists_) list.listed = 0;
-    overlap_ = std::max(static_cast<std::uint32_t>(largest_), overlap) + 1;
+    Make(is_first ? overlap : std::min({overlap, least_overlap_, usual_least}));
   }
   while (overlap_ > overlap) Lower_overlap();
   for (std::size_t rank = 0; rank < lists_.size(); ++rank)

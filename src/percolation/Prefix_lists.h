@@ -30,6 +30,9 @@ class Prefix_lists {
   /// `cliques` must outlive the object. With `nested` false, no clique lies inside another.
   Prefix_lists(const Clique_ranks<Rank>& cliques, std::uint32_t node_count, bool nested);
 
+  /// Makes the lists for all t from `least_overlap` (1 or more) on. Without it, Reset() does.
+  void Make(std::uint32_t least_overlap);
+
   /// Lists all cliques for a t of `overlap` (1 or more), none of them claimed. Cheap if t falls:
   /// but for the second one, all lists are filled once.
   void Reset(std::uint32_t overlap);

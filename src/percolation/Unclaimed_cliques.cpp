@@ -10,15 +10,15 @@
 namespace gns {
 
 template <typename Rank>
-Unclaimed_cliques<Rank>::Unclaimed_cliques(const Clique_vector& cliques, const Node_ranks& nodes,
-                                           bool nested)
-    : ranks_(cliques, nodes),
-      lists_(ranks_, nodes.count, nested),
-      claimed_(cliques.size() / word_bits + 1, 0),
-      met_(cliques.size(), 0),
-      asked_for_(nodes.count, 0),
-      marked_(nodes.count, 0) {
-  candidates_.reserve(cliques.size());
+Unclaimed_cliques<Rank>::Unclaimed_cliques(const Clique_ranks<Rank>& ranks,
+                                           std::uint32_t node_count, bool nested)
+    : ranks_(ranks),
+      lists_(ranks_, node_count, nested),
+      claimed_(ranks.size() / word_bits + 1, 0),
+      met_(ranks.size(), 0),
+      asked_for_(node_count, 0),
+      marked_(node_count, 0) {
+  candidates_.reserve(ranks.size());
 }
 
 template <typename Rank>

@@ -20,8 +20,13 @@ namespace gns {
 template <typename Rank>
 class Unclaimed_cliques {
  public:
-  /// `cliques` must outlive the object. With `nested` false, no clique lies inside another.
-  Unclaimed_cliques(const Clique_vector& cliques, const Node_ranks& nodes, bool nested);
+  /// `ranks`, of so many nodes, must outlive the object. With `nested` false, no clique lies inside
+  /// another.
+  Unclaimed_cliques(const Clique_ranks<Rank>& ranks, std::uint32_t node_count, bool nested);
+
+  /// Makes room for questions with t = `least_overlap` (1 or more) and above. Without it, Reset()
+  /// does.
+  void Make_lists(std::uint32_t least_overlap) { lists_.Make(least_overlap); }
 
   /// Puts every clique back to unclaimed, for questions with t = `overlap` (1 or more).
   void Reset(std::uint32_t overlap);
@@ -56,7 +61,7 @@ class Unclaimed_cliques {
   std::size_t Pass(const Entries& entries, Tail question, Clique_index* passed) const;
   void Append_checked(Row row, std::vector<Clique_index>& neighbours);
 
-  Clique_ranks<Rank> ranks_;
+  const Clique_ranks<Rank>& ranks_;
   Prefix_lists<Rank> lists_;
   std::uint32_t overlap_ = 0;
   std::vector<std::uint64_t> claimed_;  ///< a bit per clique

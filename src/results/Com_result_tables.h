@@ -86,6 +86,8 @@ struct Table_pointers {
   By_k<Distribution_table>* degree_dist_merged = nullptr;
   By_k<Distribution_table>* overlap_dist_merged = nullptr;
   By_k<Distribution_table>* membership_dist_merged = nullptr;
+
+  bool operator==(const Table_pointers&) const = default;
 };
 
 inline Table_pointers Pointers_to(Com_result_tables& tables) {

@@ -204,6 +204,25 @@ constexpr std::array options{
         .names = {"k"},
     },
     Option{
+        .word = "--jobs",
+        .argument = "N",
+        .kind = Argument::number,
+        .group = Group::search,
+        .summary =
+            "cores to work with, 0 for all at hand; each takes about as much memory again as "
+            "the first one; the results are the same",
+        .without = "1",
+        .description =
+            "Works with N cores: ranges of nodes are searched and communities at several k found "
+            "at a time. 0 stands for all cores that the machine, the job of a scheduler or the "
+            "control group gives. Results don't depend on it. Each core more takes about 12 bytes "
+            "for each node of each clique; where the memory limit leaves too little for that, "
+            "fewer "
+            "cores work. With `-t` cliques are searched by one.",
+        .names = {"jobs", "threads", "cores"},
+        .needs_argument = true,
+    },
+    Option{
         .word = "-h",
         .argument = "",
         .group = Group::display,
