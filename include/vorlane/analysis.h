@@ -29,6 +29,10 @@ struct Options {
   std::optional<std::uint32_t> k;
   /// Levels come with the links of their communities.
   bool links = false;
+  /// Cores to work with; 0: those at hand, as the machine, the job of a scheduler or the control
+  /// group says. The results don't depend on it. Each core more takes about 12 bytes for each node
+  /// of each clique; fewer work where a limit (RLIMIT_DATA) leaves too little for that.
+  unsigned workers = 1;
 };
 
 /// All maximal cliques of 3 nodes or more, or of those that are looked for (Options::k).
@@ -77,8 +81,9 @@ struct Level {
 /// Memory is about 20 to 40 bytes for each node of each clique; networks with dense cores (votes,
 /// proteins, friends) have millions of cliques, those of co-authors few.
 ///
-/// Does its work in the thread that calls. Not for several threads at a time, but any number of
-/// analyses may go on in as many threads, of one network too. One that has thrown is over.
+/// Does its work in the thread that calls, and by Options::workers in others, which end with the
+/// call. Not for several threads at a time, but any number of analyses may go on in as many
+/// threads, of one network too. One that has thrown is over.
 class VORLANE_API Analysis {
  public:
   /// Throws an Error of kind `parameters` if the options don't go together or with the network.
@@ -90,7 +95,8 @@ class VORLANE_API Analysis {
   /// The cliques; the first call searches.
   const Cliques& Find_cliques();
   /// The next level: k goes down from the size of the largest clique to 3, or is the one that was
-  /// asked for. Nothing behind the last. What it holds outlives the analysis.
+  /// asked for. Nothing behind the last. What it holds outlives the analysis. With several workers,
+  /// a call finds as many levels as there are of these, and keeps those that come next.
   std::optional<Level> Next();
 
   struct Inside;  ///< for the library itself

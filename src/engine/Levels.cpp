@@ -18,20 +18,19 @@ Levels::Levels(const Levels_input& input) : common_(std::make_shared<Common>(inp
   if (common_->percolation && !input.links_are_kept) common_->percolation->Give_up_links();
 }
 
-void Levels::Share(std::uint32_t largest_k, std::uint32_t smallest_k) {
+void Levels::Share(std::uint32_t largest_k) {
   common_->turns.emplace();
   common_->largest_k = largest_k;
-  common_->smallest_k = smallest_k;
   if (!common_->percolation) return;
   common_->percolation->Expect_fellows();
   common_->percolation->Walk().Prepare();
 }
 
-Levels Levels::Fellow() const {
+Levels Levels::Fellow(std::uint32_t smallest_k) const {
   Levels fellow(common_);
   if (!common_->percolation) return fellow;
   fellow.fellow_walk_.emplace(common_->percolation->Walk().Fellow());
-  fellow.fellow_walk_->Make_lists(common_->smallest_k);
+  fellow.fellow_walk_->Make_lists(smallest_k);
   return fellow;
 }
 

@@ -63,11 +63,12 @@ class Levels {
   static void Link_communities(Level& level);
   void Count(Level& level) const;
 
-  /// Prepares for workers that find every k from `largest_k` down to `smallest_k` once, each of
-  /// them taking the largest that is left: from here on a level is found when the one above it is.
-  void Share(std::uint32_t largest_k, std::uint32_t smallest_k);
-  /// For one more worker, when they are shared; callable from its thread. Throws std::bad_alloc.
-  [[nodiscard]] Levels Fellow() const;
+  /// Prepares for workers that find every k from `largest_k` downwards once, each of them taking
+  /// the largest that is left: from here on a level is found when the one above it is.
+  void Share(std::uint32_t largest_k);
+  /// For one more worker, down to `smallest_k`, when they are shared; callable from its thread.
+  /// Throws std::bad_alloc.
+  [[nodiscard]] Levels Fellow(std::uint32_t smallest_k) const;
   /// About how many bytes a fellow takes.
   [[nodiscard]] std::uint64_t Bytes_of_fellow() const;
 
@@ -82,7 +83,6 @@ class Levels {
     /// Of those that are shared: whose communities are to be found next, down from `largest_k`.
     std::optional<external_control::Turns> turns;
     std::uint32_t largest_k = 0;
-    std::uint32_t smallest_k = 0;
   };
 
   explicit Levels(std::shared_ptr<Common> common) : common_(std::move(common)) {}

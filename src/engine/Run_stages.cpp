@@ -7,7 +7,7 @@
 #include "control/Run_control.h"
 #include "engine/Check_switches.h"
 #include "engine/Find_level.h"
-#include "engine/Find_levels.h"
+#include "engine/Level_finder.h"
 #include "engine/Levels.h"
 #include "engine/Own_input.h"
 #include "engine/Work_of_levels.h"
@@ -190,8 +190,8 @@ class Run {
     };
     // A table has entries of every k, and no lock.
     const bool one_by_one = wishes_.tables != Table_pointers();
-    Find_levels(input, {from, to}, one_by_one ? 1 : external_control::This_control().workers,
-                {find_and_write, keep});
+    const unsigned workers = one_by_one ? 1 : external_control::This_control().workers;
+    Level_finder(input, {from, to}, workers).Find({from, to}, {find_and_write, keep});
   }
 
   static void Leave_statistics_only(Level& level) {

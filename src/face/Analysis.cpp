@@ -1,8 +1,11 @@
 #include "vorlane/analysis.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
+#include "engine/Cores_at_hand.h"
 #include "engine/Find_level.h"
 #include "face/Analysis_inside.h"
 #include "face/Level_of_face.h"
@@ -16,6 +19,7 @@ namespace vorlane {
 namespace {
 
 constexpr std::uint32_t least_k = 3;
+constexpr unsigned most_workers = 1024;
 
 void Check(const Network& network, const Options& options) {
   const auto refuse = [](const std::string& why) { throw Error(Error_kind::parameters, why); };
@@ -23,6 +27,7 @@ void Check(const Network& network, const Options& options) {
   if (options.k && *options.k < least_k) refuse("k must be 3 or more.");
   if (options.time_limit && !(*options.time_limit > 0))
     refuse("The time limit must be a number of seconds above 0.");
+  if (options.workers > most_workers) refuse("There can be 1024 workers at most.");
   if (!options.intensity) return;
   if (std::isnan(*options.intensity)) refuse("The intensity threshold is not a number.");
   if (taken.directed) refuse("The intensity method needs an undirected network.");
@@ -49,6 +54,7 @@ bool Is_clique(Rows::Row nodes, bool is_exact, const Network& network) {
 Analysis::Inside::Inside(Network of, const Options& asked, Control by)
     : network(std::move(of)), options(asked), control(std::move(by)) {
   Check(network, options);
+  if (options.workers == 0) options.workers = gns::Cores_at_hand();
 }
 
 bool Analysis::Inside::Can_leave_out_cliques() const {
@@ -108,21 +114,45 @@ void Analysis::Inside::Begin_levels() {
   input.intensity_threshold = options.intensity;
   input.max_clique_size = largest;
   input.links_are_kept = options.links;
-  levels.emplace(input);
+  levels.emplace(input, gns::K_range{next_k, Last_k()}, options.workers);
   std::vector<std::size_t> of_size(largest + std::size_t{1}, 0);
   for (std::size_t i = 0; i < found->size(); ++i) ++of_size[(*found)[i].size()];
-  work.emplace(std::move(of_size), next_k, options.k.value_or(least_k));
+  work.emplace(std::move(of_size), next_k, Last_k());
 }
 
+std::uint32_t Analysis::Inside::Last_k() const { return options.k.value_or(least_k); }
+
 std::optional<Level> Analysis::Inside::Next() {
+  if (ahead.empty())
+    Find_levels(options.workers, [this](Level& level) { ahead.push_back(std::move(level)); });
+  if (ahead.empty()) return std::nullopt;
+  std::optional<Level> next(std::move(ahead.front()));
+  ahead.pop_front();
+  return next;
+}
+
+void Analysis::Inside::For_each_level(const std::function<void(Level& level)>& use) {
+  Find_levels(std::numeric_limits<std::uint32_t>::max(), use);
+}
+
+void Analysis::Inside::Find_levels(std::uint32_t most,
+                                   const std::function<void(Level& level)>& use) {
   if (!found) Search();
-  if (next_k < options.k.value_or(least_k)) return std::nullopt;
+  if (next_k < Last_k()) return;
   if (!levels) Begin_levels();
-  external_control::Check_for_stop_signal();
-  const std::uint32_t k = next_k--;
-  Level level = face::Level_of(gns::Find_level(k, *levels), options.links);
-  if (!options.k) work->End_level(k);
-  return level;
+  const std::uint32_t from = next_k;
+  const std::uint32_t to = from - std::min(from - Last_k(), most - 1);
+  next_k = to - 1;
+  const auto find = [](std::uint32_t k, gns::Levels& own) {
+    external_control::Check_for_stop_signal();
+    return gns::Find_level(k, own);
+  };
+  levels->Find({from, to}, {find, [&](gns::Level& level) {
+                              const std::uint32_t k = level.k;
+                              Level shown = face::Level_of(std::move(level), options.links);
+                              if (!options.k) work->End_level(k);
+                              use(shown);
+                            }});
 }
 
 Analysis::Analysis(Network network, const Options& options, Control control)

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 
-#include "engine/Levels.h"
+#include "engine/Level_finder.h"
 #include "engine/Work_of_levels.h"
 #include "face/Control_body.h"
 #include "face/Errors_of_face.h"
@@ -23,7 +25,9 @@ struct Analysis::Inside {
   template <typename Work>
   auto Go_on(Work part) {
     if (failed) throw Error(Error_kind::parameters, "This analysis ended with an error before.");
-    const external_control::Control_in_use in_use(control.Inside().run);
+    external_control::Run_control& run = control.Inside().run;
+    const external_control::Control_in_use in_use(run);
+    run.workers = options.workers;
     failed = true;
     auto result = face::With_errors(Error_kind::other, part);
     failed = false;
@@ -35,6 +39,8 @@ struct Analysis::Inside {
   void Search();
   void Take(const Cliques& known);
   std::optional<Level> Next();
+  /// All that Next() would yield.
+  void For_each_level(const std::function<void(Level& level)>& use);
 
   Network network;
   Options options;
@@ -45,7 +51,8 @@ struct Analysis::Inside {
   Cliques cliques;
   std::uint32_t largest = 0;
   std::uint32_t next_k = 0;  ///< below the last one: there is no more
-  std::optional<gns::Levels> levels;
+  std::optional<gns::Level_finder> levels;
+  std::deque<Level> ahead;  ///< found, but not asked for yet
   std::optional<gns::Work_of_levels> work;
 
   /// Whether it searches for no more cliques than its one k needs.
@@ -55,6 +62,9 @@ struct Analysis::Inside {
   void Search_all(const gns::Named_graph& graph, gns::Clique_vector& all);
   void Have(std::shared_ptr<const gns::Clique_vector> all);
   void Begin_levels();
+  /// Finds the next levels, so many at most.
+  void Find_levels(std::uint32_t most, const std::function<void(Level& level)>& use);
+  [[nodiscard]] std::uint32_t Last_k() const;
 };
 
 }  // namespace vorlane

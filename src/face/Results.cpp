@@ -21,10 +21,13 @@ void Find_levels(Analysis::Inside& analysis, Results_writer* writer, Use use) {
     return true;
   });
   if (writer) writer->Write(analysis.cliques);
-  while (std::optional<Level> level = analysis.Go_on([&] { return analysis.Next(); })) {
-    if (writer) writer->Write(*level);
-    use(*level);
-  }
+  analysis.Go_on([&] {
+    analysis.For_each_level([&](Level& level) {
+      if (writer) writer->Write(level);
+      use(level);
+    });
+    return true;
+  });
   if (writer) writer->Finish();
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr vorlane_link_options plain_links = {0, 0, nan, nan, nullptr, nullptr};
-constexpr vorlane_options plain = {nan, nan, 0, nullptr, 0, nullptr, nullptr};
+constexpr vorlane_options plain = {nan, nan, 0, nullptr, 0, nullptr, nullptr, 0};
 
 template <auto give_back>
 struct Gives_back {

@@ -13,7 +13,7 @@
 #include "Temp_dir.h"
 #include "Thrown_message.h"
 #include "control/Run_control.h"
-#include "engine/Find_levels.h"
+#include "engine/Level_finder.h"
 #include "engine/Run_stages.h"
 #include "files/Unfinished_mark.h"
 
@@ -148,19 +148,22 @@ TEST(ThreadsWorkerRun, WhatEndsOneLevelEndsAll) {
       return level;
     };
     const auto use = [&](const Level& level) { EXPECT_EQ(level.k, next--); };
-    EXPECT_EQ(Thrown_message([&] { Find_levels(input, {39, 3}, 4, {find, use}); }), "bad level");
+    EXPECT_EQ(Thrown_message([&] {
+                Level_finder(input, {39, 3}, 4).Find({39, 3}, {find, use});
+              }),
+              "bad level");
     EXPECT_GE(next, bad_k);
     control.stop = true;
     EXPECT_EQ(Thrown_message<std::exception>([&] {
-                Find_levels(input, {39, 3}, 4,
-                            {[&](std::uint32_t k, Levels& levels) {
-                               Level level;
-                               level.k = k;
-                               if (k == bad_k) external_control::Check_for_stop_signal();
-                               levels.Find_communities(level);
-                               return level;
-                             },
-                             [](const Level&) {}});
+                Level_finder(input, {39, 3}, 4)
+                    .Find({39, 3}, {[&](std::uint32_t k, Levels& levels) {
+                                      Level level;
+                                      level.k = k;
+                                      if (k == bad_k) external_control::Check_for_stop_signal();
+                                      levels.Find_communities(level);
+                                      return level;
+                                    },
+                                    [](const Level&) {}});
               }),
               "Process stopped by user.\n");
   }

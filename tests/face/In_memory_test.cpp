@@ -37,9 +37,10 @@ Options Options_of(const gns::Run_parameters& p) {
 }
 
 /// Finds in memory what a run has found, and writes it down.
-void Write_found(const gns::Run_parameters& p, const std::string& directory) {
+void Write_found(const gns::Run_parameters& p, const std::string& directory, unsigned workers) {
   const Network network = Network::Read(p.input_file, Links_of(p));
-  const Options options = Options_of(p);
+  Options options = Options_of(p);
+  options.workers = workers;
   Analysis analysis(network, options);
   Results_writer writer(directory, network, options, p.input_file);
   writer.Write(analysis.Find_cliques());
@@ -83,9 +84,9 @@ void Expect_equal_parts(const Results& opened, const Results& found) {
   EXPECT_EQ(found.Places_of("nobody"), std::nullopt);
 }
 
-class EachKindOfRun : public ::testing::TestWithParam<gns::Sample_run> {};
+class ThreadsEachKindOfRun : public ::testing::TestWithParam<gns::Sample_run> {};
 
-TEST_P(EachKindOfRun, IsTheSameInMemoryAndInFiles) {
+TEST_P(ThreadsEachKindOfRun, IsTheSameInMemoryAndInFiles) {
   gns::Sample_run run = GetParam();
   const gns::Temp_dir temp;
   const std::string told = temp.Path("told");
@@ -102,12 +103,16 @@ TEST_P(EachKindOfRun, IsTheSameInMemoryAndInFiles) {
     return;
   }
   if (!p.use_single_k) {
-    Write_found(p, temp.Path("found"));
-    EXPECT_EQ(gns::Contents_of(temp.Path("found")), gns::Contents_of(told));
+    for (const unsigned workers : {0U, 1U, 2U, 7U}) {
+      const std::string found = temp.Path("found" + std::to_string(workers));
+      Write_found(p, found, workers);
+      EXPECT_EQ(gns::Contents_of(found), gns::Contents_of(told)) << workers;
+    }
   }
   const Network network = Network::Read(p.input_file, Links_of(p));
   Options options = Options_of(p);
   options.links = false;
+  options.workers = 3;
   Find(network, options).Write(temp.Path("written"), p.input_file);
   EXPECT_EQ(gns::Contents_of(temp.Path("written")), gns::Contents_of(told));
   const Results at_once = Find_and_write(network, options, temp.Path("at_once"), p.input_file);
@@ -125,7 +130,7 @@ TEST_P(EachKindOfRun, IsTheSameInMemoryAndInFiles) {
   Expect_equal_parts(opened, found);
 }
 
-INSTANTIATE_TEST_SUITE_P(Samples, EachKindOfRun, ::testing::ValuesIn(gns::Sample_runs()));
+INSTANTIATE_TEST_SUITE_P(Samples, ThreadsEachKindOfRun, ::testing::ValuesIn(gns::Sample_runs()));
 
 Error_kind Kind_of(const std::function<void()>& work, const std::string& words) {
   try {

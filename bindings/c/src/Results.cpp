@@ -17,6 +17,9 @@ Options Options_of(const vorlane_options* given) {
   options.intensity = Given_number(given->intensity);
   options.time_limit = Given_number(given->time_limit);
   if (given->k != 0) options.k = given->k;
+  if (given->jobs < -1) throw Error(Error_kind::parameters, "jobs must be -1 or more.");
+  if (given->jobs != 0)
+    options.workers = given->jobs == -1 ? 0 : static_cast<unsigned>(given->jobs);
   return options;
 }
 

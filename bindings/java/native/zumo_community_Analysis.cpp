@@ -75,10 +75,10 @@ std::optional<double> Number(double value) {
 }
 
 Asked Asked_by(JNIEnv* env, bool directed, bool weighted, bool links, jdoubleArray numbers) {
-  std::array<jdouble, 5> n{};
+  std::array<jdouble, 6> n{};
   env->GetDoubleArrayRegion(numbers, 0, n.size(), n.data());
   Check_for_java_error(env);
-  const auto [intensity, min_weight, max_weight, time_limit, k] = n;
+  const auto [intensity, min_weight, max_weight, time_limit, k, jobs] = n;
   Asked asked;
   asked.how.directed = directed;
   asked.how.weighted = weighted;
@@ -88,6 +88,7 @@ Asked Asked_by(JNIEnv* env, bool directed, bool weighted, bool links, jdoubleArr
   asked.options.time_limit = Number(time_limit);
   if (!std::isnan(k)) asked.options.k = k > 0 ? static_cast<std::uint32_t>(k) : 0;
   asked.options.links = links;
+  asked.options.workers = static_cast<unsigned>(jobs);
   return asked;
 }
 

@@ -243,6 +243,13 @@ def test_several_runs_at_a_time() -> None:
         assert list(pool.map(lambda links: dict(vl.find(links)), networks)) == alone
 
 
+def test_jobs_find_the_same(sample: Sample, found: vl.Results) -> None:
+    for jobs in (0, 3):
+        other = vl.find(sample.links, **sample.options, jobs=jobs)
+        assert other.ks == found.ks
+        assert list(map(list, other.values())) == list(map(list, found.values()))
+
+
 def test_cliques_are_those_of_networkx() -> None:
     nx = pytest.importorskip("networkx")
     graph = nx.gnp_random_graph(60, 0.3, seed=5)

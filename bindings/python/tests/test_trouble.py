@@ -120,6 +120,7 @@ def test_a_file_that_can_not_be_meant_so_is_told(tmp_path: Path) -> None:
         ({"intensity": 1.0, "directed": True}, "undirected"),
         ({"intensity": 1.0, "time_limit": 1.0}, "time limit"),
         ({"time_limit": -1.0}, "above 0"),
+        ({"jobs": -1}, "jobs must be 0 to 1024"),
         ({"format": "excel"}, "no format 'excel'"),
     ],
 )

@@ -65,7 +65,9 @@ public class AnalysisTest extends Fixture {
 
   @Test
   public void ofEachKindAgreesWithARun() throws Exception {
-    check(new Analysis(choir, new Options().links()), run(choir).findAndLoad());
+    for (int jobs : new int[] {0, 1, 3}) {
+      check(new Analysis(choir, new Options().links().jobs(jobs)), run(choir).findAndLoad());
+    }
     check(new Analysis(choir, new Options().lowerThreshold(4).upperThreshold(12)),
         run(choir).lowerThreshold(4).upperThreshold(12).findAndLoad());
     String advice = example("advice.txt");
@@ -130,6 +132,8 @@ public class AnalysisTest extends Fixture {
     check(Kind.PARAMETERS, "k must be", () -> new Analysis(choir, new Options().singleK(-2)));
     assertThrows(IllegalArgumentException.class,
         () -> new Analysis(choir, new Options().timeLimit(Double.NaN)));
+    assertThrows(IllegalArgumentException.class, () -> new Options().jobs(-1));
+    check(Kind.PARAMETERS, "workers", () -> new Analysis(choir, new Options().jobs(5000)));
     int[] one = {1};
     check(Kind.INPUT, "Link 0", () -> new Analysis(1, one, new int[] {2}, null, new Options()));
     check(Kind.INPUT, "", () -> new Analysis(3, one, new int[0], null, new Options()));

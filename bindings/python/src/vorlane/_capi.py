@@ -3,7 +3,7 @@
 from __future__ import annotations
 
 import ctypes
-from ctypes import POINTER, c_char_p, c_double, c_int, c_int64, c_size_t, c_uint32, c_uint64, c_void_p
+from ctypes import POINTER, c_char_p, c_double, c_int, c_int32, c_int64, c_size_t, c_uint32, c_uint64, c_void_p
 from typing import Any
 
 ABI_VERSION = 1
@@ -82,6 +82,7 @@ class Options(ctypes.Structure):
         ("exact_clique_count", c_size_t),
         ("directory", c_char_p),
         ("source", c_char_p),
+        ("jobs", c_int32),
     ]
 
 

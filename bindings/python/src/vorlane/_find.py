@@ -15,6 +15,7 @@ from .errors import InputWarning, ParameterError
 from .results import Asked, Results, _load, find_in
 
 _LEAST_K = 3
+_MOST_JOBS = 1024
 
 
 def find(
@@ -34,6 +35,7 @@ def find(
     save: str | os.PathLike[str] | None = None,
     progress: ProgressOption = "auto",
     memory_limit: int | None = None,
+    jobs: int = 1,
     control: Control | None = None,
 ) -> Results:
     """Finds the overlapping communities of a network by clique percolation, exactly.
@@ -75,6 +77,8 @@ def find(
         progress: "auto" shows a bar (tqdm) in terminals and notebooks; True, False, or a function
             that is called with a :class:`Progress` some times a second.
         memory_limit: bytes that the process may hold; over it the run ends.
+        jobs: cores to work with; 0: those at hand (of the machine, the job of a scheduler, the control
+            group). Results are the same. Each takes about as much memory again as the first one.
         control: to stop and watch the run from another thread.
 
     Raises:
@@ -87,6 +91,8 @@ def find(
     """
     if k is not None and k < _LEAST_K:
         raise ParameterError(f"k must be {_LEAST_K} or more, not {k!r}.")
+    if not 0 <= jobs <= _MOST_JOBS:
+        raise ParameterError(f"jobs must be 0 to {_MOST_JOBS}, not {jobs!r}.")
     asked = Asked(k, min_weight, max_weight, intensity, time_limit)
     for name, value in asked._asdict().items():
         if value != value:
@@ -99,7 +105,7 @@ def find(
         network = _network_of(links, asked, bool(directed), weighted, format, columns, control)
         origin = "memory" if isinstance(links, Links) else links
         network.source = os.fspath(origin)
-        return find_in(network, asked, control, save=save, source=origin)
+        return find_in(network, asked, control, save=save, source=origin, jobs=jobs)
 
     with Watch(progress) as watch:
         results = run(work, control, watch.call, memory_limit)

@@ -369,9 +369,11 @@ def find_in(
     exact_count: int = 0,
     save: str | os.PathLike[str] | None = None,
     source: str | os.PathLike[str] = "memory",
+    jobs: int = 1,
 ) -> Results:
-    """Finds in this thread."""
+    """Finds in this thread, and as many as ``jobs`` asks for."""
     options = _capi.Options(optional(asked.intensity), optional(asked.time_limit), asked.k or 0)
+    options.jobs = jobs if jobs > 0 else -1
     if cliques is not None:
         known = native_rows(*cliques)
         options.cliques = ctypes.pointer(known)

@@ -9,6 +9,7 @@ public final class Options {
   Double upperThreshold;
   Double timeLimit;
   Integer k;
+  int jobs = 1;
 
   /** Takes links, cliques and communities as directed. */
   public Options directed() {
@@ -55,6 +56,16 @@ public final class Options {
     return this;
   }
 
+  /**
+   * Works with so many cores; 0 stands for those at hand. The results don't depend on it. Each takes
+   * about as much memory again as the first one.
+   */
+  public Options jobs(int cores) {
+    if (cores < 0) throw new IllegalArgumentException("there can't be " + cores + " jobs");
+    jobs = cores;
+    return this;
+  }
+
   /** Whether links must have weights. */
   boolean needWeights() {
     return intensity != null || lowerThreshold != null || upperThreshold != null;
@@ -63,7 +74,7 @@ public final class Options {
   /** In an order that native code knows: of what is not set, NaN; a number is never NaN. */
   double[] numbers() {
     return new double[] {orNan(intensity), orNan(lowerThreshold), orNan(upperThreshold),
-        orNan(timeLimit), k != null ? k : Double.NaN};
+        orNan(timeLimit), k != null ? k : Double.NaN, jobs};
   }
 
   private static double orNan(Double value) {

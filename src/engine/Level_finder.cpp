@@ -1,4 +1,4 @@
-#include "engine/Find_levels.h"
+#include "engine/Level_finder.h"
 
 #include <algorithm>
 #include <atomic>
@@ -58,48 +58,56 @@ unsigned Workers_with_memory(unsigned workers, const Levels& levels) {
   return static_cast<unsigned>(std::clamp<std::uint64_t>(most, 1, workers));
 }
 
-void Find_one_by_one(Levels& levels, K_range ks, const Level_steps& steps) {
+}  // namespace
+
+Level_finder::Level_finder(const Levels_input& input, K_range all, unsigned workers)
+    : levels_(input), smallest_k_(all.smallest), workers_(1) {
+  if (all.smallest > all.largest) return;
+  workers_ = std::min(workers, all.largest - all.smallest + 1);
+  if (workers_ > 1) workers_ = Workers_with_memory(workers_, levels_);
+  fellows_.resize(workers_ - 1);
+}
+
+void Level_finder::Find(K_range ks, const Level_steps& steps) {
+  if (ks.smallest > ks.largest) return;
+  if (workers_ == 1)
+    Find_one_by_one(ks, steps);
+  else
+    Find_on_workers(ks, steps);
+}
+
+void Level_finder::Find_one_by_one(K_range ks, const Level_steps& steps) {
   for (std::uint32_t step = 0; step <= ks.largest - ks.smallest; ++step) {
-    Level level = steps.find(ks.largest - step, levels);
+    Level level = steps.find(ks.largest - step, levels_);
     steps.use(level);
   }
 }
 
-void Find_on_workers(Levels& levels, K_range ks, unsigned workers, const Level_steps& steps) {
-  levels.Share(ks.largest, ks.smallest);
+void Level_finder::Find_on_workers(K_range ks, const Level_steps& steps) {
+  levels_.Share(ks.largest);
   Found_levels found(ks, steps);
   std::atomic<std::uint32_t> taken = 0;
-  const auto find_all = [&](Levels& own, bool is_first) {
+  external_control::On_workers(workers_, [&](unsigned worker) {
+    Levels* const levels = Levels_of(worker);
+    if (levels == nullptr) return;
     for (std::uint32_t step = 0; (step = taken++) <= ks.largest - ks.smallest;) {
-      found.Put(steps.find(ks.largest - step, own));
-      if (is_first) found.Use();
+      found.Put(steps.find(ks.largest - step, *levels));
+      if (worker == 0) found.Use();
     }
-  };
-  external_control::On_workers(workers, [&](unsigned worker) {
-    if (worker == 0) return find_all(levels, true);
-    std::optional<Levels> fellow;
-    try {
-      fellow.emplace(levels.Fellow());
-    } catch (const std::bad_alloc&) {
-      return;  // the others do it all
-    }
-    find_all(*fellow, false);
   });
   found.Use();
 }
 
-}  // namespace
-
-void Find_levels(const Levels_input& input, K_range ks, unsigned workers,
-                 const Level_steps& steps) {
-  Levels levels(input);
-  if (ks.smallest > ks.largest) return;
-  workers = std::min(workers, ks.largest - ks.smallest + 1);
-  if (workers > 1) workers = Workers_with_memory(workers, levels);
-  if (workers > 1)
-    Find_on_workers(levels, ks, workers, steps);
-  else
-    Find_one_by_one(levels, ks, steps);
+/// Null for a worker that there is no memory for: the others do it all.
+Levels* Level_finder::Levels_of(unsigned worker) {
+  if (worker == 0) return &levels_;
+  std::optional<Levels>& fellow = fellows_[worker - 1];
+  try {
+    if (!fellow) fellow.emplace(levels_.Fellow(smallest_k_));
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+  return &*fellow;
 }
 
 }  // namespace gns
