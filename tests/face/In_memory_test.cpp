@@ -379,7 +379,7 @@ TEST(InMemory, DamagedDirectoriesAreToldFileByFile) {
   std::filesystem::remove(out + "/cliques");
   EXPECT_EQ(Kind_of([&] { Results::Open(out); }, "/cliques"), Error_kind::input);
   EXPECT_EQ(Kind_of([&] { Results::Open(out); }, "/k=4/communities_cliques"), Error_kind::input);
-  EXPECT_EQ(Kind_of([&] { Write_found({}, out); }, ""), Error_kind::input);
+  EXPECT_EQ(Kind_of([&] { Write_found({}, out, 1); }, ""), Error_kind::input);
 }
 
 /// A run that was stopped keeps the levels that it came to.
