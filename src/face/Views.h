@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -18,6 +19,10 @@ Rows_of<Value> View_of(const gns::Row_array<Value>& rows, std::shared_ptr<const 
 }
 inline Rows View_of(const gns::Adjacency& rows, std::shared_ptr<const void> owner) {
   return {rows.Starts(), rows.Members(), std::move(owner)};
+}
+template <typename Value>
+Array<Value> View_of(std::span<const Value> values, std::shared_ptr<const void> owner) {
+  return {values, std::move(owner)};
 }
 template <typename Value>
 Array<Value> View_of(const std::vector<Value>& values, std::shared_ptr<const void> owner) {

@@ -7,16 +7,23 @@
 
 namespace gns {
 
-Index_links::Index_links(const std::vector<Index_pair>& keys, std::vector<double> weights,
+Index_links::Index_links(const std::vector<Index_pair>& keys, const std::vector<double>& weights,
                          Node_index node_count)
-    : rows_(node_count,
-            [&](auto enter) {
-              for (const Index_pair& key : keys) {
-                external_control::Check_inside_long_stage();
-                enter(key.first, key.second);
-              }
-            }),
-      weights_(std::move(weights)) {}
+    : rows_(node_count, [&](auto enter) {
+        for (const Index_pair& key : keys) {
+          external_control::Check_inside_long_stage();
+          enter(key.first, key.second);
+        }
+      }) {
+  weights_.append(weights.data(), weights.size());
+}
+
+Index_links Index_links::Looking_at(Adjacency rows, std::span<const double> weights) {
+  Index_links links;
+  links.rows_ = std::move(rows);
+  links.weights_ = Growing_array<double>::Looking_at(weights);
+  return links;
+}
 
 std::optional<std::size_t> Index_links::Place(Node_index first, Node_index second) const {
   if (first - 1 >= Node_count()) return std::nullopt;

@@ -67,7 +67,7 @@ std::vector<std::uint32_t> Convert_s_links(Index_links& index_links, Node_names&
   node_names = Node_names(links.Names(), name_of_node);
   Sort_pairs(keys, weights, node_names.size() + 1);
   Fold_equal_pairs(keys, weights);
-  index_links = Index_links(keys, std::move(weights), node_names.size());
+  index_links = Index_links(keys, weights, node_names.size());
   return name_of_node;
 }
 

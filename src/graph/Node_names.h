@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "control/Run_control.h"
@@ -24,11 +25,15 @@ class Node_names {
     }
   }
 
+  /// The names of the nodes in their order.
+  explicit Node_names(Name_table names) : names_(std::move(names)) {}
+
   /// The name of a node; the empty text for an index without one.
   [[nodiscard]] std::string_view operator[](Node_index node) const {
     return node - 1 < names_.size() ? names_[node - 1] : std::string_view();
   }
   [[nodiscard]] Node_index size() const { return names_.size(); }
+  [[nodiscard]] const Name_table& Table() const { return names_; }
 
  private:
   Name_table names_;

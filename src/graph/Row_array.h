@@ -13,6 +13,15 @@ class Row_array {
  public:
   using Row = std::span<const Value>;
 
+  Row_array() = default;
+  /// Rows that others hold, as Starts() and Values() tell them; these outlive it.
+  static Row_array Looking_at(std::span<const std::size_t> starts, Row values) {
+    Row_array rows;
+    rows.values_ = Growing_array<Value>::Looking_at(values);
+    rows.starts_ = Growing_array<std::size_t>::Looking_at(starts);
+    return rows;
+  }
+
   [[nodiscard]] std::size_t size() const { return starts_.size() == 0 ? 0 : starts_.size() - 1; }
   [[nodiscard]] bool empty() const { return size() == 0; }
   [[nodiscard]] Row operator[](std::size_t row) const {

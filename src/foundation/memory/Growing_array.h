@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <new>
+#include <span>
 #include <type_traits>
 #include <utility>
 
@@ -11,6 +12,9 @@ namespace gns {
 
 /// An array of plain values that grows at its end. Growing and shrinking go through `realloc`,
 /// which moves pages instead of copying a big block.
+///
+/// It can also look at values that somebody else holds, of a file that is mapped for example. They
+/// are read as its own would be; before it grows, they are copied.
 template <typename Value>
 requires std::is_trivially_copyable_v<Value>
 class Growing_array {
@@ -22,7 +26,17 @@ class Growing_array {
     swap(other);
     return *this;
   }
-  ~Growing_array() { std::free(data_); }
+  ~Growing_array() {
+    if (Owns()) std::free(data_);
+  }
+
+  /// One that looks at values of others, which outlive it and all that it is moved to.
+  static Growing_array Looking_at(std::span<const Value> values) {
+    Growing_array array;
+    array.data_ = const_cast<Value*>(values.data());  // never written through
+    array.size_ = values.size();
+    return array;
+  }
 
   void push_back(Value value) {
     *Room_for(1) = value;
@@ -35,7 +49,7 @@ class Growing_array {
 
   /// Where up to `count` values may be written behind the last one; they count from Grew() on.
   Value* Room_for(std::size_t count) {
-    if (capacity_ - size_ < count) Reallocate(std::max(size_ + count, capacity_ + capacity_ / 2));
+    if (capacity_ < size_ + count) Reallocate(std::max(size_ + count, capacity_ + capacity_ / 2));
     return data_ + size_;
   }
   void Grew(std::size_t count) { size_ += count; }
@@ -43,6 +57,8 @@ class Growing_array {
   void Shrink_to_fit() { Reallocate(size_); }
 
   [[nodiscard]] const Value* data() const { return data_; }
+  [[nodiscard]] const Value& operator[](std::size_t place) const { return data_[place]; }
+  [[nodiscard]] std::span<const Value> Values() const { return {data_, size_}; }
   [[nodiscard]] std::size_t size() const { return size_; }
 
   void swap(Growing_array& other) noexcept {
@@ -52,18 +68,23 @@ class Growing_array {
   }
 
  private:
+  [[nodiscard]] bool Owns() const { return capacity_ > 0; }
+
   void Reallocate(std::size_t capacity) {
     if (capacity == capacity_) return;
-    void* const moved = capacity == 0 ? nullptr : std::realloc(data_, capacity * sizeof(Value));
+    void* const own = Owns() ? data_ : nullptr;
+    void* const moved = capacity == 0 ? nullptr : std::realloc(own, capacity * sizeof(Value));
     if (moved == nullptr && capacity > 0) throw std::bad_alloc();
-    if (moved == nullptr) std::free(data_);
-    data_ = static_cast<Value*>(moved);
+    if (moved == nullptr) std::free(own);
+    auto* const values = static_cast<Value*>(moved);
+    if (own == nullptr && capacity > 0) std::copy_n(data_, size_, values);
+    data_ = values;
     capacity_ = capacity;
   }
 
   Value* data_ = nullptr;
   std::size_t size_ = 0;
-  std::size_t capacity_ = 0;
+  std::size_t capacity_ = 0;  ///< 0: there are no values, or others hold them
 };
 
 }  // namespace gns
