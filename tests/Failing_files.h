@@ -1,5 +1,6 @@
 #pragma once
 
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -16,6 +17,7 @@ enum class File_call {
   rest_of_read,  ///< reads a part of what there is
   write,
   rest_of_write,  ///< writes a part
+  map,
   close,
   sync,
   sync_all,
@@ -51,6 +53,9 @@ class Failing_files final : public File_system {
   ssize_t Write(int file, const void* data, std::size_t size) override {
     if (Fails(File_call::write)) return -1;
     return File_system::Write(file, data, Fails(File_call::rest_of_write) ? size / 2 : size);
+  }
+  void* Map(int file, std::size_t size) override {
+    return Fails(File_call::map) ? MAP_FAILED : File_system::Map(file, size);
   }
   int Close(int file) override {
     if (!Fails(File_call::close)) return File_system::Close(file);

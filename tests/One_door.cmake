@@ -5,7 +5,7 @@ cmake_minimum_required(VERSION 3.25)
 set(calls open openat creat fopen fdopen freopen read readv pread readlink write writev pwrite close
           fsync fdatasync sync syncfs stat fstat lstat fstatat statx statvfs fstatvfs access
           faccessat mkdir mkdirat mkstemp mkdtemp rename renameat remove unlink unlinkat rmdir link
-          symlink opendir fdopendir readdir closedir scandir nftw glob mmap truncate ftruncate
+          symlink opendir fdopendir readdir closedir scandir nftw glob mmap munmap truncate ftruncate
           getcwd chdir realpath chmod fchmod)
 set(touching "absolute|canonical|copy|create|current|director|equivalent|exists|size|permi|read"
              "remove|rename|space|status|symlink|temp|write")

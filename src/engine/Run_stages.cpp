@@ -1,23 +1,17 @@
 #include "engine/Run_stages.h"
 
 #include <optional>
-#include <string>
 #include <utility>
 
 #include "control/Run_control.h"
-#include "engine/Check_switches.h"
 #include "engine/Find_level.h"
 #include "engine/Level_finder.h"
 #include "engine/Levels.h"
-#include "engine/Own_input.h"
 #include "engine/Work_of_levels.h"
-#include "files/Results_directory.h"
 #include "files/Results_writer.h"
 #include "files/Unfinished_mark.h"
 #include "foundation/io/File_faults.h"
-#include "graph/Link_conversion.h"
 #include "graph/Named_graph.h"
-#include "input/Link_file_reader.h"
 #include "results/Method.h"
 #include "search/Clique_find.h"
 #include "search/Clique_vector.h"
@@ -31,11 +25,6 @@ using external_control::Report_state;
 
 constexpr std::uint32_t least_k = 3;  ///< of a run over all k
 
-Link_rule Rule_of(const Run_parameters& p) {
-  return {Needs_weights(p), p.use_lower_threshold, p.lower_threshold, p.use_upper_threshold,
-          p.upper_threshold};
-}
-
 class Run {
  public:
   Run(const Run_parameters& parameters, const Run_wishes& wishes, Run_summary& summary)
@@ -47,18 +36,20 @@ class Run {
   void Through_all_stages(bool& approximation_needed) {
     Link_map links;
     if (wishes_.read_first) {
-      Begin_header();
-      Read(links);
-      Check();
+      header_ = Header_of(parameters_);
+      Read_input(parameters_, wishes_, links);
+      Refuse_bad_run(parameters_);
       Open_results();
     } else {
-      Check();
-      Begin_header();
+      Refuse_bad_run(parameters_);
+      header_ = Header_of(parameters_);
       Open_results();
-      Read(links);
+      Read_input(parameters_, wishes_, links);
     }
     Write_graph(links);
-    Make_graph(links);
+    Make_graph(graph_, links, parameters_.directed);
+    summary_.nodes = graph_.Node_count();
+    summary_.links = graph_.links.size();
     Find_cliques(approximation_needed);
     Write_cliques();
     Find_and_write_levels();
@@ -66,46 +57,13 @@ class Run {
   }
 
  private:
-  void Check() const {
-    Refuse_bad_parameters(parameters_);
-    Refuse_own_input(parameters_.input_file, parameters_.output_dir);
-    Check_out_dir(parameters_.output_dir);
-  }
-
-  void Begin_header() {
-    const Run_parameters& p = parameters_;
-    Generate_alap_szoveg(header_, p.input_file, p.use_lower_threshold, p.lower_threshold,
-                         p.use_upper_threshold, p.upper_threshold);
-  }
-
   /// Claims the directory: the first write of a run.
   void Open_results() {
-    const Run_parameters& p = parameters_;
-    Extend_alap_szoveg(header_, p.use_intensity, p.intensity_threshold, p.directed,
-                       p.use_time_limit, p.time_limit, p.use_single_k, p.single_k);
     Forget_file_faults();
-    mark_.emplace(p.output_dir);
-    results_.emplace(Results_place{p.output_dir, Flag_of(method_), header_}, wishes_.tables);
+    mark_.emplace(parameters_.output_dir);
+    results_.emplace(Results_place{parameters_.output_dir, Flag_of(method_), header_},
+                     wishes_.tables);
     results_->Write_params();
-  }
-
-  void Read(Link_map& links) const {
-    Link_file_check check(wishes_.listener != nullptr);
-    const auto tell = [&](const Link_map* read) {
-      if (wishes_.listener != nullptr) wishes_.listener->Input_read(check, read);
-    };
-    try {
-      if (wishes_.links_source) {
-        Report_state(" Reading input ...\n");
-        wishes_.links_source(Rule_of(parameters_), links, check);
-      } else {
-        Read_links(parameters_, links, check);
-      }
-    } catch (const Xep_wrong_line&) {
-      tell(nullptr);
-      throw;
-    }
-    tell(&links);
   }
 
   void Write_graph(const Link_map& links) const {
@@ -113,24 +71,6 @@ class Run {
     results_->Write_graph(links, Needs_weights(parameters_));
     if (wishes_.keeper != nullptr) wishes_.keeper->Keep_links(links);
     Report_state("_______________\n Links read OK.\n");
-    Check_for_stop_signal();
-  }
-
-  /// Empties the links on the way.
-  void Make_graph(Link_map& links) {
-    Report_state("____________________\n Converting links...\n");
-    graph_.directed = parameters_.directed;
-    Convert_s_links(graph_.links, graph_.names, links, graph_.directed);
-    links.clear();
-    Report_state(" Links converted OK, total number of " + std::to_string(graph_.links.size()) +
-                 "  will be\n taken into account in the community finding.\n");
-    Check_for_stop_signal();
-
-    Report_state("__________________________________\n Preparing graph from the links...\n");
-    Make_vertices(graph_);
-    summary_.nodes = graph_.Node_count();
-    summary_.links = graph_.links.size();
-    Report_state(" Graph created from the links OK.\n");
     Check_for_stop_signal();
   }
 
@@ -232,20 +172,6 @@ void Run_stages(const Run_parameters& parameters, const Run_wishes& wishes,
   external_control::This_control().progress.Reset();
   external_control::This_control().work_done.Begin(0);
   Run(parameters, wishes, summary).Through_all_stages(approximation_needed);
-}
-
-bool Needs_weights(const Run_parameters& parameters) {
-  return parameters.use_lower_threshold || parameters.use_upper_threshold ||
-         parameters.use_intensity;
-}
-
-void Read_links(const Run_parameters& p, Link_map& links, Link_file_check& check) {
-  Report_state(" Reading input ...\n");
-  if (Needs_weights(p))
-    Read_weighted_links(p.input_file, links, p.use_lower_threshold, p.lower_threshold,
-                        p.use_upper_threshold, p.upper_threshold, &check);
-  else
-    Read_unw_links(p.input_file, links, &check);
 }
 
 }  // namespace gns

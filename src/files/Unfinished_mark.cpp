@@ -71,6 +71,19 @@ Unfinished_mark::Unfinished_mark(const std::string& output_dir)
   }
 }
 
+Unfinished_mark::Unfinished_mark(const std::string& output_dir, int directory, int mark)
+    : output_dir_(output_dir), directory_(directory), mark_(mark) {
+  if (!mark_.Is_open())
+    throw Xerror_msg("ERROR: the results in '" + output_dir +
+                     "' can't be gone on with: " + std::generic_category().message(errno) + ".\n");
+}
+
+Unfinished_mark Unfinished_mark::Taken_up(const std::string& output_dir) {
+  const int directory = Open_file(output_dir, O_RDONLY | O_DIRECTORY);
+  const int mark = directory < 0 ? -1 : Open_file(mark_name, O_RDONLY | O_NOFOLLOW, 0, directory);
+  return {output_dir, directory, mark};
+}
+
 void Unfinished_mark::Check() const {
   struct stat ours {};
   struct stat found {};

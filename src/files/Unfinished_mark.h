@@ -20,6 +20,10 @@ class Unfinished_mark {
   /// it can't be made or marked.
   explicit Unfinished_mark(const std::string& output_dir);
 
+  /// The claim that another process has made and left, on results that several make together.
+  /// Throws Xerror_msg if the mark isn't there.
+  static Unfinished_mark Taken_up(const std::string& output_dir);
+
   /// Throws Xerror_msg if the mark no longer stands where it was made, because somebody moved or
   /// deleted the directory. What a writer has made in its place by then is marked as well.
   void Check() const;
@@ -31,6 +35,8 @@ class Unfinished_mark {
   void Remove();
 
  private:
+  Unfinished_mark(const std::string& output_dir, int directory, int mark);
+
   std::string output_dir_;
   Descriptor directory_;
   Descriptor

@@ -1,5 +1,6 @@
 #include "foundation/io/File_system.h"
 
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -32,6 +33,12 @@ ssize_t File_system::Read(int file, void* buffer, std::size_t size) {
 ssize_t File_system::Write(int file, const void* data, std::size_t size) {
   return ::write(file, data, size);
 }
+
+void* File_system::Map(int file, std::size_t size) {
+  return ::mmap(nullptr, size, PROT_READ, MAP_SHARED, file, 0);
+}
+
+int File_system::Unmap(void* data, std::size_t size) { return ::munmap(data, size); }
 
 int File_system::Close(int file) { return ::close(file); }
 

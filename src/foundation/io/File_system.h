@@ -24,19 +24,22 @@ class File_system {
   virtual int Open(int directory, const char* path, int flags, mode_t mode);  ///< openat
   virtual ssize_t Read(int file, void* buffer, std::size_t size);             ///< read
   virtual ssize_t Write(int file, const void* data, std::size_t size);        ///< write
-  virtual int Close(int file);                                                ///< close
-  virtual int Sync(int file);                                                 ///< fsync
-  virtual int Sync_all(int file);                                             ///< syncfs
-  virtual int Status_of_open(int file, struct stat& status);                  ///< fstat
-  virtual int Status(const char* path, struct stat& status, int flags);       ///< fstatat
-  virtual int Make_dir(const char* path, mode_t mode);                        ///< mkdir
-  virtual int Rename(const char* old_path, const char* new_path);             ///< rename
-  virtual int Remove(int directory, const char* path, int flags);             ///< unlinkat
-  virtual DIR* Open_dir(const char* path);                                    ///< opendir
-  virtual const dirent* Read_dir(DIR* dir);                                   ///< readdir
-  virtual int Close_dir(DIR* dir);                                            ///< closedir
-  virtual int Space(const char* path, struct statvfs& space);                 ///< statvfs
-  virtual const char* Working_dir(char* buffer, std::size_t size);            ///< getcwd
+  /// mmap of the whole file, to be read; MAP_FAILED is a failure
+  virtual void* Map(int file, std::size_t size);
+  virtual int Unmap(void* data, std::size_t size);                       ///< munmap
+  virtual int Close(int file);                                           ///< close
+  virtual int Sync(int file);                                            ///< fsync
+  virtual int Sync_all(int file);                                        ///< syncfs
+  virtual int Status_of_open(int file, struct stat& status);             ///< fstat
+  virtual int Status(const char* path, struct stat& status, int flags);  ///< fstatat
+  virtual int Make_dir(const char* path, mode_t mode);                   ///< mkdir
+  virtual int Rename(const char* old_path, const char* new_path);        ///< rename
+  virtual int Remove(int directory, const char* path, int flags);        ///< unlinkat
+  virtual DIR* Open_dir(const char* path);                               ///< opendir
+  virtual const dirent* Read_dir(DIR* dir);                              ///< readdir
+  virtual int Close_dir(DIR* dir);                                       ///< closedir
+  virtual int Space(const char* path, struct statvfs& space);            ///< statvfs
+  virtual const char* Working_dir(char* buffer, std::size_t size);       ///< getcwd
   virtual char* Real_path(const char* path);  ///< realpath; the caller frees the text
 
  protected:
