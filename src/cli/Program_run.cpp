@@ -73,7 +73,7 @@ class Program_run : private Run_listener {
     if (stopped) return Exit_code::stopped;
     if (message != run_finished || !File_faults().empty()) return Exit_code::run_failed;
     const bool exported = Export_and_report();
-    Print_findings();
+    Print_findings(parameters_, summary_, watch_, wishes_.output.json);
     Tell(Why_no_communities(summary_, parameters_));
     return exported ? Exit_code::finished : Exit_code::run_failed;
   }
@@ -183,18 +183,6 @@ class Program_run : private Run_listener {
       Tell(failure.what());
       return false;
     }
-  }
-
-  void Print_findings() const {
-    if (wishes_.output.json) {
-      const gns::Method method = Method_of(parameters_.directed, parameters_.use_intensity);
-      std::cout << In_json(Summary_of_run(summary_, vorlane::face::Method_of(method))) << "\n";
-      return;
-    }
-    std::cout << "\n";
-    Print_run_table(std::cout, summary_);
-    std::cout << "\n  " << Resources_used(watch_) << "\n  results in "
-              << Get_total_path(parameters_.output_dir) << "\n";
   }
 
   Run_parameters parameters_;

@@ -1,9 +1,13 @@
 #include "cli/Run_table.h"
 
+#include <iostream>
 #include <string>
 
 #include "cli/commands/Summary_text.h"
 #include "face/Level_of_face.h"
+#include "face/Results_body.h"
+#include "foundation/paths/Total_path.h"
+#include "results/Method.h"
 
 namespace gns {
 
@@ -38,6 +42,19 @@ void Print_run_table(std::ostream& stream, const Run_summary& run) {
   if (run.extractions.size() < 2) return;
   if (const auto chosen = vorlane::queries::Which_k({summary}))
     stream << "\n" << In_words(*chosen, "k = " + std::to_string(chosen->level.k));
+}
+
+void Print_findings(const Run_parameters& parameters, const Run_summary& run,
+                    const Stopwatch& watch, bool json) {
+  if (json) {
+    const Method method = Method_of(parameters.directed, parameters.use_intensity);
+    std::cout << In_json(Summary_of_run(run, vorlane::face::Method_of(method))) << "\n";
+    return;
+  }
+  std::cout << "\n";
+  Print_run_table(std::cout, run);
+  std::cout << "\n  " << Resources_used(watch) << "\n  results in "
+            << Get_total_path(parameters.output_dir) << "\n";
 }
 
 }  // namespace gns

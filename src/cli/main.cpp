@@ -12,8 +12,7 @@
 #include "cli/Side_words.h"
 #include "cli/commands/Commands.h"
 #include "cli/options/Help_text.h"
-#include "cli/options/Input_options.h"
-#include "cli/options/Jobs_option.h"
+#include "cli/options/Long_wishes.h"
 #include "cli/options/Usage.h"
 #include "cli/options/Word_table.h"
 #include "cli/terminal/Stop_signals.h"
@@ -33,29 +32,16 @@ Exit_code Answer(int argc, const char* const* argv) {
   }
   std::vector<const char*> words(argv, argv + std::min(argc, 1));
   gns::Long_wishes wishes;
-  for (int i = 1; i < argc; ++i) {
-    const std::string_view word = argv[i];
-    if (gns::Read_progress_option(word, wishes.progress)) continue;
-    if (const auto given = gns::Long_argument_at({argv + i, argv + argc})) {
-      if (!gns::Take_input_option(*given, wishes.input) &&
-          !gns::Take_jobs_option(*given, wishes.jobs))
-        gns::Take_output_option(*given, wishes.output);
-      i += static_cast<int>(given->words) - 1;
-      continue;
-    }
-    if (word == "--json") {
-      wishes.output.json = true;
-      continue;
-    }
-    words.push_back(argv[i]);
-    if (word == "--help") {
-      std::cout << gns::Help_text(std::filesystem::path(argv[0]).filename());
-      return Exit_code::finished;
-    }
-    if (word == "--version") {
-      gns::Print_version();
-      return Exit_code::finished;
-    }
+  const auto rest = gns::Take_long_words({argv + words.size(), argv + argc}, wishes);
+  words.insert(words.end(), rest.begin(), rest.end());
+  const std::string_view last = words.empty() ? "" : words.back();
+  if (last == "--help") {
+    std::cout << gns::Help_text(std::filesystem::path(argv[0]).filename());
+    return Exit_code::finished;
+  }
+  if (last == "--version") {
+    gns::Print_version();
+    return Exit_code::finished;
   }
   return gns::Run_program(static_cast<int>(words.size()), words.data(), wishes);
 }

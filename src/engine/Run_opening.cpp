@@ -70,15 +70,16 @@ void Read_links(const Run_parameters& p, Link_map& links, Link_file_check& check
     Read_unw_links(p.input_file, links, &check);
 }
 
-void Make_graph(Named_graph& graph, Link_map& links, bool directed) {
+void Convert_links(Named_graph& graph, const Link_map& links, bool directed) {
   Report_state("____________________\n Converting links...\n");
   graph.directed = directed;
   Convert_s_links(graph.links, graph.names, links, directed);
-  links.clear();
   Report_state(" Links converted OK, total number of " + std::to_string(graph.links.size()) +
                "  will be\n taken into account in the community finding.\n");
   Check_for_stop_signal();
+}
 
+void Build_graph(Named_graph& graph) {
   Report_state("__________________________________\n Preparing graph from the links...\n");
   Make_vertices(graph);
   Report_state(" Graph created from the links OK.\n");

@@ -30,7 +30,9 @@ bool Needs_weights(const Run_parameters& parameters);
 /// what can't be meant as it stands.
 void Read_links(const Run_parameters& parameters, Link_map& links, Link_file_check& check);
 
-/// Turns the links into the graph of a run, and reports it. Empties the links on the way.
-void Make_graph(Named_graph& graph, Link_map& links, bool directed);
+/// Turn links into the graph of a run, and report it: first its links and names, then its vertices.
+/// In between the links as they were read may be given up.
+void Convert_links(Named_graph& graph, const Link_map& links, bool directed);
+void Build_graph(Named_graph& graph);
 
 }  // namespace gns

@@ -47,7 +47,9 @@ class Run {
       Read_input(parameters_, wishes_, links);
     }
     Write_graph(links);
-    Make_graph(graph_, links, parameters_.directed);
+    Convert_links(graph_, links, parameters_.directed);
+    links.clear();
+    Build_graph(graph_);
     summary_.nodes = graph_.Node_count();
     summary_.links = graph_.links.size();
     Find_cliques(approximation_needed);
