@@ -44,6 +44,7 @@ class Dir_vertex_map {
   [[nodiscard]] Node_span Neighs(Node_index node) const { return neighs_[node]; }
   /// The neighbours of all nodes, whatever the direction.
   [[nodiscard]] const Adjacency& Rows() const { return neighs_; }
+  [[nodiscard]] const Adjacency& Ineigh_rows() const { return ineighs_; }
   [[nodiscard]] Node_span Oneighs(Node_index node) const { return oneighs_[node]; }
   [[nodiscard]] Node_span Ineighs(Node_index node) const { return ineighs_[node]; }
   /// The record of a node, with its neighbours and no cliques.

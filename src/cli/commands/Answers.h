@@ -23,6 +23,9 @@ void Answer_export(const Word_line& line, std::ostream& out);
 /// Writes a page or a picture, and its name on `out`.
 void Answer_report(const Word_line& line, std::ostream& out);
 
+/// Does a step of a run in parts, and tells what is done.
+void Answer_parts(const Word_line& line, std::ostream& out);
+
 /// The argument of --k, nothing for "all" and without it.
 std::optional<std::uint32_t> K_of(const Word_line& line);
 

@@ -30,7 +30,7 @@ void Answer_help(const Word_line& line, std::ostream& out) {
 using Answer = void (*)(const Word_line& line, std::ostream& out);
 
 Answer Answer_of(const Word& word) {
-  constexpr std::array<std::pair<std::string_view, Answer>, 8> answers = {
+  constexpr std::array<std::pair<std::string_view, Answer>, 9> answers = {
       {{"summary", Answer_summary},
        {"which-k", Answer_which_k},
        {"query", Answer_query},
@@ -38,6 +38,7 @@ Answer Answer_of(const Word& word) {
        {"diff", Answer_diff},
        {"export", Answer_export},
        {"report", Answer_report},
+       {"parts", Answer_parts},
        {"help", Answer_help}}};
   for (const auto& [name, answer] : answers)
     if (name == word.word) return answer;

@@ -30,6 +30,10 @@ Word_line Read_word_line(const Word& word, const std::vector<std::string>& words
     }
     const std::string name = text.substr(0, text.find('='));
     const auto option = std::ranges::find(word.options, name, &Option::word);
+    if (option == word.options.end() && word.takes_switches) {
+      line.arguments.push_back(text);
+      continue;
+    }
     if (option == word.options.end())
       Refuse(word, "There is no option '" + name + "' of '" + std::string(word.word) + "'.");
     std::string& value = line.options[name];

@@ -152,6 +152,49 @@ constexpr std::array report_options{
     force,
 };
 
+constexpr std::array parts_options{
+    Option{
+        .word = "--work",
+        .argument = "DIR",
+        .kind = Option::Argument::directory,
+        .group = Option::Group::display,
+        .summary = "the folder in which the parts meet",
+        .without = "",
+        .description = "The folder in which the parts meet; all machines must see it. `-W` does as "
+                       "well, unless a number stands behind it, which is a weight threshold.",
+        .mandatory = true,
+        .needs_argument = true,
+    },
+    Option{
+        .word = "--parts",
+        .argument = "N",
+        .kind = Option::Argument::number,
+        .group = Option::Group::display,
+        .summary = "of plan: how many parts there are to be",
+        .without = "",
+        .description = "Of `plan`: how many parts there are to be.",
+        .needs_argument = true,
+    },
+    Option{
+        .word = "--part",
+        .argument = "I",
+        .kind = Option::Argument::number,
+        .group = Option::Group::display,
+        .summary = "of search and levels: which part, from 1 on",
+        .without = "",
+        .description = "Of `search` and `levels`: which part; they count from 1.",
+        .needs_argument = true,
+    },
+    Option{
+        .word = "--json",
+        .argument = "",
+        .group = Option::Group::display,
+        .summary = "of status and finish: one object of JSON on a line",
+        .without = "",
+        .description = "Of `status` and `finish`: prints one object of JSON, on one line.",
+    },
+};
+
 constexpr std::array words{
     Word{
         .word = "run",
@@ -234,6 +277,21 @@ constexpr std::array words{
             "tables. It is a file by itself: it can be sent, kept and opened in any browser of "
             "these years, without a net. A file that exists is not replaced.",
         .options = report_options,
+    },
+    Word{
+        .word = "parts",
+        .arguments = "STEP [OPTION]...",
+        .summary = "a run in parts, on several machines",
+        .description =
+            "Does a run in parts, which any machines that see a folder can do, with the same "
+            "results to the byte. The steps: `plan` with the options of a run, then `search` for "
+            "each part, `gather`, `levels` for each part, and `finish`; `status` tells how far it "
+            "is. Each may be done again; docs/parts.md explains them.",
+        .most_arguments = Word::any,
+        .options = parts_options,
+        .kind = Option::Argument::none,
+        .of_kind = 0,
+        .takes_switches = true,
     },
     Word{
         .word = "help",

@@ -23,6 +23,7 @@ struct Word {
   /// What the first arguments are, and how many of them; `words` are those of this list.
   Option::Argument kind = Option::Argument::directory;
   std::size_t of_kind = 1;
+  bool takes_switches = false;  ///< options that it doesn't have are arguments, for a run's reader
 };
 
 /// The one list of all words.

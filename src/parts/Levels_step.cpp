@@ -1,0 +1,58 @@
+#include "engine/Find_level.h"
+#include "engine/Levels.h"
+#include "engine/Work_of_levels.h"
+#include "files/Results_writer.h"
+#include "parts/Open_plan.h"
+#include "parts/Parts.h"
+
+namespace gns::parts {
+
+namespace {
+
+Levels_input Input_of(const Open_plan& plan, const All_cliques& all) {
+  const Run_parameters& p = plan.Plan().parameters;
+  Levels_input input(all.cliques, plan.Graph().Graph().links);
+  input.exact_clique_count = static_cast<std::uint32_t>(all.cliques.size());
+  input.node_count = plan.Graph().Graph().Node_count();
+  if (p.use_intensity) input.intensity_threshold = p.intensity_threshold;
+  input.max_clique_size = static_cast<std::uint32_t>(all.of_size.size() - 1);
+  return input;
+}
+
+Done_work Make(const Open_plan& plan, const All_cliques& all, const Level_group& group) {
+  const auto from = static_cast<std::uint32_t>(group.from);
+  const auto to = static_cast<std::uint32_t>(group.to);
+  Done_work done;
+  Results_aside aside(plan.Output_dir());
+  const Results_writer results(plan.Place_in(aside.Directory()));
+  Levels levels(Input_of(plan, all));
+  Work_of_levels work(all.of_size, from, to);
+  const Level_output output = {results, plan.Graph().Graph().names};
+  for (std::uint32_t k = from;; --k) {
+    external_control::Check_for_stop_signal();
+    done.levels.push_back({k, Find_level(k, levels, &output).statistics});
+    if (k == to) break;
+    work.End_level(k);
+  }
+  done.files = aside.Put_in_place();
+  return done;
+}
+
+}  // namespace
+
+std::uint64_t Find_levels(const std::string& work, std::uint64_t part) {
+  const Open_plan plan(work);
+  plan.Refuse_no_part(part);
+  const Done_key key = plan.Key(Step::levels, part);
+  if (const auto before = Done_work_of(plan.Folder(), key, plan.Output_dir()))
+    return before->levels.size();
+  plan.Refuse_finished();
+  const Open_cliques cliques(plan);
+  File_aside mark(plan.Folder().Done(Step::levels, part));
+  const Level_group& group = cliques.All().groups[part - 1];
+  const Done_work done = group.from < group.to ? Done_work() : Make(plan, cliques.All(), group);
+  Write_done_mark(mark, key, done);
+  return done.levels.size();
+}
+
+}  // namespace gns::parts
