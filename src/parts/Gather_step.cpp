@@ -52,7 +52,11 @@ void Write_cliques(const Open_plan& plan) {
 
 std::uint64_t Gather(const std::string& work) {
   const Open_plan plan(work);
-  plan.Refuse_finished();
+  try {
+    return Open_cliques(plan).All().cliques.size();
+  } catch (const Xbad_part&) {
+    plan.Refuse_finished();  // they are not gathered yet, or were damaged
+  }
   File_aside mark(plan.Folder().Done(Step::gather));
   Write_cliques(plan);
   const Part_label label = plan.Folder().Label(plan.Folder().Cliques(), Step::gather);

@@ -27,10 +27,11 @@ std::string Work_folder::Command(Step step, std::uint64_t part) const {
 }
 
 Part_label Work_folder::Label(const std::string& path, Step step, std::uint64_t part) const {
+  if (step == Step::plan && path == Graph())
+    return {path, "Delete " + Shell_word(path_) +
+                      " and the unfinished results, and make the plan again."};
   if (step == Step::plan)
-    return {path,
-            "Delete " + Shell_word(path_) +
-                " and the unfinished results, and make the plan again by vorlane parts plan."};
+    return {path, "Make the plan again, by the command that has made it: vorlane parts plan ..."};
   return {path, "Make it again: " + Command(step, part)};
 }
 
