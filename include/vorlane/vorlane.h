@@ -16,6 +16,7 @@
 #include "vorlane/control.h"
 #include "vorlane/error.h"
 #include "vorlane/network.h"
+#include "vorlane/parts.h"
 #include "vorlane/report.h"
 #include "vorlane/results.h"
 #include "vorlane/rows.h"

@@ -5,33 +5,13 @@
 
 #include "face/Control_body.h"
 #include "face/Errors_of_face.h"
+#include "face/Input_of_face.h"
 #include "face/Network_body.h"
 #include "face/Views.h"
 #include "formats/Network_file.h"
 #include "graph/Link_conversion.h"
 
 namespace vorlane {
-
-namespace {
-
-gns::Input_wishes Wishes_of(const Link_options& options) {
-  const auto refuse = [](const std::string& why) { throw Error(Error_kind::parameters, why); };
-  gns::Input_wishes wishes;
-  if (!options.format.empty()) {
-    wishes.format = gns::Format_named(options.format);
-    if (!wishes.format)
-      refuse("There is no format '" + options.format + "'; it is one of " + gns::Format_names() +
-             ".");
-  }
-  wishes.columns = options.columns;
-  wishes.directed = options.directed;
-  const std::size_t count = wishes.columns.size();
-  if (count != 0 && count != 2 && count != 3)
-    refuse("The columns must be two or three: both names and, if there is one, the weight.");
-  return wishes;
-}
-
-}  // namespace
 
 namespace face {
 
@@ -72,7 +52,7 @@ Network Network::Read(const std::string& path, const Link_options& options,
                                  taken.max_weight.value_or(0)};
     gns::Link_map links;
     gns::Link_file_check check;
-    gns::Read_network_file(path, Wishes_of(taken), rule, links, check);
+    gns::Read_network_file(path, face::Wishes_of(taken), rule, links, check);
     std::vector<std::string> warnings;
     for (const gns::Link_file_warning& warning : check.Warnings())
       warnings.push_back(gns::In_words(warning, path));
