@@ -95,6 +95,7 @@ void Read_coms(const std::string& results_dir, const std::string& specifier,
 
 void Read_coms(const std::string& results_dir, Method method, const Table_pointers& tables,
                std::string& errors) {
+  const Kept_buffer of_all_files;
   Guarded([&](const std::string& name) { Read_by_lines(*tables.graph_links, name); },
           results_names::Graph(results_dir, method == Method::directed), errors);
   Guarded([&](const std::string& name) { Read_by_index(*tables.cliques, name); },

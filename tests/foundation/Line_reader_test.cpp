@@ -30,6 +30,8 @@ TEST(LineReader, CutsAtTheGivenCharacters) {
       {"a\n", {}, {"a\n"}, false},
       {"a\0b\xff"s, {'\0', '\xff'}, {"a", "b"}, true},
       {longest + "\n" + longest, {'\n'}, {longest, longest}, false}};
+  const Kept_buffer of_all;
+  Line_reader other(temp.Write("other", "x\ny"));
   for (const auto& [text, line_ends, expected, terminated] : cases) {
     Line_reader reader(temp.Write("file", text), Source::regular_file, line_ends);
     Lines lines;
@@ -37,6 +39,8 @@ TEST(LineReader, CutsAtTheGivenCharacters) {
     EXPECT_TRUE(lines == expected) << text.substr(0, 9);
     EXPECT_EQ(reader.Terminated(), terminated) << text.substr(0, 9);
   }
+  std::string_view line;
+  EXPECT_TRUE(other.Next(line) && line == "x" && other.Next(line) && line == "y");
 }
 
 TEST(LineReader, ShowsBytesBeforeTheyAreTaken) {

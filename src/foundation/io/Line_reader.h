@@ -23,6 +23,7 @@ class Line_reader {
                        Character_set line_ends = {'\n'}, Poll poll = nullptr);
   /// Of bytes from anywhere.
   explicit Line_reader(std::unique_ptr<Byte_source> bytes, Character_set line_ends = {'\n'});
+  ~Line_reader();
   Line_reader(const Line_reader&) = delete;
   Line_reader& operator=(const Line_reader&) = delete;
 
@@ -35,7 +36,9 @@ class Line_reader {
   std::string_view Peek(std::size_t size);
 
   /// What has been read of the file, but not taken yet. Valid until the next call.
-  [[nodiscard]] std::string_view Held() const { return {buffer_.get() + start_, end_ - start_}; }
+  [[nodiscard]] std::string_view Held() const {
+    return {buffer_.data.get() + start_, end_ - start_};
+  }
   /// Takes the front of what is held: `size` bytes, which are `lines` whole lines.
   void Take(std::size_t size, std::size_t lines) {
     start_ += size;
@@ -52,24 +55,48 @@ class Line_reader {
   [[nodiscard]] bool Terminated() const { return terminated_; }
 
  private:
+  friend class Kept_buffer;
+
   struct Free {
     void operator()(char* block) const { std::free(block); }
   };
+  /// What has been read stands in it, up to a longest line.
+  struct Buffer {
+    void Grow(std::size_t size);
 
-  void Resize_buffer(std::size_t capacity);
+    std::unique_ptr<char[], Free> data;
+    std::size_t capacity = 0;
+  };
+
+  void Take_buffer(std::size_t size);
   void Make_room();
   bool Fill();
 
   std::unique_ptr<Byte_source> bytes_;
   Character_set line_ends_;
   std::size_t file_size_ = 0;
-  std::unique_ptr<char[], Free> buffer_;
-  std::size_t capacity_ = 0;
+  Buffer buffer_;
   std::size_t start_ = 0;  ///< unread bytes: start_ up to end_
   std::size_t end_ = 0;
   std::size_t lines_taken_ = 0;
   bool terminated_ = false;
   bool at_end_ = false;  ///< a terminal would begin anew after its end
+};
+
+/// While it lives, each reader of its thread goes on with the memory of the one before, which the
+/// system would have to make ready again. For many files in a row.
+class Kept_buffer {
+ public:
+  Kept_buffer();
+  ~Kept_buffer();
+  Kept_buffer(const Kept_buffer&) = delete;
+  Kept_buffer& operator=(const Kept_buffer&) = delete;
+
+ private:
+  friend class Line_reader;
+
+  Line_reader::Buffer buffer_;
+  Kept_buffer* before_;
 };
 
 }  // namespace gns
