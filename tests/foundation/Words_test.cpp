@@ -2,10 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <random>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "foundation/text/Delimiter_places.h"
 
 namespace gns {
 namespace {
@@ -43,6 +47,42 @@ TEST(Words, AreWhatStandsBetweenDelimiters) {
       chopped.emplace_back(Chop_word(rest, delimiters));
     if (expected.empty() && !text.empty()) expected.emplace_back();  // one word, an empty one
     ASSERT_EQ(chopped, expected) << text;
+  }
+}
+
+/// Marks eight bytes at a time, as on processors that can't do more.
+template <typename Marks>
+struct By_eights {
+  Marks marks;
+  std::uint64_t operator()(std::uint64_t eight) const { return marks(eight); }
+};
+
+template <typename Marks>
+std::vector<std::size_t> Places(std::string_view text, Marks marks) {
+  std::vector<std::size_t> places;
+  Delimiter_places delimiters(text, marks);
+  while (places.empty() || places.back() < text.size()) places.push_back(delimiters.Next());
+  return places;
+}
+
+TEST(DelimiterPlaces, EqualThoseOfALoop) {
+  std::mt19937 random(5);
+  for (int i = 0; i < 3000; ++i) {
+    std::string text;
+    for (auto left = random() % 200; left > 0; --left)
+      text += i % 2 == 0 ? static_cast<char>(random()) : "a \n!\xa0"[random() % 5];
+    std::vector<std::size_t> blanks;
+    std::vector<std::size_t> up_to_blank;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+      if (text[at] == ' ') blanks.push_back(at);
+      if (static_cast<unsigned char>(text[at]) <= ' ') up_to_blank.push_back(at);
+    }
+    blanks.push_back(text.size());
+    up_to_blank.push_back(text.size());
+    EXPECT_EQ(Places(text, Equal_to(' ')), blanks);
+    EXPECT_EQ(Places(text, By_eights<Equal_to>{Equal_to(' ')}), blanks);
+    EXPECT_EQ(Places(text, Up_to_blank()), up_to_blank);
+    EXPECT_EQ(Places(text, By_eights<Up_to_blank>()), up_to_blank);
   }
 }
 
