@@ -28,6 +28,13 @@ struct Delimiters {
   const Character_set& head;
   const Character_set& key;
   const Character_set& value;
+
+  /// True of those that the writers use.
+  [[nodiscard]] bool Are_usual() const {
+    const Character_set blank = {' '};
+    return line == Character_set{'\n'} && head == Character_set{':'} && key == blank &&
+           value == blank;
+  }
 };
 
 bool Is_digit(char c) { return c >= '0' && c <= '9'; }
@@ -73,15 +80,26 @@ void Take_record(std::string_view record, const Delimiters& delimiters,
   }
 }
 
+/// Takes whole lines off what the reader holds, as far as they are plain.
+template <typename Table>
+void Take_plain_rows(Line_reader& reader, Table& table) {
+  const std::string_view held = reader.Held();
+  const std::size_t held_rows = table.size();
+  const std::size_t taken = table.Add_plain_lines(held.substr(0, held.rfind('\n') + 1));
+  reader.Take(taken, table.size() - held_rows);
+}
+
 template <typename Table>
 void Read_records(Table& table, const std::string& file_name, const Delimiters& delimiters) {
   Line_reader reader(file_name, Line_reader::Source::regular_file, delimiters.line);
   const Filling filling(&table);
   table.Reserve_for_text(reader.File_size());
+  const bool usual = delimiters.Are_usual();
   for (std::string_view record; reader.Next(record);) {
     if (record.empty() || record.front() == '#') continue;
     if (!reader.Terminated()) record.remove_suffix(1);
     if (!record.empty()) Take_record(record, delimiters, table);
+    if (usual) Take_plain_rows(reader, table);
   }
   my_string_chopper_class::Set_delims_default();
 }

@@ -29,6 +29,21 @@ class Index_list {
     Chop_plain(text, delimiter, [&to](std::int32_t index) { *to++ = index; });
     indices_.Grew(static_cast<std::size_t>(to - from));
   }
+  /// Appends the indices of a line as a Name_list does its words, as far as they are plain ones.
+  bool Append_line(std::string_view text, std::size_t& blank, Blank_places& blanks) {
+    std::int32_t* const from = indices_.Room_for((text.size() - blank) / 2 + 1);
+    std::int32_t* to = from;
+    Blank_places places = blanks;
+    std::size_t end = places.Next();
+    for (; end < text.size() && text[end] == ' '; end = places.Next()) {
+      if (!Convert_plain_part(text, blank + 1, end, *to++)) return false;
+      blank = end;
+    }
+    if (end != blank + 1 || end == text.size() || text[end] != '\n' || to == from) return false;
+    indices_.Grew(static_cast<std::size_t>(to - from));
+    blanks = places;
+    return true;
+  }
   void Append(const Index_list& indices) {
     indices_.append(indices.indices_.data(), indices.indices_.size());
   }
@@ -43,7 +58,7 @@ class Index_list {
   }
   void Cut(std::size_t place, std::size_t /*count*/) { indices_.Cut(place); }
   /// Makes room for what a text of so many bytes can hold; what is left unused is never touched.
-  void Reserve_for_text(std::size_t bytes) { indices_.Room_for(bytes / 2); }
+  void Reserve_for_text(std::size_t bytes) { indices_.Reserve(indices_.size() + bytes / 2 + 1); }
   void Shrink_to_fit() { indices_.Shrink_to_fit(); }
 
  private:

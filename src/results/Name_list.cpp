@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <cstring>
 
-#include "foundation/text/Delimiter_places.h"
 #include "foundation/text/Words.h"
 
 namespace gns {
@@ -53,13 +52,15 @@ std::size_t Name_list::Pack_plain(std::string_view text, char delimiter, char* t
   std::memcpy(to + 1, text.data(), text.size());
   Delimiter_places delimiters(text, Equal_to(delimiter));
   std::size_t start = 0;
-  for (;;) {
-    const std::size_t end = delimiters.Next();
-    if (end == text.size() || !Name_row::Is_short(end - start)) return start;
+  std::size_t words = 0;
+  for (std::size_t end = delimiters.Next(); end < text.size() && Name_row::Is_short(end - start);
+       end = delimiters.Next()) {
     to[start] = static_cast<char>(end - start);
-    ++count_.value;
     start = end + 1;
+    ++words;
   }
+  count_.value += words;
+  return start;
 }
 
 void Name_list::Append_words(std::string_view text, const Character_set& delimiters) {
@@ -76,8 +77,35 @@ void Name_list::Append_words(std::string_view text, const Character_set& delimit
   packed_.Grew(static_cast<std::size_t>(to - from));
 }
 
+bool Name_list::Append_line(std::string_view text, std::size_t& blank, Blank_places& blanks) {
+  constexpr std::size_t step = at_once / 2;
+  char* const from = packed_.Room_for(text.size() - blank + step);
+  char* to = from;
+  const char* const at = text.data();
+  Blank_places places = blanks;
+  std::size_t words = 0;
+  std::size_t start = blank;
+  std::size_t end = places.Next();
+  for (; end < text.size() && at[end] == ' '; end = places.Next()) {
+    const std::size_t length = end - start - 1;
+    if (!Name_row::Is_short(length) || start + step > text.size()) return false;
+    // Mostly one step; what is copied too much is overwritten by the next word.
+    std::memcpy(to, at + start, step);
+    if (length >= step) std::memcpy(to, at + start, length + 1);
+    *to = static_cast<char>(length);
+    to += length + 1;
+    start = end;
+    ++words;
+  }
+  if (end != start + 1 || end == text.size() || at[end] != '\n' || words == 0) return false;
+  packed_.Grew(static_cast<std::size_t>(to - from));
+  count_.value += words;
+  blanks = places;
+  blank = start;
+  return true;
+}
+
 std::size_t Name_list::Append_pair_lines(std::string_view text) {
-  constexpr std::size_t at_once = 32;
   char* const from = packed_.Room_for(text.size() + 1);
   const char* const at = text.data();
   Delimiter_places blanks(text, Up_to_blank());

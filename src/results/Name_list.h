@@ -9,6 +9,7 @@
 #include "foundation/memory/Growing_array.h"
 #include "foundation/memory/Moving_count.h"
 #include "foundation/text/Character_set.h"
+#include "foundation/text/Delimiter_places.h"
 
 namespace gns {
 
@@ -100,6 +101,12 @@ class Name_list {
   void Append(const Name_list& names);
   /// Appends the words of `text`, which any number of delimiters may separate and enclose.
   void Append_words(std::string_view text, const Character_set& delimiters);
+  /// Appends the words of a line, each of which stands between two blanks and has fewer than 128
+  /// bytes. `blank` is the place in front of the first word in a text, `blanks` are those behind
+  /// it. True if the end of the line is found behind the last blank, whose place `blank` is then.
+  /// False, with nothing appended, for a line of another form, for one without words, and perhaps
+  /// near the end of the text.
+  bool Append_line(std::string_view text, std::size_t& blank, Blank_places& blanks);
   /// Appends the names of the lines of two words at the front of `text`, and yields the size of
   /// these lines. Words are parted by a blank and of fewer than 128 bytes; the first doesn't begin
   /// with '#', the second doesn't end with ':'. A line of another form, and any near the end of the
@@ -123,10 +130,12 @@ class Name_list {
     count_.value = count;
   }
   /// Makes room for what a text of so many bytes can hold; what is left unused is never touched.
-  void Reserve_for_text(std::size_t bytes) { packed_.Room_for(bytes); }
+  void Reserve_for_text(std::size_t bytes) { packed_.Reserve(packed_.size() + bytes + at_once); }
   void Shrink_to_fit() { packed_.Shrink_to_fit(); }
 
  private:
+  static constexpr std::size_t at_once = 32;  ///< bytes that are copied in one step
+
   std::size_t Pack_plain(std::string_view text, char delimiter, char* to);
 
   Growing_array<char> packed_;

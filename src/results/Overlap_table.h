@@ -27,7 +27,7 @@ class Overlap_table {
   /// Sets the number of a pair, in place of an earlier one.
   void Set(const key_type& pair, mapped_type shared) { entries_.emplace_back(pair, shared); }
   /// Ends the filling.
-  void Finish() { Sort_entries(entries_, &value_type::first); }
+  void Finish() { entries_.resize(Sort_entries(std::span(entries_), &value_type::first)); }
 
   [[nodiscard]] std::size_t size() const { return entries_.size(); }
   [[nodiscard]] bool empty() const { return entries_.empty(); }

@@ -7,9 +7,12 @@
 #include <iterator>
 #include <optional>
 #include <stdexcept>
+#include <string_view>
 #include <utility>
-#include <vector>
 
+#include "foundation/memory/Growing_array.h"
+#include "foundation/text/Delimiter_places.h"
+#include "foundation/text/My_string_to_i.h"
 #include "results/Sorted_entries.h"
 
 namespace gns {
@@ -39,18 +42,37 @@ class Table_by_index {
     count_at_open_ = values_.size();
     return values_;
   }
+  /// Adds the rows of lines "INDEX: VALUE VALUE ... " at the front of a text, as far as they are
+  /// plain: as a writer leaves them. Yields the size of these lines.
+  std::size_t Add_plain_lines(std::string_view text) {
+    Blank_places blanks(text, Up_to_blank());
+    std::size_t taken = 0;
+    for (;;) {
+      std::size_t blank = blanks.Next();
+      key_type key = 0;
+      if (blank < taken + 2 || blank == text.size() || text[blank] != ' ' ||
+          text[blank - 1] != ':' || !Convert_plain_part(text, taken, blank - 1, key))
+        return taken;
+      if (!Add(key).Append_line(text, blank, blanks)) {
+        Drop();
+        return taken;
+      }
+      taken = blank + 2;
+    }
+  }
   /// Makes room for the rows of a text of so many bytes.
   void Reserve_for_text(std::size_t bytes) { values_.Reserve_for_text(bytes); }
   /// Takes the row that is open away again, with what it got.
   void Drop() {
-    values_.Cut(entries_.back().place, *count_at_open_);
-    entries_.pop_back();
+    values_.Cut(entries_.Values().back().place, *count_at_open_);
+    entries_.Cut(entries_.size() - 1);
     count_at_open_.reset();
   }
   void Finish() {
     Close();
     values_.Shrink_to_fit();
-    Sort_entries(entries_, &Entry::key);
+    entries_.Cut(Sort_entries(entries_.Values(), &Entry::key));
+    entries_.Shrink_to_fit();
   }
 
   class Iterator {
@@ -68,7 +90,7 @@ class Table_by_index {
     Iterator(const Table_by_index* table, std::size_t at) : table_(table), at_(at) {}
 
     value_type operator*() const {
-      const Entry& entry = table_->entries_[at_];
+      const Entry& entry = table_->entries_.Values()[at_];
       return {entry.key, table_->values_.Row_at(entry.place, entry.count)};
     }
     pointer operator->() const { return {**this}; }
@@ -86,13 +108,14 @@ class Table_by_index {
   using const_iterator = Iterator;
 
   [[nodiscard]] std::size_t size() const { return entries_.size(); }
-  [[nodiscard]] bool empty() const { return entries_.empty(); }
+  [[nodiscard]] bool empty() const { return entries_.size() == 0; }
   [[nodiscard]] Iterator begin() const { return {this, 0}; }
   [[nodiscard]] Iterator end() const { return {this, entries_.size()}; }
   [[nodiscard]] Iterator find(key_type key) const {
-    const auto found = std::ranges::lower_bound(entries_, key, {}, &Entry::key);
-    if (found == entries_.end() || found->key != key) return end();
-    return {this, static_cast<std::size_t>(found - entries_.begin())};
+    const auto entries = entries_.Values();
+    const auto found = std::ranges::lower_bound(entries, key, {}, &Entry::key);
+    if (found == entries.end() || found->key != key) return end();
+    return {this, static_cast<std::size_t>(found - entries.begin())};
   }
   [[nodiscard]] bool contains(key_type key) const { return find(key) != end(); }
   /// Throws std::out_of_range if there is no such row.
@@ -115,12 +138,12 @@ class Table_by_index {
   };
 
   void Close() {
-    if (count_at_open_ && !entries_.empty())
-      entries_.back().count = static_cast<std::uint32_t>(values_.size() - *count_at_open_);
+    if (count_at_open_ && entries_.size() > 0)
+      entries_.Values().back().count = static_cast<std::uint32_t>(values_.size() - *count_at_open_);
     count_at_open_.reset();
   }
 
-  std::vector<Entry> entries_;
+  Growing_array<Entry> entries_;
   Values values_;
   std::optional<std::size_t> count_at_open_;
 };

@@ -16,6 +16,7 @@
 #include "files/Pair_fields.h"
 #include "files/Results_reader.h"
 #include "foundation/Errors.h"
+#include "foundation/io/Line_reader.h"
 
 namespace gns {
 namespace {
@@ -74,6 +75,17 @@ TEST(ReadData, EqualsThePlainReadersOnRandomText) {
                                                 "a b c\n",
                                                 "gh"s + "\0 i\n"s,
                                                 "jklm nopq\n",
+                                                "12: ab cd \n",
+                                                "-0: 5 -67 \n",
+                                                "3: 4\n",
+                                                "123456789: 8 \n",
+                                                "1:: 2 \n",
+                                                "5:  6 \n",
+                                                "6: \n",
+                                                "+7: +8 \n",
+                                                "9: 1\t2 3 \n",
+                                                std::string(15, 'x') + " ",
+                                                std::string(16, 'y') + " ",
                                                 std::string(31, 'r') + " ",
                                                 std::string(127, 's') + " t\n",
                                                 std::string(128, 'u') + " ",
@@ -83,7 +95,7 @@ TEST(ReadData, EqualsThePlainReadersOnRandomText) {
     std::mt19937 random(seed);
     std::string text;
     const auto& choice = seed % 2 == 0 ? pieces : long_pieces;
-    for (auto left = random() % 30; left > 0; --left) text += choice[random() % choice.size()];
+    for (auto left = random() % 60; left > 0; --left) text += choice[random() % choice.size()];
     const std::string path = temp.Write("file", text);
     ASSERT_EQ(Read(path, Name_pairs()), literal::Pairs(text)) << text;
     ASSERT_EQ(Read(path, Overlap_table()), literal::Overlaps(text)) << text;
@@ -109,6 +121,40 @@ TEST(ReadData, EqualsThePlainReadersOnRandomText) {
               plain.Read(text, true))
         << text;
   }
+}
+
+/// Rows of a few bytes and of more than is read at once, over many reads.
+TEST(ReadData, TakesRowsAcrossReads) {
+  const Temp_dir temp;
+  const Kept_buffer of_both_files;
+  std::mt19937 random(1);
+  std::string of_names = "# c\n\n";
+  std::string of_indices = of_names;
+  Names_by_index names;
+  Indices_by_index indices;
+  for (std::int32_t row = 0; row < 20000; ++row) {
+    const std::int32_t key = row < 15000 ? row : -row;
+    for (std::string* text : {&of_names, &of_indices}) *text += std::to_string(key) + ": ";
+    Name_list& names_of_row = names.Add(key);
+    Index_list& indices_of_row = indices.Add(key);
+    for (auto left = row % 4000 == 7 ? 50000 : 1 + random() % 20; left > 0; --left) {
+      const auto value = static_cast<std::int32_t>(random() >> random() % 32U);
+      const std::string name = std::to_string(value) + std::string(random() % 20, 'x');
+      of_indices += std::to_string(value) + ' ';
+      of_names += name + ' ';
+      names_of_row.push_back(name);
+      indices_of_row.push_back(value);
+    }
+    for (std::string* text : {&of_names, &of_indices}) *text += '\n';
+  }
+  names.Finish();
+  indices.Finish();
+  Names_by_index names_read;
+  Read_data(names_read, temp.Write("names", of_names), '\n', ':', ' ', ' ');
+  EXPECT_TRUE(names_read == names);
+  Indices_by_index indices_read;
+  Read_data(indices_read, temp.Write("indices", of_indices), '\n', ':', ' ', ' ');
+  EXPECT_TRUE(indices_read == indices);
 }
 
 TEST(ReadData, RefusesWhatIsNoFile) {

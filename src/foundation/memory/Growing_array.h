@@ -8,6 +8,8 @@
 #include <type_traits>
 #include <utility>
 
+#include "foundation/memory/Huge_pages.h"
+
 namespace gns {
 
 /// An array of plain values that grows at its end. Growing and shrinking go through `realloc`,
@@ -53,11 +55,19 @@ class Growing_array {
     return data_ + size_;
   }
   void Grew(std::size_t count) { size_ += count; }
+  /// Makes room for so many values in all. What is left unused is never touched, up to a page.
+  void Reserve(std::size_t count) {
+    if (capacity_ >= count) return;
+    Reallocate(count);
+    Advise_huge_pages(data_ + size_, (count - size_) * sizeof(Value));
+  }
   void Cut(std::size_t size) { size_ = size; }
   void Shrink_to_fit() { Reallocate(size_); }
 
+  [[nodiscard]] Value* data() { return data_; }
   [[nodiscard]] const Value* data() const { return data_; }
   [[nodiscard]] const Value& operator[](std::size_t place) const { return data_[place]; }
+  [[nodiscard]] std::span<Value> Values() { return {data_, size_}; }
   [[nodiscard]] std::span<const Value> Values() const { return {data_, size_}; }
   [[nodiscard]] std::size_t size() const { return size_; }
 

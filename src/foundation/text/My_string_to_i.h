@@ -56,24 +56,29 @@ inline bool Convert_digits(const char* end, std::size_t length, std::int32_t& nu
   return true;
 }
 
+/// Converts the part of a text from `start` up to `end` as Convert_plain() does.
+inline bool Convert_plain_part(std::string_view text, std::size_t start, std::size_t end,
+                               std::int32_t& number) {
+  constexpr std::size_t eight = 8;
+  const std::size_t length = end - start;
+  return (length > 0 && length <= eight && end >= eight &&
+          Convert_digits(text.data() + end, length, number)) ||
+         Convert_plain(text.substr(start, length), number);
+}
+
 /// Takes integers in their plain form off the front of `text` while one comes behind the other with
 /// delimiters between, and calls use(number) for each. What is left is empty or begins with a word
 /// of another form. Takes nothing if the delimiter is a digit.
 template <typename Use>
 void Chop_plain(std::string_view& text, char delimiter, Use use) {
-  constexpr std::size_t eight = 8;
   if (delimiter >= '0' && delimiter <= '9') return;
   Delimiter_places delimiters(text, Equal_to(delimiter));
   std::size_t start = 0;
   while (start < text.size()) {
     const std::size_t end = delimiters.Next();
-    const std::size_t length = end - start;
     std::int32_t number = 0;
-    if (length > 0) {
-      const bool taken = length <= eight && end >= eight
-                             ? Convert_digits(text.data() + end, length, number)
-                             : Convert_plain(text.substr(start, length), number);
-      if (!taken && !Convert_plain(text.substr(start, length), number)) break;
+    if (end > start) {
+      if (!Convert_plain_part(text, start, end, number)) break;
       use(number);
     }
     start = std::min(end + 1, text.size());
