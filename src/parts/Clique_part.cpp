@@ -61,33 +61,28 @@ void Search_range(const Named_graph& graph, std::uint64_t from, std::uint64_t to
   done.Begin(0);
 }
 
-/// One work for each k, from the largest down: as many cliques as it has.
-std::vector<std::uint64_t> Works_of_levels(const std::vector<std::size_t>& of_size) {
-  constexpr std::size_t least_k = 3;
-  std::vector<std::uint64_t> works;
-  std::uint64_t cliques = 0;
-  for (std::size_t k = of_size.size(); k-- > least_k;) works.push_back(cliques += of_size[k]);
-  return works;
+/// The work at k: as many units as there are cliques of k nodes or more, and some for its files.
+std::uint64_t Work_at(std::uint64_t k, const std::vector<std::size_t>& sizes) {
+  constexpr std::uint64_t of_files = 4000;
+  std::uint64_t work = of_files;
+  for (std::uint64_t size = k; size < sizes.size(); ++size) work += sizes[size];
+  return work;
 }
 
 /// The first group has the smallest k: nearly always the dearest, which had better begin early.
 std::vector<Level_group> Groups_of_levels(const Run_plan& plan,
                                           const std::vector<std::size_t>& sizes) {
-  std::vector<Level_group> found(plan.Parts());
-  if (plan.parameters.use_single_k) {
-    const std::uint64_t k = plan.parameters.single_k;
-    std::uint64_t estimate = 0;
-    for (std::size_t size = k; size < sizes.size(); ++size) estimate += sizes[size];
-    found[0] = {k, k, estimate};
-    return found;
-  }
-  std::vector<std::uint64_t> works = Works_of_levels(sizes);
-  std::ranges::reverse(works);
   constexpr std::uint64_t least_k = 3;
+  const bool single = plan.parameters.use_single_k;
+  const std::uint64_t first_k = single ? plan.parameters.single_k : least_k;
+  const std::uint64_t end_k = single ? first_k + 1 : sizes.size();
+  std::vector<std::uint64_t> works;
+  for (std::uint64_t k = first_k; k < end_k; ++k) works.push_back(Work_at(k, sizes));
   const std::vector<std::uint64_t> places = Even_groups(works, plan.Parts());
+  std::vector<Level_group> found(plan.Parts());
   for (std::size_t group = 0; group < found.size(); ++group) {
     if (places[group] == places[group + 1]) continue;
-    found[group] = {least_k + places[group + 1] - 1, least_k + places[group], 0};
+    found[group] = {first_k + places[group + 1] - 1, first_k + places[group], works[places[group]]};
     for (std::uint64_t place = places[group]; place < places[group + 1]; ++place)
       found[group].estimate += works[place];
   }

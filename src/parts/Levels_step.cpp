@@ -1,5 +1,8 @@
+#include <utility>
+
+#include "control/Run_control.h"
 #include "engine/Find_level.h"
-#include "engine/Levels.h"
+#include "engine/Level_finder.h"
 #include "engine/Work_of_levels.h"
 #include "files/Results_writer.h"
 #include "parts/Open_plan.h"
@@ -25,15 +28,21 @@ Done_work Make(const Open_plan& plan, const All_cliques& all, const Level_group&
   Done_work done;
   Results_aside aside(plan.Output_dir());
   const Results_writer results(plan.Place_in(aside.Directory()));
-  Levels levels(Input_of(plan, all));
   Work_of_levels work(all.of_size, from, to);
   const Level_output output = {results, plan.Graph().Graph().names};
-  for (std::uint32_t k = from;; --k) {
+  const auto find_and_write = [&](std::uint32_t k, Levels& levels) {
     external_control::Check_for_stop_signal();
-    done.levels.push_back({k, Find_level(k, levels, &output).statistics});
-    if (k == to) break;
-    work.End_level(k);
-  }
+    Level kept;  // what else was found is written, and takes memory
+    kept.k = k;
+    kept.statistics = Find_level(k, levels, &output).statistics;
+    return kept;
+  };
+  const auto keep = [&](Level& level) {
+    done.levels.push_back({level.k, std::move(level.statistics)});
+    if (from > to) work.End_level(level.k);
+  };
+  const unsigned workers = external_control::This_control().workers;
+  Level_finder(Input_of(plan, all), {from, to}, workers).Find({from, to}, {find_and_write, keep});
   done.files = aside.Put_in_place();
   return done;
 }

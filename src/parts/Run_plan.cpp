@@ -8,36 +8,37 @@ namespace gns::parts {
 namespace {
 
 /// Where groups begin if each takes what it can without exceeding `most`, and the end.
-std::vector<std::uint64_t> Filled_groups(const std::vector<std::uint64_t>& values,
+std::vector<std::uint64_t> Filled_groups(const std::vector<std::uint64_t>& works,
                                          std::uint64_t most) {
   std::vector<std::uint64_t> starts = {0};
-  std::uint64_t sum = 0;
-  for (std::uint64_t place = 0; place < values.size(); ++place) {
-    if (sum > 0 && values[place] > most - sum) {
+  std::uint64_t sum = works.empty() ? 0 : works.front();
+  for (std::uint64_t place = 0; place < works.size(); ++place) {
+    if (sum + works[place] > most) {
       starts.push_back(place);
-      sum = 0;
+      sum = works[place];
     }
-    sum += values[place];
+    sum += works[place];
   }
-  starts.push_back(values.size());
+  starts.push_back(works.size());
   return starts;
 }
 
 }  // namespace
 
-std::vector<std::uint64_t> Even_groups(const std::vector<std::uint64_t>& values,
+std::vector<std::uint64_t> Even_groups(const std::vector<std::uint64_t>& works,
                                        std::uint64_t groups) {
-  std::uint64_t least = values.empty() ? 0 : *std::ranges::max_element(values);
-  std::uint64_t enough = std::accumulate(values.begin(), values.end(), std::uint64_t{0});
+  const std::uint64_t dearest = works.empty() ? 0 : *std::ranges::max_element(works);
+  std::uint64_t least = 2 * dearest;
+  std::uint64_t enough = std::accumulate(works.begin(), works.end(), dearest);
   while (least < enough) {
     const std::uint64_t middle = least + (enough - least) / 2;
-    if (Filled_groups(values, middle).size() - 1 <= groups)
+    if (Filled_groups(works, middle).size() - 1 <= groups)
       enough = middle;
     else
       least = middle + 1;
   }
-  std::vector<std::uint64_t> starts = Filled_groups(values, least);
-  starts.resize(groups + 1, values.size());
+  std::vector<std::uint64_t> starts = Filled_groups(works, least);
+  starts.resize(groups + 1, works.size());
   return starts;
 }
 
