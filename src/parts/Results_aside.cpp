@@ -44,15 +44,21 @@ std::string New_directory(const std::string& output_dir) {
   }
 }
 
+std::string Inside(std::string directory, const std::string& name) {
+  return directory.append("/").append(name);
+}
+
 void Append_files(const std::string& root, const std::string& inside,
                   std::vector<Results_file>& files) {
-  for (const std::string& entry : Names_in(root + "/" + inside)) {
-    const std::string name = inside + entry;
+  for (const std::string& entry : Names_in(Inside(root, inside))) {
+    std::string name = inside;
+    name.append(entry);
+    const std::string path = Inside(root, name);
     struct stat status {};
-    if (File_system::At_hand().Status((root + "/" + name).c_str(), status, 0) != 0)
-      Refuse(root + "/" + name, "look at it", errno);
+    if (File_system::At_hand().Status(path.c_str(), status, 0) != 0)
+      Refuse(path, "look at it", errno);
     if (S_ISDIR(status.st_mode))
-      Append_files(root, name + "/", files);
+      Append_files(root, name.append("/"), files);
     else
       files.push_back({name, static_cast<std::uint64_t>(status.st_size)});
   }
@@ -127,7 +133,7 @@ std::vector<Results_file> Files_in(const std::string& directory) {
 void Delete_what_is_aside(const std::string& output_dir) {
   for (const std::string& name : Names_in(output_dir)) {
     const auto maker = Maker_of(name);
-    if (maker && maker->name == part_name) Delete_dir(output_dir + "/" + name);
+    if (maker && maker->name == part_name) Delete_dir(Inside(output_dir, name));
   }
 }
 
