@@ -13,7 +13,7 @@ endfunction()
 
 symbols(strong ${ENGINE} TDBR)
 symbols(weak ${HELPERS} WVu)
-if(NOT weak MATCHES "Thrown_message")
+if(NOT weak MATCHES "Linked_groups")
   message(FATAL_ERROR "the helpers are not there")
 endif()
 foreach(name IN LISTS weak)
