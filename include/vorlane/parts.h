@@ -23,6 +23,10 @@ namespace vorlane {
 /// where something is missing, changed or of another run, and where files can't be written, and of
 /// kind `stopped` if the control says so. Any number may go on in as many threads.
 
+/// A worker may see a copy of the folder, and nothing of the results directory: a directory of its
+/// own, `elsewhere`, takes its place then. What is written in there and into the copy is for
+/// somebody to carry to the others, levels.I.done last.
+
 /// Reads the input and writes the plan. `out` becomes a results directory that is marked as
 /// unfinished. Options as of an Analysis, but for a time limit, which throws an Error of kind
 /// `parameters`. Memory: some 50 bytes a link.
@@ -32,14 +36,16 @@ VORLANE_API void Plan_parts(const std::string& input, const Link_options& how,
 
 /// Finds the cliques of a part; yields how many.
 VORLANE_API std::uint64_t Search_part(const std::string& work, std::uint64_t part,
-                                      const Control& control = {});
+                                      const Control& control = {},
+                                      const std::string& elsewhere = "");
 
 /// Numbers all cliques and writes them; yields how many.
 VORLANE_API std::uint64_t Gather_parts(const std::string& work, const Control& control = {});
 
 /// Finds and writes the levels of a part; yields how many. There may be fewer levels than parts.
 VORLANE_API std::uint64_t Find_levels_of_part(const std::string& work, std::uint64_t part,
-                                              const Control& control = {});
+                                              const Control& control = {},
+                                              const std::string& elsewhere = "");
 
 /// Sees that all is there, takes the mark of the results away, and yields their directory, for
 /// Results::Open(). If something is missing, the Error tells what, and how it is made.

@@ -65,8 +65,9 @@ void Plan_parts(const std::string& input, const Link_options& how, const Options
   Step(control, [&] { gns::parts::Plan(parameters, wishes, work, parts); });
 }
 
-std::uint64_t Search_part(const std::string& work, std::uint64_t part, const Control& control) {
-  return Step(control, [&] { return gns::parts::Search(work, part); });
+std::uint64_t Search_part(const std::string& work, std::uint64_t part, const Control& control,
+                          const std::string& elsewhere) {
+  return Step(control, [&] { return gns::parts::Search(work, part, elsewhere); });
 }
 
 std::uint64_t Gather_parts(const std::string& work, const Control& control) {
@@ -74,8 +75,8 @@ std::uint64_t Gather_parts(const std::string& work, const Control& control) {
 }
 
 std::uint64_t Find_levels_of_part(const std::string& work, std::uint64_t part,
-                                  const Control& control) {
-  return Step(control, [&] { return gns::parts::Find_levels(work, part); });
+                                  const Control& control, const std::string& elsewhere) {
+  return Step(control, [&] { return gns::parts::Find_levels(work, part, elsewhere); });
 }
 
 std::string Finish_parts(const std::string& work, const Control& control) {

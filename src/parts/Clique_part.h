@@ -25,6 +25,9 @@ struct Level_group {
   std::uint64_t from = 0;  ///< the largest k
   std::uint64_t to = 1;    ///< the smallest; above `from` if the group is empty
   std::uint64_t estimate = 0;
+
+  /// There may be fewer levels than parts; nothing has to be done then.
+  [[nodiscard]] bool Is_empty() const { return from < to; }
 };
 
 /// The cliques of all parts, numbered, and who finds which levels.

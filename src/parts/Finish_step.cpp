@@ -22,6 +22,7 @@ void Try_search(const Open_plan& plan, Missing_parts& missing) {
 /// The levels of a part, if they are those of its group.
 std::vector<K_summary> Levels_of(const Open_plan& plan, const Level_group& group,
                                  std::uint64_t part) {
+  if (group.Is_empty()) return {};
   std::vector<K_summary> levels =
       Read_done_mark(plan.Folder(), plan.Key(Step::levels, part), plan.Output_dir()).levels;
   std::uint64_t k = group.from;

@@ -49,8 +49,9 @@ Done_work Make(const Open_plan& plan, const All_cliques& all, const Level_group&
 
 }  // namespace
 
-std::uint64_t Find_levels(const std::string& work, std::uint64_t part) {
-  const Open_plan plan(work);
+std::uint64_t Find_levels(const std::string& work, std::uint64_t part,
+                          const std::string& elsewhere) {
+  const Open_plan plan(work, Part_check::all, elsewhere);
   plan.Refuse_no_part(part);
   const Done_key key = plan.Key(Step::levels, part);
   if (const auto before = Done_work_of(plan.Folder(), key, plan.Output_dir()))
@@ -59,7 +60,7 @@ std::uint64_t Find_levels(const std::string& work, std::uint64_t part) {
   const Open_cliques cliques(plan);
   File_aside mark(plan.Folder().Done(Step::levels, part));
   const Level_group& group = cliques.All().groups[part - 1];
-  const Done_work done = group.from < group.to ? Done_work() : Make(plan, cliques.All(), group);
+  const Done_work done = group.Is_empty() ? Done_work() : Make(plan, cliques.All(), group);
   Write_done_mark(mark, key, done);
   return done.levels.size();
 }

@@ -1,6 +1,7 @@
 #include "parts/Open_plan.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "files/Unfinished_mark.h"
 #include "foundation/Errors.h"
@@ -9,13 +10,14 @@
 
 namespace gns::parts {
 
-Open_plan::Open_plan(const std::string& work, Part_check check)
+Open_plan::Open_plan(const std::string& work, Part_check check, std::string elsewhere)
     : folder_(work),
+      elsewhere_(std::move(elsewhere)),
       file_(Mapped_part(folder_.Label(folder_.Graph(), Step::plan))),
       graph_(file_.Bytes(), folder_.Label(folder_.Graph(), Step::plan), check) {
   Refuse_changed(folder_.Label(folder_.Plan(), Step::plan), Plan_text(graph_));
   Refuse_changed(folder_.Label(folder_.Run(), Step::plan), Run_text(graph_));
-  Read_done_mark(folder_, Key(Step::plan), Output_dir());
+  Refuse_undone(Step::plan);
 }
 
 Results_place Open_plan::Place_in(const std::string& directory) const {
@@ -29,8 +31,12 @@ void Open_plan::Refuse_no_part(std::uint64_t part) const {
                      folder_.Path() + "' has parts 1 to " + std::to_string(Plan().Parts()) + ".\n");
 }
 
+void Open_plan::Refuse_undone(Step step) const {
+  if (elsewhere_.empty()) Read_done_mark(folder_, Key(step), Output_dir());
+}
+
 void Open_plan::Refuse_finished() const {
-  if (!Is_marked_unfinished(Output_dir()))
+  if (elsewhere_.empty() && !Is_marked_unfinished(Output_dir()))
     throw Xerror_msg("ERROR: the results in '" + Output_dir() +
                      "' are finished, or another run's: no part of '" + folder_.Path() +
                      "' goes there any more.\n");
@@ -48,7 +54,7 @@ Open_cliques::Open_cliques(const Open_plan& plan, Part_check check)
                           plan.Folder().Label(plan.Folder().Cliques(), Step::gather), check)) {
   Refuse_changed(plan.Folder().Label(plan.Folder().Levels(), Step::gather),
                  Levels_text(plan.Graph(), all_));
-  Read_done_mark(plan.Folder(), plan.Key(Step::gather), plan.Output_dir());
+  plan.Refuse_undone(Step::gather);
 }
 
 void Refuse_changed(const Part_label& label, const std::string& text) {

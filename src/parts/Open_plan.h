@@ -15,13 +15,17 @@ namespace gns::parts {
 /// The plan of a run as a worker finds it in the folder of its parts.
 class Open_plan {
  public:
-  /// Throws Xbad_part if something of the plan is missing, damaged or changed.
-  explicit Open_plan(const std::string& work, Part_check check = Part_check::all);
+  /// Throws Xbad_part if something of the plan is missing, damaged or changed. A directory
+  /// `elsewhere` takes the place of that of the results, which then is not looked for.
+  explicit Open_plan(const std::string& work, Part_check check = Part_check::all,
+                     std::string elsewhere = "");
 
   [[nodiscard]] const Work_folder& Folder() const { return folder_; }
   [[nodiscard]] const Graph_part& Graph() const { return graph_; }
   [[nodiscard]] const Run_plan& Plan() const { return graph_.Plan(); }
-  [[nodiscard]] const std::string& Output_dir() const { return Plan().parameters.output_dir; }
+  [[nodiscard]] const std::string& Output_dir() const {
+    return elsewhere_.empty() ? Plan().parameters.output_dir : elsewhere_;
+  }
   [[nodiscard]] Done_key Key(Step step, std::uint64_t part = 0) const {
     return {step, part, graph_.Fingerprint()};
   }
@@ -36,9 +40,13 @@ class Open_plan {
   void Refuse_no_part(std::uint64_t part) const;
   /// Throws Xerror_msg if the results directory isn't marked as unfinished.
   void Refuse_finished() const;
+  /// Throws Xbad_part if what a step tells is missing, or what it has written in the results
+  /// directory.
+  void Refuse_undone(Step step) const;
 
  private:
   Work_folder folder_;
+  std::string elsewhere_;
   Mapped_file file_;
   Graph_part graph_;
 };

@@ -7,11 +7,16 @@
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
 #include "engine/Run_wishes.h"
+#include "parts/Work_folder.h"
 
 namespace gns::parts {
 
 /// A run in parts, which any number of processes on any machines do, with the results directory of
 /// a single run, to the byte. They meet in a folder that all of them see.
+///
+/// A worker may see a copy of the folder, and nothing of the results directory: a directory of its
+/// own, `elsewhere`, takes its place in the search and for the levels. What is written in there and
+/// into the folder is for somebody to carry to the others, the mark of what is done last.
 ///
 /// Each step reports and polls by the control of its thread, and throws Xerror_msg, with the cure,
 /// for what is missing or wrong, and for what can't be written. Each may be done again, or by
@@ -28,14 +33,16 @@ void Plan(const Run_parameters& parameters, const Run_wishes& wishes, const std:
           std::uint64_t parts);
 
 /// Finds the cliques of a part, counted from 1. Yields how many.
-std::uint64_t Search(const std::string& work, std::uint64_t part);
+std::uint64_t Search(const std::string& work, std::uint64_t part,
+                     const std::string& elsewhere = "");
 
 /// Numbers the cliques of all parts and writes those files of the results that need no levels.
 /// Yields how many.
 std::uint64_t Gather(const std::string& work);
 
 /// Finds and writes the levels of a part, counted from 1. Yields how many.
-std::uint64_t Find_levels(const std::string& work, std::uint64_t part);
+std::uint64_t Find_levels(const std::string& work, std::uint64_t part,
+                          const std::string& elsewhere = "");
 
 /// What has been found once all is there.
 struct Finished_run {
@@ -60,5 +67,8 @@ struct Status {
 /// How far a run is. It looks at what parts say about themselves, not at all that is in them; of
 /// what is running it knows what was begun and not ended, unless the process is seen to be gone.
 Status Status_of(const std::string& work);
+
+/// The numbers of the parts of a step that are not done; of a step without parts, 1 if it isn't.
+std::vector<std::uint64_t> Left_of(const Status& status, Step step);
 
 }  // namespace gns::parts

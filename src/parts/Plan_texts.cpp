@@ -76,7 +76,7 @@ std::string Levels_text(const Graph_part& graph, const All_cliques& all) {
   std::string text = Head_text(graph, "largest_k", "smallest_k");
   std::uint64_t part = 0;
   for (const Level_group& group : all.groups) {
-    const bool empty = group.from < group.to;
+    const bool empty = group.Is_empty();
     text += Line("levels", ++part, empty ? "-" : std::to_string(group.from),
                  empty ? "-" : std::to_string(group.to), group.estimate, empty ? 0 : memory);
   }

@@ -19,8 +19,8 @@ std::optional<std::uint64_t> Found_before(const Open_plan& plan, std::uint64_t p
 
 }  // namespace
 
-std::uint64_t Search(const std::string& work, std::uint64_t part) {
-  const Open_plan plan(work);
+std::uint64_t Search(const std::string& work, std::uint64_t part, const std::string& elsewhere) {
+  const Open_plan plan(work, Part_check::all, elsewhere);
   plan.Refuse_no_part(part);
   if (const auto before = Found_before(plan, part)) return *before;
   File_aside file(plan.Folder().Cliques_of(part));

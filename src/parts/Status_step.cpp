@@ -1,3 +1,4 @@
+#include <optional>
 #include <set>
 
 #include "files/Unfinished_mark.h"
@@ -39,8 +40,9 @@ Status Status_of(const std::string& work) {
   const std::set<std::string> begun = Begun_in(folder);
   Status status;
   status.output_dir = plan.Output_dir();
-  status.gather = State_of(begun, folder.Done(Step::gather),
-                           [&] { const Open_cliques cliques(plan, Part_check::ends); });
+  std::optional<Open_cliques> cliques;
+  status.gather =
+      State_of(begun, folder.Done(Step::gather), [&] { cliques.emplace(plan, Part_check::ends); });
   bool all_levels = true;
   for (std::uint64_t part = 1; part <= plan.Plan().Parts(); ++part) {
     // Their cliques are not needed any more once they are gathered.
@@ -50,6 +52,7 @@ Status Status_of(const std::string& work) {
                                     const Open_clique_part found(plan, part, Part_check::ends);
                                   }));
     status.levels.push_back(State_of(begun, folder.Done(Step::levels, part), [&] {
+      if (cliques && cliques->All().groups[part - 1].Is_empty()) return;
       Read_done_mark(folder, plan.Key(Step::levels, part), plan.Output_dir());
     }));
     all_levels = all_levels && status.levels.back() == Part_state::done;
@@ -57,6 +60,28 @@ Status Status_of(const std::string& work) {
   status.finished =
       status.gather == Part_state::done && all_levels && !Is_marked_unfinished(plan.Output_dir());
   return status;
+}
+
+std::vector<std::uint64_t> Left_of(const Status& status, Step step) {
+  const auto numbers = [](const std::vector<Part_state>& parts) {
+    std::vector<std::uint64_t> left;
+    for (std::size_t i = 0; i < parts.size(); ++i)
+      if (parts[i] != Part_state::done) left.push_back(i + 1);
+    return left;
+  };
+  switch (step) {
+    case Step::search:
+      return numbers(status.search);
+    case Step::gather:
+      return numbers({status.gather});
+    case Step::levels:
+      return numbers(status.levels);
+    case Step::finish:
+      return numbers({status.finished ? Part_state::done : Part_state::missing});
+    case Step::plan:
+      break;
+  }
+  return {};
 }
 
 }  // namespace gns::parts

@@ -184,11 +184,21 @@ void Finish(const Parts_line& line, std::ostream& out) {
   Tell(Why_no_communities(run.summary, run.parameters));
 }
 
+/// Throws Xerror_msg for the name of none that `status` can tell of.
+Step Step_called(const std::string& name) {
+  for (const Step step : {Step::search, Step::gather, Step::levels, Step::finish})
+    if (parts::Name_of(step) == name) return step;
+  throw Xerror_msg("--left takes search, gather, levels or finish, not " + Quoted(name) + ".\n");
+}
+
 void Tell_status(const Parts_line& line, std::ostream& out) {
   const parts::Status status =
       With_errors(vorlane::Error_kind::other, [&] { return parts::Status_of(line.work); });
   const parts::Work_folder folder(line.work);
-  out << (line.words.Has("--json") ? In_json(status, folder) + "\n" : In_words(status, folder));
+  if (line.words.Has("--left"))
+    out << Left_in_words(status, Step_called(line.words.Value("--left")));
+  else
+    out << (line.words.Has("--json") ? In_json(status, folder) + "\n" : In_words(status, folder));
 }
 
 }  // namespace

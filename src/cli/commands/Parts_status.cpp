@@ -17,17 +17,23 @@ std::string Name_of(Part_state state) {
   return state == Part_state::running ? "running" : "missing";
 }
 
-/// "2, 5-7": the parts of a state.
-std::string Ranges_of(const std::vector<Part_state>& states, Part_state state) {
+/// "2, 5-7", or whatever is to stand between them.
+std::string Ranges_of(const std::vector<std::uint64_t>& numbers, const char* between) {
   std::string text;
-  for (std::size_t i = 0; i < states.size(); ++i) {
-    if (states[i] != state) continue;
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
     const std::size_t first = i;
-    while (i + 1 < states.size() && states[i + 1] == state) ++i;
-    text.append(text.empty() ? "" : ", ").append(std::to_string(first + 1));
-    if (i > first) text.append("-").append(std::to_string(i + 1));
+    while (i + 1 < numbers.size() && numbers[i + 1] == numbers[i] + 1) ++i;
+    text.append(text.empty() ? "" : between).append(std::to_string(numbers[first]));
+    if (i > first) text.append("-").append(std::to_string(numbers[i]));
   }
   return text;
+}
+
+std::vector<std::uint64_t> Parts_in(const std::vector<Part_state>& states, Part_state state) {
+  std::vector<std::uint64_t> parts;
+  for (std::size_t i = 0; i < states.size(); ++i)
+    if (states[i] == state) parts.push_back(i + 1);
+  return parts;
 }
 
 std::string Line_of(Step step, const std::vector<Part_state>& states) {
@@ -35,7 +41,7 @@ std::string Line_of(Step step, const std::vector<Part_state>& states) {
                      std::to_string(std::ranges::count(states, Part_state::done)) + " of " +
                      std::to_string(states.size()) + " done";
   for (const Part_state state : {Part_state::running, Part_state::missing})
-    if (const std::string ranges = Ranges_of(states, state); !ranges.empty())
+    if (const std::string ranges = Ranges_of(Parts_in(states, state), ", "); !ranges.empty())
       line.append("; ").append(Name_of(state)).append(" ").append(ranges);
   return line + "\n";
 }
@@ -82,6 +88,10 @@ std::string In_words(const parts::Status& status, const parts::Work_folder& fold
   if (commands.size() > most_commands)
     text += "and " + std::to_string(commands.size() - most_commands) + " more like these\n";
   return text;
+}
+
+std::string Left_in_words(const parts::Status& status, Step step) {
+  return Ranges_of(Left_of(status, step), ",") + "\n";
 }
 
 std::string In_json(const parts::Status& status, const parts::Work_folder& folder) {

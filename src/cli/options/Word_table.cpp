@@ -193,6 +193,19 @@ constexpr std::array parts_options{
         .without = "",
         .description = "Of `status` and `finish`: prints one object of JSON, on one line.",
     },
+    Option{
+        .word = "--left",
+        .argument = "STEP",
+        .kind = Option::Argument::words,
+        .group = Option::Group::display,
+        .summary = "of status: the numbers of the parts of a step that are still to be done",
+        .without = "",
+        .description = "Of `status`: prints the numbers of the parts of STEP that are still to be "
+                       "done, such as `2,5-7`, and nothing else; of `gather` and `finish`, `1` if "
+                       "they are.",
+        .choices = {"search", "gather", "levels", "finish"},
+        .needs_argument = true,
+    },
 };
 
 constexpr std::array words{
