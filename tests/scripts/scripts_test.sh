@@ -50,16 +50,20 @@ bare() {
 run="cmake g++ ninja-build"
 java="cmake default-jdk-headless g++ ninja-build"
 python="cmake g++ ninja-build python3 python3-venv"
+spark="cmake default-jdk-headless g++ maven ninja-build"
+clusters="cmake default-jdk-headless g++ maven ninja-build python3 python3-venv"
 ci="ccache chromium clang clang-format clang-tidy cmake default-jdk-headless fish g++ libclang-rt-dev llvm mandoc maven ninja-build nodejs npm python3 python3-venv shellcheck zsh"
 while IFS='|' read -r task packages; do
   bare scripts/setup "$task" >/dev/null
   expect "setup $task" "apt-get update apt-get install -y --no-install-recommends $packages" \
-    "$(sed 's/ junit4\| r-cran-igraph\| libgtest-dev\| strace\| lib\(expat1\|zstd\)-dev\| zlib1g-dev//g' "$log" | paste -sd ' ')"
+    "$(sed 's/ junit4\| munge\| slurm-wlm\| r-cran-igraph\| libgtest-dev\| strace\| lib\(expat1\|zstd\)-dev\| zlib1g-dev//g' "$log" | paste -sd ' ')"
 done <<END
 --run|$run
 --java|$java
 --python|$python
+--spark|$spark
 --test|$java
+--clusters|$clusters
 --ci|$ci
 END
 

@@ -18,9 +18,11 @@
 #include "formats/Network_file.h"
 #include "formats/Unpacked_input.h"
 #include "foundation/Errors.h"
+#include "foundation/paths/Total_path.h"
 #include "foundation/text/My_string_to_d.h"
 #include "foundation/text/Shown_text.h"
 #include "parts/Parts.h"
+#include "parts/Slurm_scripts.h"
 #include "parts/Work_folder.h"
 
 namespace gns {
@@ -142,8 +144,13 @@ void Plan(const Parts_line& line, std::ostream& out) {
     With_errors(vorlane::Error_kind::other,
                 [&] { parts::Plan(run.parameters, wishes, line.work, count); });
   }
-  out << "planned in " << line.work << ": " << count << (count == 1 ? " part\n" : " parts\n")
-      << Next_commands(line, Step::search, count);
+  out << "planned in " << line.work << ": " << count << (count == 1 ? " part\n" : " parts\n");
+  if (line.words.Has("--slurm"))
+    out << "next: sh "
+        << Shell_word(parts::Write_slurm_scripts(line.work, Resolved_path("/proc/self/exe")))
+        << "\n";
+  else
+    out << Next_commands(line, Step::search, count);
 }
 
 /// Does a step with its progress shown, and yields what it counted.

@@ -176,6 +176,15 @@ constexpr std::array parts_options{
         .needs_argument = true,
     },
     Option{
+        .word = "--slurm",
+        .argument = "",
+        .group = Option::Group::display,
+        .summary = "of plan: makes batch scripts for Slurm",
+        .without = "",
+        .description = "Of `plan`: puts batch scripts for Slurm into the folder; `submit.sh` among "
+                       "them submits them.",
+    },
+    Option{
         .word = "--part",
         .argument = "I",
         .kind = Option::Argument::number,
