@@ -305,6 +305,26 @@ VORLANE_C_API vorlane_code vorlane_results_figure(const vorlane_results* results
                                                   vorlane_figure which, uint32_t k,
                                                   vorlane_control* control, const char** svg);
 
+/* ---- Parts ---- */
+
+/* A run from a file to a results directory in parts that any number of processes do; all see the
+   folder `work`. First the plan; then the search of each part, counted from 1, in any order and at
+   the same time; then gather; then the levels of each part, in the same way; then finish. A step
+   that is done is not done again. Counts may be NULL. */
+
+/* Of `options`, cliques, directory and source aren't looked at, and a time limit is refused. */
+VORLANE_C_API vorlane_code vorlane_parts_plan(const char* input, const vorlane_link_options* how,
+                                              const vorlane_options* options, const char* out,
+                                              const char* work, uint64_t parts,
+                                              vorlane_control* control);
+VORLANE_C_API vorlane_code vorlane_parts_search(const char* work, uint64_t part,
+                                                vorlane_control* control, uint64_t* cliques);
+VORLANE_C_API vorlane_code vorlane_parts_gather(const char* work, vorlane_control* control,
+                                                uint64_t* cliques);
+VORLANE_C_API vorlane_code vorlane_parts_levels(const char* work, uint64_t part,
+                                                vorlane_control* control, uint64_t* levels);
+VORLANE_C_API vorlane_code vorlane_parts_finish(const char* work, vorlane_control* control);
+
 /* ---- Comparing ---- */
 
 typedef struct vorlane_comparison vorlane_comparison;

@@ -6,34 +6,12 @@
 
 #include "bindings/c/src/Failures.h"
 #include "bindings/c/src/Handles.h"
+#include "bindings/c/src/Options.h"
 #include "face/Network_body.h"
 
 namespace vorlane::c {
 
 namespace {
-
-/// The columns between the commas.
-std::vector<std::string> Columns_in(std::string_view list) {
-  std::vector<std::string> columns;
-  while (true) {
-    const std::size_t comma = list.find(',');
-    columns.emplace_back(list.substr(0, comma));
-    if (comma == std::string_view::npos) return columns;
-    list.remove_prefix(comma + 1);
-  }
-}
-
-Link_options Options_of(const vorlane_link_options* given) {
-  Link_options options;
-  if (given == nullptr) return options;
-  options.directed = given->directed != 0;
-  options.weighted = given->weighted != 0;
-  options.min_weight = Given_number(given->min_weight);
-  options.max_weight = Given_number(given->max_weight);
-  if (given->format) options.format = given->format;
-  if (given->columns) options.columns = Columns_in(given->columns);
-  return options;
-}
 
 /// What numbered nodes are called, as views of one block of text.
 class Node_texts {

@@ -4,24 +4,13 @@
 
 #include "bindings/c/src/Failures.h"
 #include "bindings/c/src/Handles.h"
+#include "bindings/c/src/Options.h"
 #include "bindings/c/src/Results_handle.h"
 #include "export/Export_files.h"
 
 namespace vorlane::c {
 
 namespace {
-
-Options Options_of(const vorlane_options* given) {
-  Options options;
-  if (given == nullptr) return options;
-  options.intensity = Given_number(given->intensity);
-  options.time_limit = Given_number(given->time_limit);
-  if (given->k != 0) options.k = given->k;
-  if (given->jobs < -1) throw Error(Error_kind::parameters, "jobs must be -1 or more.");
-  if (given->jobs != 0)
-    options.workers = given->jobs == -1 ? 0 : static_cast<unsigned>(given->jobs);
-  return options;
-}
 
 const char* Source_or_memory(const char* source) { return source ? source : "memory"; }
 

@@ -30,6 +30,7 @@ SCALARS = {
     "size_t": ctypes.c_size_t,
     "uint32_t": ctypes.c_uint32,
     "uint64_t": ctypes.c_uint64,
+    "int32_t": ctypes.c_int32,
     "int64_t": ctypes.c_int64,
     **{enum: ctypes.c_int for enum in ENUMS},
 }

@@ -45,6 +45,8 @@ class Control:
 
     def __init__(self) -> None:
         self._owner = Owner.made_by("vorlane_control_new", give_back="vorlane_control_free")
+        #: Whether somebody has asked for an end.
+        self.stop_asked = False
         _controls.add(self)
 
     @property
@@ -53,10 +55,12 @@ class Control:
 
     def stop(self) -> None:
         """Ends the run within some hundredths of a second; holds until :meth:`reset`."""
+        self.stop_asked = True
         library.vorlane_control_stop(self.pointer)
 
     def reset(self) -> None:
         """Lets the next run go on."""
+        self.stop_asked = False
         library.vorlane_control_reset(self.pointer)
 
     def progress(self) -> Progress:

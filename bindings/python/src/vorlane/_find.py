@@ -7,6 +7,7 @@ import warnings
 from typing import Any, Sequence
 
 from ._control import Control, run
+from ._executor import Executor, Workshop, find_by_executor
 from ._inputs import Path, Wishes, links_of
 from ._links import Links
 from ._network import Network, link_options
@@ -36,6 +37,9 @@ def find(
     progress: ProgressOption = "auto",
     memory_limit: int | None = None,
     jobs: int = 1,
+    executor: Executor | None = None,
+    parts: int = 32,
+    work: str | os.PathLike[str] | None = None,
     control: Control | None = None,
 ) -> Results:
     """Finds the overlapping communities of a network by clique percolation, exactly.
@@ -79,6 +83,9 @@ def find(
         memory_limit: bytes that the process may hold; over it the run ends.
         jobs: cores to work with; 0: those at hand (of the machine, the job of a scheduler, the control
             group). Results are the same. Each takes about as much memory again as the first one.
+        executor: does the run in ``parts`` elsewhere: an executor of concurrent.futures (with
+            processes) or a client of Dask. All see the folder ``work``; without it a temporary one
+            of this machine is made. Not with ``time_limit`` and ``memory_limit``.
         control: to stop and watch the run from another thread.
 
     Raises:
@@ -93,6 +100,10 @@ def find(
         raise ParameterError(f"k must be {_LEAST_K} or more, not {k!r}.")
     if not 0 <= jobs <= _MOST_JOBS:
         raise ParameterError(f"jobs must be 0 to {_MOST_JOBS}, not {jobs!r}.")
+    if executor is not None and memory_limit is not None:
+        raise ParameterError("memory_limit is for this process, the executor works in others.")
+    if parts < 1:
+        raise ParameterError(f"parts must be 1 or more, not {parts!r}.")
     asked = Asked(k, min_weight, max_weight, intensity, time_limit)
     for name, value in asked._asdict().items():
         if value != value:
@@ -101,14 +112,28 @@ def find(
     links = links_of(data, Wishes(source, target, weight, directed, weighted))
     control = control or Control()
 
-    def work() -> Results:
+    def find_here() -> Results:
         network = _network_of(links, asked, bool(directed), weighted, format, columns, control)
         origin = "memory" if isinstance(links, Links) else links
         network.source = os.fspath(origin)
         return find_in(network, asked, control, save=save, source=origin, jobs=jobs)
 
+    def find_elsewhere() -> Results:
+        assert executor is not None
+        return find_by_executor(
+            links,
+            asked,
+            directed=bool(directed),
+            weighted=weighted,
+            format=format,
+            columns=columns,
+            save=save,
+            shop=Workshop(executor, parts, None if work is None else os.fspath(work)),
+            control=control,
+        )
+
     with Watch(progress) as watch:
-        results = run(work, control, watch.call, memory_limit)
+        results = run(find_here if executor is None else find_elsewhere, control, watch.call, memory_limit)
     for text in results._network.warnings():
         warnings.warn(text, InputWarning, stacklevel=2)
     return results

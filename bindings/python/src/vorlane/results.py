@@ -101,6 +101,7 @@ class Results(Mapping[int, Level]):
         self._owner = owner
         self._asked = asked
         self._directory = directory
+        self._goes_with_directory = False
         # A level refers to its results: these must not refer back, or both would wait for the
         # collector of cycles with all their native memory.
         self._levels: weakref.WeakValueDictionary[int, Level] = weakref.WeakValueDictionary()
@@ -268,6 +269,11 @@ class Results(Mapping[int, Level]):
             control,
         )
 
+    def _keep(self, folder: str) -> None:
+        """Its files stand in a folder that goes when it goes."""
+        self._goes_with_directory = True
+        weakref.finalize(self, shutil.rmtree, folder, True)
+
     def _copy_to(self, directory: str) -> None:
         assert self._directory is not None
         if os.path.isdir(directory) and os.listdir(directory):
@@ -325,7 +331,7 @@ class Results(Mapping[int, Level]):
         return k or 0
 
     def __reduce__(self) -> tuple[Any, ...]:
-        if self._directory is not None:
+        if self._directory is not None and not self._goes_with_directory:
             return _load, (os.path.abspath(self._directory),)
         (starts, values), exact = self._clique_rows
         return _found_again, (
@@ -360,6 +366,10 @@ def _load(directory: str) -> Results:
     return Results(owner, None, Asked(), directory)
 
 
+def native_options(asked: Asked) -> _capi.Options:
+    return _capi.Options(optional(asked.intensity), optional(asked.time_limit), asked.k or 0)
+
+
 def find_in(
     network: Network,
     asked: Asked,
@@ -372,7 +382,7 @@ def find_in(
     jobs: int = 1,
 ) -> Results:
     """Finds in this thread, and as many as ``jobs`` asks for."""
-    options = _capi.Options(optional(asked.intensity), optional(asked.time_limit), asked.k or 0)
+    options = native_options(asked)
     options.jobs = jobs if jobs > 0 else -1
     if cliques is not None:
         known = native_rows(*cliques)
