@@ -44,7 +44,8 @@ std::string Case_of(const Word& word) {
   list("takes=' ", Takes_next_word, " '");
   const std::string count = word.of_kind == Word::any ? "COMP_CWORD" : std::to_string(word.of_kind);
   if (word.kind == Argument::directory) text += "      directories=" + count + "\n";
-  if (word.kind == Argument::words) text += "      words=" + count + "\n";
+  if (word.kind == Argument::words)
+    text += "      words=" + count + " offered=(" + Choices_of(word) + ")\n";
   return text + "      ;;\n";
 }
 
@@ -62,9 +63,9 @@ constexpr std::string_view bash_script = R"(_vorlane() {
   COMPREPLY=()
 
   # The word in place of options, or how many such words may stand here.
-  local word=run words=0
+  local word=run words=0 offered=()
   if ((COMP_CWORD == 1)); then
-    words=1
+    words=1 offered=(@words@)
   else
     case ${COMP_WORDS[1]} in
       @any word@) word=${COMP_WORDS[1]} ;;
@@ -91,7 +92,7 @@ constexpr std::string_view bash_script = R"(_vorlane() {
       ((i += 1))
     fi
   done
-  ((arguments < words)) && left+=(@words@)
+  ((arguments < words)) && left+=("${offered[@]}")
 
   # Behind an option that may get a "=" comes no blank.
   mapfile -t COMPREPLY < <(compgen -W "${left[*]}" -- "$current")

@@ -49,10 +49,25 @@ std::string Filled(std::string script,
   return script;
 }
 
-std::string Choices_of(const Option& option) {
+namespace {
+
+/// Without the places that are left in an array of choices.
+std::vector<std::string_view> Filled_places(std::span<const std::string_view> places) {
   std::vector<std::string_view> choices;
-  for (const std::string_view choice : option.choices)
+  for (const std::string_view choice : places)
     if (!choice.empty()) choices.push_back(choice);
+  return choices;
+}
+
+}  // namespace
+
+std::string Choices_of(const Word& word) {
+  const std::string choices = Joined(Filled_places(word.choices), " ");
+  return choices.empty() ? Names_of_words(" ") : choices;
+}
+
+std::string Choices_of(const Option& option) {
+  std::vector<std::string_view> choices = Filled_places(option.choices);
   if (choices.empty() && option.kind == Option::Argument::formats)
     for (const auto& format : vorlane::exporting::All_formats()) choices.push_back(format.name);
   return Joined(choices, " ");

@@ -43,7 +43,8 @@ std::string Names_of(std::span<const Option> options, std::string_view between,
 std::string Filled(std::string script,
                    std::initializer_list<std::pair<std::string_view, std::string>> parts);
 
-/// The arguments that an option offers, with blanks between them.
+/// The arguments that an option offers, or a word as its first one, with blanks between them.
 std::string Choices_of(const Option& option);
+std::string Choices_of(const Word& word);
 
 }  // namespace gns

@@ -60,7 +60,10 @@ std::string Offers_behind(const Word& word) {
     text += Offer("__vorlane_behind " + std::string(word.word),
                   term + Fish_argument(option) + Meaning(option.summary));
   }
-  if (word.kind == Argument::words) text += Offer_words(Arguments_are_due(word));
+  if (!word.choices.front().empty())
+    text += Offer(Arguments_are_due(word), "-a '" + Choices_of(word) + "'");
+  else if (word.kind == Argument::words)
+    text += Offer_words(Arguments_are_due(word));
   if (word.kind == Argument::directory)
     text += Offer(Arguments_are_due(word), std::string("-a ").append(directories));
   return text;

@@ -49,6 +49,7 @@ std::string Zsh_argument(const Option& option) {
 
 /// What zsh is told of the arguments of a word.
 std::vector<std::string> Places_of(const Word& word) {
+  if (!word.choices.front().empty()) return {"1:step:(" + Choices_of(word) + ")"};
   if (word.kind == Argument::words) return {Words_argument()};
   const std::string directory = ":directory:_files -/";
   if (word.of_kind == Word::any) return {"*" + directory};

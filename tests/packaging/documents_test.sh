@@ -97,6 +97,8 @@ check_completion() {
   expect "no word behind options" "" "$(places -D '')"
   expect "words to explain" "$(lines "${words[@]}")" "$(places help '')"
   expect "one is explained" "" "$(places help run '')"
+  expect "steps" "$(lines plan search gather levels finish status)" "$(places parts '')"
+  expect "one step" "" "$(places parts plan '')"
 
   expect "files" "$(lines links.txt "link dir" "link file")" "$(offered -i link)"
   expect "directories" "link dir" "$(offered -o '')"

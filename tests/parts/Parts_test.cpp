@@ -2,6 +2,7 @@
 
 #include "Parts_runs.h"
 #include "files/Unfinished_mark.h"
+#include "parts/Clique_part.h"
 
 namespace gns::parts {
 namespace {
@@ -55,6 +56,66 @@ TEST(Parts, TellWhatASingleRunTells) {
     EXPECT_EQ(std::tie(a.membership, a.size, a.overlap, a.degree),
               std::tie(b.membership, b.size, b.overlap, b.degree));
   }
+}
+
+/// Whatever is made again has the same bytes.
+TEST(Parts, AreTheSameEachTime) {
+  const Temp_dir temp;
+  Run_parameters parameters;
+  parameters.input_file = temp.Write("links", Drawn_links(20, false));
+  parameters.output_dir = temp.Path("out");
+  const std::string work = temp.Path("work");
+  Plan(parameters, {}, work, 3);
+  Run_planned(work, 3);
+  const Contents before = Contents_of(temp.Path());
+  std::filesystem::remove_all(work);
+  std::filesystem::remove_all(parameters.output_dir);
+  for (int i = 0; i < 2; ++i) Plan(parameters, {}, work, 3);
+  for (int i = 0; i < 2; ++i) {
+    for (const auto* const made : {"cliques.2.bin", "cliques.bin", "gather.done", "levels.1.done"})
+      std::filesystem::remove(work + "/" + made);
+    for (std::uint64_t part = 1; part <= 3; ++part) Search(work, part);
+    Gather(work);
+    for (std::uint64_t part = 1; part <= 3; ++part) Find_levels(work, part);
+  }
+  Finish(work);
+  EXPECT_TRUE(Contents_of(temp.Path()) == before);
+}
+
+/// Parts need no file: one block of memory makes the next.
+TEST(Parts, AreMadeOfBlocksOfMemory) {
+  const Temp_dir temp;
+  Run_parameters parameters;
+  parameters.input_file = temp.Write("links", Drawn_links(20, true));
+  parameters.directed = true;
+  parameters.output_dir = temp.Path("out");
+  const std::string work = temp.Path("work");
+  Plan(parameters, {}, work, 3);
+  Run_planned(work, 3);
+  const Contents files = Contents_of(work);
+  const auto bytes_of = [](const std::string& block) { return std::as_bytes(std::span(block)); };
+  const Graph_part graph(bytes_of(files.at("graph.bin")), {"graph", ""});
+  std::vector<std::string> blocks(3);
+  std::vector<Clique_vector> found(3);
+  std::vector<const Clique_vector*> all;
+  for (std::uint64_t part = 1; part <= 3; ++part) {
+    std::string& block = blocks[part - 1];
+    const auto take = [&](std::span<const std::byte> bytes) {
+      block.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    };
+    Write_clique_part(take, graph, part);
+    EXPECT_EQ(block, files.at("cliques." + std::to_string(part) + ".bin"));
+    found[part - 1] = Cliques_of_part(
+        bytes_of(block), {Part_kind::cliques, graph.Fingerprint(), part}, {"block", ""});
+    all.push_back(&found[part - 1]);
+  }
+  std::string gathered;
+  Write_all_cliques(
+      [&](std::span<const std::byte> bytes) {
+        gathered.append(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+      },
+      graph, all);
+  EXPECT_EQ(gathered, files.at("cliques.bin"));
 }
 
 /// The folder may be on another file system than the results.

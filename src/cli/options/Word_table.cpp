@@ -311,8 +311,8 @@ constexpr std::array words{
             "is. Each may be done again; docs/parts.md explains them.",
         .most_arguments = Word::any,
         .options = parts_options,
-        .kind = Option::Argument::none,
-        .of_kind = 0,
+        .kind = Option::Argument::words,
+        .choices = {"plan", "search", "gather", "levels", "finish", "status"},
         .takes_switches = true,
     },
     Word{

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <limits>
 #include <span>
 #include <string_view>
@@ -20,9 +21,11 @@ struct Word {
   std::size_t least_arguments = 1;
   std::size_t most_arguments = 1;
   std::span<const Option> options = {};  ///< each that has an argument needs it
-  /// What the first arguments are, and how many of them; `words` are those of this list.
+  /// What the first arguments are, and how many of them; `words` are those of this list, or the
+  /// choices.
   Option::Argument kind = Option::Argument::directory;
   std::size_t of_kind = 1;
+  std::array<std::string_view, 8> choices = {};
   bool takes_switches = false;  ///< options that it doesn't have are arguments, for a run's reader
 };
 
