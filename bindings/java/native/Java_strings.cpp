@@ -1,6 +1,7 @@
 #include "bindings/java/native/Java_strings.h"
 
 #include <exception>
+#include <utility>
 
 #include "bindings/java/native/Java_errors.h"
 
@@ -40,6 +41,12 @@ std::optional<std::string> String_to_C(JNIEnv* env, jstring java_string) {
     return std::nullopt;
   }
   return text;
+}
+
+std::string Needed_string(JNIEnv* env, jstring java_string) {
+  std::optional<std::string> text = String_to_C(env, java_string);
+  if (!text) throw Java_error_pending();
+  return std::move(*text);
 }
 
 Byte_strings::Byte_strings(JNIEnv* env)

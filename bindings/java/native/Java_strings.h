@@ -16,6 +16,9 @@ namespace gns {
 /// refused, for it can't be the path that the caller means.
 std::optional<std::string> String_to_C(JNIEnv* env, jstring java_string);
 
+/// The same, Java_error_pending in place of nothing.
+std::string Needed_string(JNIEnv* env, jstring java_string);
+
 /// Makes Java strings of bytes in the JVM's default character set; looks up once what it needs.
 class Byte_strings {
  public:

@@ -1,60 +1,25 @@
 #include "bindings/java/native/zumo_community_Analysis.h"
 
 #include <array>
-#include <cmath>
 #include <cstdint>
 #include <memory>
-#include <new>
 #include <optional>
 #include <string>
 #include <tuple>
 #include <utility>
 #include <vector>
 
-#include "bindings/java/native/Failure_kind.h"
+#include "bindings/java/native/Asked_options.h"
 #include "bindings/java/native/Int_array.h"
 #include "bindings/java/native/Java_class.h"
 #include "bindings/java/native/Java_strings.h"
-#include "bindings/java/native/Native_method.h"
 #include "bindings/java/native/Opened_analysis.h"
 #include "bindings/java/native/String_array.h"
+#include "bindings/java/native/Typed_method.h"
 
 namespace gns {
 
 namespace {
-
-/// More than a method has alive at any time.
-constexpr jint local_references = 48;
-
-/// Makes a VorlaneException pending.
-void Throw(JNIEnv* env, Failure_kind kind, const vorlane::Error& error) {
-  Modified_utf8 encoding;
-  const Java_class type(env, "zumo/community/VorlaneException");
-  const Local_ref<jstring> text(env, Needed(Utf_to_String(env, encoding, error.what())));
-  const Local_ref<jstring> source(env, Needed(Utf_to_String(env, encoding, error.Source())));
-  const Local_ref<jobject> failure =
-      type.New(type.Method("<init>", "(ILjava/lang/String;Ljava/lang/String;JJ)V"),
-               static_cast<jint>(kind), text.Get(), source.Get(), static_cast<jlong>(error.Line()),
-               static_cast<jlong>(error.Column()));
-  env->Throw(static_cast<jthrowable>(failure.Get()));
-}
-
-/// Calls the body of a native method and makes a VorlaneException of what it throws.
-template <typename Body>
-auto Typed_method(JNIEnv* env, Body body) noexcept -> decltype(body()) {
-  return Native_method(env, [&]() -> decltype(body()) {
-    if (env->EnsureLocalCapacity(local_references) != JNI_OK) throw Java_error_pending();
-    try {
-      return body();
-    } catch (const vorlane::Error& failure) {
-      Throw(env, Kind_of(failure.Kind()), failure);
-    } catch (const std::bad_alloc&) {
-      const vorlane::Error failure(vorlane::Error_kind::memory, "Memory ran out.");
-      Throw(env, Failure_kind::memory, failure);
-    }
-    throw Java_error_pending();
-  });
-}
 
 Opened_analysis& At(jlong handle) {
   // Java holds it as a number. NOLINTNEXTLINE(performance-no-int-to-ptr)
@@ -63,33 +28,6 @@ Opened_analysis& At(jlong handle) {
 
 jlong Handle_of(std::unique_ptr<Opened_analysis> analysis) {
   return reinterpret_cast<jlong>(analysis.release());
-}
-
-struct Asked {
-  vorlane::Link_options how;
-  vorlane::Options options;
-};
-
-std::optional<double> Number(double value) {
-  return std::isnan(value) ? std::nullopt : std::optional(value);
-}
-
-Asked Asked_by(JNIEnv* env, bool directed, bool weighted, bool links, jdoubleArray numbers) {
-  std::array<jdouble, 6> n{};
-  env->GetDoubleArrayRegion(numbers, 0, n.size(), n.data());
-  Check_for_java_error(env);
-  const auto [intensity, min_weight, max_weight, time_limit, k, jobs] = n;
-  Asked asked;
-  asked.how.directed = directed;
-  asked.how.weighted = weighted;
-  asked.how.min_weight = Number(min_weight);
-  asked.how.max_weight = Number(max_weight);
-  asked.options.intensity = Number(intensity);
-  asked.options.time_limit = Number(time_limit);
-  if (!std::isnan(k)) asked.options.k = k > 0 ? static_cast<std::uint32_t>(k) : 0;
-  asked.options.links = links;
-  asked.options.workers = static_cast<unsigned>(jobs);
-  return asked;
 }
 
 std::vector<vorlane::Node> Numbers_of(JNIEnv* env, jintArray array) {
@@ -144,12 +82,11 @@ jlong Java_zumo_community_Analysis_open(JNIEnv* env, jclass /*type*/, jstring li
                                         jboolean directed, jboolean weighted, jboolean links,
                                         jdoubleArray numbers) {
   return gns::Typed_method(env, [&] {
-    std::optional<std::string> path = gns::String_to_C(env, link_file);
-    if (!path) throw gns::Java_error_pending();
+    std::string path = gns::Needed_string(env, link_file);
     const gns::Asked asked = gns::Asked_by(env, directed != JNI_FALSE, weighted != JNI_FALSE,
                                            links != JNI_FALSE, numbers);
     return gns::Handle_of(
-        std::make_unique<gns::Opened_analysis>(std::move(*path), asked.how, asked.options));
+        std::make_unique<gns::Opened_analysis>(std::move(path), asked.how, asked.options));
   });
 }
 

@@ -8,7 +8,7 @@
 /// zumo/community/VorlaneException.
 extern "C" {
 
-/// `numbers`: intensity, lower and upper threshold, time limit, k; NaN for what is not asked for.
+/// `numbers` as Asked_by() takes them.
 JNIEXPORT jlong JNICALL Java_zumo_community_Analysis_open(JNIEnv* env, jclass type,
                                                           jstring link_file, jboolean directed,
                                                           jboolean weighted, jboolean links,

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <functional>
 #include <iostream>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -67,12 +66,6 @@ void Print_success(bool approximation_needed) {
   Print_line(std::cout, " process ended succesfully");
   Print_line(std::cout,
              approximation_needed ? " approximation was needed" : " no approximation was needed");
-}
-
-std::string Needed_string(JNIEnv* env, jstring java_string) {
-  std::optional<std::string> text = String_to_C(env, java_string);
-  if (!text) throw Java_error_pending();
-  return std::move(*text);
 }
 
 Run_parameters Parameters_of(JNIEnv* env, const Run_arguments& a) {
