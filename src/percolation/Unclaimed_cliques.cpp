@@ -17,7 +17,8 @@ Unclaimed_cliques<Rank>::Unclaimed_cliques(const Clique_ranks<Rank>& ranks,
       claimed_(ranks.size() / word_bits + 1, 0),
       met_(ranks.size(), 0),
       asked_for_(node_count, 0),
-      marked_(node_count, 0) {
+      marked_(node_count, 0),
+      to_sort_(ranks.size()) {
   candidates_.reserve(ranks.size());
 }
 
@@ -129,14 +130,34 @@ void Unclaimed_cliques<Rank>::Sign_tails(Row row) {
 template <typename Rank>
 void Unclaimed_cliques<Rank>::Append_checked(Row row, std::vector<Clique_index>& neighbours) {
   for (const Rank rank : row) marked_[rank] = 1;
-  const auto first = static_cast<std::ptrdiff_t>(neighbours.size());
+  const std::size_t first = neighbours.size();
   for (const Clique_index candidate : std::span(candidates_).first(candidate_count_)) {
     std::uint32_t shared = 0;
     for (const Rank rank : ranks_[candidate]) shared += marked_[rank];
     if (shared >= overlap_) neighbours.push_back(candidate);
   }
   for (const Rank rank : row) marked_[rank] = 0;
-  std::sort(neighbours.begin() + first, neighbours.end());
+  Sort(std::span(neighbours).subspan(first));
+}
+
+/// Many are put in order by their bits.
+template <typename Rank>
+void Unclaimed_cliques<Rank>::Sort(std::span<Clique_index> cliques) {
+  constexpr std::size_t many = 64;
+  if (cliques.size() < many) {
+    std::ranges::sort(cliques);
+    return;
+  }
+  Clique_index first = cliques[0];
+  Clique_index last = cliques[0];
+  for (const Clique_index clique : cliques) {
+    to_sort_.Add(clique);
+    first = std::min(first, clique);
+    last = std::max(last, clique);
+  }
+  std::size_t at = 0;
+  to_sort_.Take(first, last,
+                [&](std::size_t clique) { cliques[at++] = static_cast<Clique_index>(clique); });
 }
 
 template class Unclaimed_cliques<std::uint16_t>;

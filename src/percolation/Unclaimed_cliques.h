@@ -2,9 +2,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "percolation/Clique_ranks.h"
+#include "percolation/Index_bits.h"
 #include "percolation/Prefix_lists.h"
 #include "search/Clique_vector.h"
 
@@ -60,6 +62,7 @@ class Unclaimed_cliques {
   void Meet(const Entries& entries, Tail question);
   std::size_t Pass(const Entries& entries, Tail question, Clique_index* passed) const;
   void Append_checked(Row row, std::vector<Clique_index>& neighbours);
+  void Sort(std::span<Clique_index> cliques);
 
   const Clique_ranks<Rank>& ranks_;
   Prefix_lists<Rank> lists_;
@@ -74,6 +77,7 @@ class Unclaimed_cliques {
   std::size_t candidate_count_ = 0;
   std::vector<Tail> tails_;           ///< of the clique in question, from each of its nodes on
   std::vector<std::uint8_t> marked_;  ///< per node: member of the clique in question
+  Index_bits to_sort_;                ///< cliques
 };
 
 }  // namespace gns

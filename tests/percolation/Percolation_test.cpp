@@ -197,6 +197,23 @@ TEST(Percolation, LongChains) {
   Reset_stop_process();
 }
 
+/// Thousands of cliques of many sizes that all share the same two nodes: neighbours of the first.
+TEST(Percolation, ManyNeighboursAscend) {
+  Clique_vector cliques;
+  Node_index free = 3;
+  for (Clique_index clique = 0; clique < 20000; ++clique) {
+    std::vector<Node_index> members = {1, 2};
+    for (auto left = 1 + clique * 7 % 5; left > 0; --left) members.push_back(free++);
+    cliques.push_back(members);
+  }
+  std::vector<Clique_index> all(cliques.size());
+  std::iota(all.begin(), all.end(), 0U);
+  Percolation percolation(cliques, static_cast<std::uint32_t>(cliques.size()), false);
+  const Communities communities = *percolation.At(3);
+  ASSERT_EQ(communities.size(), 1U);
+  EXPECT_TRUE(std::ranges::equal(communities.com_cliques[0], all));
+}
+
 TEST(ComsFuncs, NoRowsNoCommunities) {
   const Clique_vector cliques = literal::Rows_of({{1, 2, 3}});
   Communities found;
