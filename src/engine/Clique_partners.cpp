@@ -1,23 +1,22 @@
 #include "engine/Clique_partners.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace gns {
 
 Clique_partners::Partner Clique_partners::Of(Clique_index clique, Node_span members) {
   before_.clear();
-  for (const Node_index node : members) before_.push_back(std::exchange(last_[node], clique));
-  sorted_ = before_;
-  std::sort(sorted_.begin(), sorted_.end());
   Partner best;
-  Partner next;
-  for (const Clique_index other : sorted_) {
-    if (other == none) break;  // the greatest number
-    if (next.clique != other) next = {other, 0};
-    ++next.shared;
-    if (next.shared >= best.shared) best = next;  // of equals the nearest
+  for (const Node_index node : members) {
+    const Clique_index other = std::exchange(last_[node], clique);
+    before_.push_back(other);
+    if (other == none) continue;
+    const std::uint32_t shared = ++votes_[other];
+    if (shared > best.shared || (shared == best.shared && other > best.clique))  // the nearest
+      best = {other, shared};
   }
+  for (const Clique_index other : before_)
+    if (other != none) votes_[other] = 0;
   return best;
 }
 

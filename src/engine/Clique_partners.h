@@ -12,7 +12,8 @@ namespace gns {
 /// one that was the last to hold most of its nodes.
 class Clique_partners {
  public:
-  explicit Clique_partners(Node_index node_count) : last_(std::size_t{node_count} + 1, none) {}
+  Clique_partners(Node_index node_count, std::size_t clique_count)
+      : last_(std::size_t{node_count} + 1, none), votes_(clique_count, 0) {}
 
   struct Partner {
     Clique_index clique = 0;
@@ -32,7 +33,7 @@ class Clique_partners {
 
   std::vector<Clique_index> last_;    ///< per node: the last clique that held it
   std::vector<Clique_index> before_;  ///< per member of the clique asked for: what `last_` was
-  std::vector<Clique_index> sorted_;
+  std::vector<std::uint32_t> votes_;  ///< per clique: members whose last one it was
 };
 
 }  // namespace gns

@@ -88,7 +88,7 @@ void Joined_cliques::Count_in_graph(const Index_links& index_links) {
 }
 
 void Joined_cliques::Find_partners() {
-  Clique_partners partners(static_cast<Node_index>(name_bytes_.size()));
+  Clique_partners partners(static_cast<Node_index>(name_bytes_.size()), cliques_.size());
   for (Clique_index i = 0; i < cliques_.size(); ++i) {
     Check_inside_long_stage();
     const Clique_partners::Partner partner = partners.Of(i, cliques_[i]);

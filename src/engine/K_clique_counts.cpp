@@ -29,7 +29,7 @@ double Rest(double all, double inside) {
 }  // namespace
 
 K_clique_counts::K_clique_counts(const Clique_vector& cliques, const Node_names& node_names) {
-  Clique_partners partners(node_names.size());
+  Clique_partners partners(node_names.size(), cliques.size());
   for (Clique_index i = 0; i < cliques.size(); ++i) {
     external_control::Check_inside_long_stage();
     double all_bytes = 0.0;
