@@ -1,7 +1,10 @@
 #include "search/Gap_order.h"
 
 #include <algorithm>
+#include <bit>
 #include <numeric>
+
+#include "foundation/Processor_level.h"
 
 namespace gns {
 
@@ -11,26 +14,58 @@ std::span<const std::uint32_t> Gap_order::Sort(const Local_graph& local, Attempt
   std::iota(places_.begin(), places_.end(), 0U);
   if (places_.size() < 2 || attempt.Timed_out()) return places_;
 
+  bool traced = false;
+  With_row_length(local.words, [&](auto fixed_words) {
+    Run_at_processor_level([&] { traced = Trace_all<fixed_words()>(local, attempt, cliques); });
+  });
+  if (traced) Sort_places(local.nodes.size());
+  return places_;
+}
+
+/// Finds the steps to all cliques; false if the attempt runs over.
+template <std::size_t fixed_words>
+bool Gap_order::Trace_all(const Local_graph& local, Attempt& attempt,
+                          const std::vector<Bit_word>& cliques) {
   steps_.clear();
   starts_.assign(1, 0);
   scratch_.resize(2 * local.words);
   for (std::size_t at = 0; at < cliques.size(); at += local.words) {
     Attempt::Check_for_stop();
-    With_row_length(local.words,
-                    [&](auto fixed_words) { Trace<fixed_words()>(local, cliques.data() + at); });
+    Trace<fixed_words>(local, cliques.data() + at);
     constexpr std::size_t steps_of_three = 2;
     const std::size_t steps = steps_.size() - starts_.back();
     const bool had_candidates = steps > steps_of_three;
     attempt.Add_work(steps * steps * local.words);
     starts_.push_back(steps_.size());
-    if (had_candidates && attempt.Runs_over()) return places_;
+    if (had_candidates && attempt.Runs_over()) return false;
   }
-  std::sort(places_.begin(), places_.end(), [&](std::uint32_t a, std::uint32_t b) {
+  return true;
+}
+
+/// Puts the places in the order of their steps; nearly all comparisons are those of keys.
+void Gap_order::Sort_places(std::size_t node_count) {
+  const auto bits = static_cast<unsigned>(std::bit_width(node_count));
+  keyed_.clear();
+  for (const std::uint32_t place : places_) keyed_.push_back({Key_of(place, bits), place});
+  std::sort(keyed_.begin(), keyed_.end(), [&](const Keyed& a, const Keyed& b) {
     Attempt::Check_for_stop();
-    return std::lexicographical_compare(steps_.data() + starts_[a], steps_.data() + starts_[a + 1],
-                                        steps_.data() + starts_[b], steps_.data() + starts_[b + 1]);
+    if (a.key != b.key) return a.key < b.key;
+    return std::ranges::lexicographical_compare(Steps_of(a.place), Steps_of(b.place));
   });
-  return places_;
+  std::ranges::transform(keyed_, places_.begin(), &Keyed::place);
+}
+
+/// Gap and node of a step take so many bits each.
+std::uint64_t Gap_order::Key_of(std::uint32_t place, unsigned bits) const {
+  constexpr unsigned key_bits = 64;
+  std::uint64_t key = 0;
+  unsigned left = key_bits;
+  for (const Step step : Steps_of(place)) {
+    if (left < 2 * bits) break;
+    left -= 2 * bits;
+    key |= ((step >> 32U) << bits | (step & 0xFFFFFFFFU)) << left;
+  }
+  return key;
 }
 
 /// Appends the steps to a clique.

@@ -35,13 +35,28 @@ class Gap_order {
   /// it, by its position in the local graph.
   using Step = std::uint64_t;
 
+  /// A clique by its first steps, as far as they go into one word; a step that it doesn't take is
+  /// as one that comes first.
+  struct Keyed {
+    std::uint64_t key;
+    std::uint32_t place;
+  };
+
+  template <std::size_t fixed_words>
+  bool Trace_all(const Local_graph& local, Attempt& attempt, const std::vector<Bit_word>& cliques);
   template <std::size_t fixed_words>
   void Trace(const Local_graph& local, const Bit_word* clique);
   template <std::size_t fixed_words>
   void Split(const Local_graph& local, std::size_t node, Bit_word* behind);
+  [[nodiscard]] std::span<const Step> Steps_of(std::uint32_t place) const {
+    return std::span(steps_).subspan(starts_[place], starts_[place + 1] - starts_[place]);
+  }
+  [[nodiscard]] std::uint64_t Key_of(std::uint32_t place, unsigned bits) const;
+  void Sort_places(std::size_t node_count);
 
   std::vector<Step> steps_;          ///< to all cliques, one behind the other
   std::vector<std::size_t> starts_;  ///< steps of clique i: starts_[i] up to starts_[i + 1]
+  std::vector<Keyed> keyed_;
   std::vector<std::uint32_t> places_;
   /// The missing nodes by their first gap, a row of bits each; the gap in front is the last row.
   std::vector<Bit_word> gaps_;
