@@ -13,11 +13,11 @@ def faster_reader(network):
     return min(readers, key=lambda reader: measure(igraph_command(network, reader)).cpu)
 
 
-def compare(network, folder, rounds):
+def compare(network, folder, rounds, *switches):
     """The medians of the search, the whole run and igraph, and the reader that igraph used."""
     reader = faster_reader(network)
-    runs = [(measure_program(network, folder, "-k", ABOVE_EVERY_CLIQUE),
+    runs = [(measure_program(network, folder, "-k", ABOVE_EVERY_CLIQUE, *switches),
              measure(igraph_command(network, reader)),
-             measure_program(network, folder)) for _ in range(rounds)]
+             measure_program(network, folder, *switches)) for _ in range(rounds)]
     search, igraph, whole = (median(usages) for usages in zip(*runs))
     return search, igraph, whole, reader
