@@ -110,7 +110,7 @@ std::string Write_slurm_scripts(const std::string& work, const std::string& prog
   for (const auto& [step, command] : batch_scripts)
     Write_text_aside(scripts + "/" + Name_of(step) + ".sbatch",
                      filled(std::string(batch_head).append(command)));
-  const std::string submit = scripts + "/submit.sh";
+  std::string submit = scripts + "/submit.sh";
   Write_text_aside(submit, filled(submit_script));
   return submit;
 }
