@@ -21,6 +21,7 @@ PROGRAM, JAR, SPARK_HOME = (Path(word).resolve() for word in sys.argv[1:4])
 ONE_MACHINE = "local[2]"
 TWO_EXECUTORS = "local-cluster[2,1,1024]"
 WAIT = 60
+QUICKLY = "-XX:TieredStopAtLevel=1 -XX:+UseSerialGC"  # for JVMs that live for seconds
 
 
 def write_links(path, nodes, chance, seed=1):
@@ -62,6 +63,8 @@ class SparkTest(unittest.TestCase):
         environment = {**os.environ, "SPARK_HOME": str(self.home), "SPARK_LOCAL_IP": "127.0.0.1"}
         # Both executors are there before the first part begins.
         command = [self.home / "bin" / "spark-submit", "--master", master, "--driver-memory", "1g",
+                   "--driver-java-options", QUICKLY,
+                   "--conf", f"spark.executor.extraJavaOptions={QUICKLY}",
                    "--conf", "spark.ui.enabled=false",
                    "--conf", "spark.scheduler.minRegisteredResourcesRatio=1", *words]
         with open(self.log, "w") as log:
