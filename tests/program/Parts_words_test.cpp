@@ -44,12 +44,11 @@ TEST_F(ProgramParts, TakeTheSwitchesOfARun) {
   EXPECT_EQ(Run({"parts", "status", "--work", "work", "--json"}), 0) << err_;
   EXPECT_EQ(out_, R"({"output":")" + temp_.Path("out") +
                       R"(","finished":false,"parts":2,"search":["done","done"],"gather":"done",)"
-                      R"("levels":["missing","missing"],"next":[)"
-                      R"("vorlane parts levels --work work --part 1",)"
-                      R"("vorlane parts levels --work work --part 2"]})"
+                      R"("levels":["missing","done"],"next":[)"
+                      R"("vorlane parts levels --work work --part 1"]})"
                       "\n");
   EXPECT_EQ(Run({"parts", "finish", "--work", "work"}), 1);
-  EXPECT_NE(err_.find("'work/levels.2.done' is missing: vorlane parts levels"), std::string::npos);
+  EXPECT_NE(err_.find("'work/levels.1.done' is missing: vorlane parts levels"), std::string::npos);
   EXPECT_EQ(Run({"parts", "levels", "--work", "work", "--part", "1"}), 0) << err_;
   EXPECT_EQ(Run({"parts", "levels", "--work", "work", "--part", "2"}), 0) << err_;
   EXPECT_EQ(Run({"parts", "finish", "--work", "work"}), 0) << err_;
@@ -57,6 +56,23 @@ TEST_F(ProgramParts, TakeTheSwitchesOfARun) {
   EXPECT_EQ(Contents_of(temp_.Path("out")), Contents_of(temp_.Path("one")));
   EXPECT_EQ(Run({"parts", "finish", "--work", "work", "--json"}), 0);
   EXPECT_EQ(out_.substr(0, 40), R"({"method":"undirected","finished":true,")");
+}
+
+TEST_F(ProgramParts, AreLeftForLaunchers) {
+  EXPECT_EQ(Run({"parts", "plan", "-i", "net", "-o", "out", "--work", "work", "--parts", "5",
+                 "--slurm", "--progress=none"}),
+            0)
+      << err_;
+  EXPECT_EQ(out_,
+            "planned in work: 5 parts\nnext: sh " + temp_.Path("work/slurm/submit.sh") + "\n");
+  EXPECT_NE(temp_.Read("work/slurm/search.sbatch")
+                .find(std::filesystem::canonical(VORLANE_PROGRAM).string()),
+            std::string::npos);
+  EXPECT_EQ(Run({"parts", "search", "--work", "work", "--part", "2"}), 0) << err_;
+  EXPECT_EQ(Run({"parts", "status", "--work", "work", "--left", "search"}), 0) << err_;
+  EXPECT_EQ(out_, "1,3-5\n");
+  EXPECT_EQ(Run({"parts", "status", "--work", "work", "--left", "plan"}), 2);
+  EXPECT_NE(err_.find("search, gather, levels or finish, not 'plan'"), std::string::npos);
 }
 
 TEST_F(ProgramParts, WhatIsWrongIsToldWithTheCure) {
