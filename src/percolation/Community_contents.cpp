@@ -15,16 +15,18 @@ void Append_all_pairs(Node_span members, Communities& result) {
       result.com_links.Append({members[i], members[j]});
 }
 
+std::size_t Behind_all(Node_span nodes) {
+  return nodes.empty() ? 1 : std::size_t{*std::ranges::max_element(nodes)} + 1;
+}
+
 }  // namespace
 
 Community_contents::Community_contents(const Clique_vector& cliques)
-    : cliques_(cliques), community_of_(cliques.size(), none) {
-  const Node_span members = cliques.Values();
-  const std::size_t nodes =
-      members.empty() ? 1 : std::size_t{*std::ranges::max_element(members)} + 1;
-  place_of_.assign(nodes, 0);
-  met_by_.assign(nodes, 0);
-}
+    : cliques_(cliques),
+      community_of_(cliques.size(), none),
+      place_of_(Behind_all(cliques.Values()), 0),
+      met_by_(place_of_.size(), 0),
+      to_sort_(place_of_.size()) {}
 
 void Community_contents::Note_communities(const Communities& communities) {
   for (std::uint32_t com = 0; com < communities.size(); ++com)
@@ -141,7 +143,7 @@ void Community_contents::Append_links(Node_index member, std::span<const Source>
     else
       for (std::size_t i = source.Start(); i < source.End(); ++i) meet(nodes[i]);
   }
-  if (sources.size() > 1) std::sort(met_.begin(), met_.end());
+  if (sources.size() > 1) to_sort_.Sort(met_);
   for (const Node_index node : met_) {
     result.com_links.Append({member, node});
     met_by_[node] = 0;

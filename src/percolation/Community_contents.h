@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "communities/Communities.h"
+#include "percolation/Index_bits.h"
 #include "search/Clique_vector.h"
 
 namespace gns {
@@ -68,6 +69,7 @@ class Community_contents {
   std::vector<Source> sources_;
   std::vector<Node_index> met_by_;  ///< per node: the member it was last met by
   std::vector<Node_index> met_;
+  Index_bits to_sort_;  ///< nodes
 };
 
 }  // namespace gns

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -29,6 +31,24 @@ class Index_bits {
     for (std::size_t block = first / block_bits; block <= last / block_bits; ++block)
       For_each_bit_of(blocks_[block], block,
                       [&](std::size_t word) { For_each_bit_of(words_[word], word, use); });
+  }
+
+  /// Puts different indices in ascending order, many of them by way of this set, which is empty.
+  void Sort(std::span<std::uint32_t> indices) {
+    constexpr std::size_t many = 64;
+    if (indices.size() < many) {
+      std::ranges::sort(indices);
+      return;
+    }
+    std::uint32_t first = indices[0];
+    std::uint32_t last = indices[0];
+    for (const std::uint32_t index : indices) {
+      Add(index);
+      first = std::min(first, index);
+      last = std::max(last, index);
+    }
+    auto next = indices.begin();
+    Take(first, last, [&](std::size_t index) { *next++ = static_cast<std::uint32_t>(index); });
   }
 
  private:

@@ -137,27 +137,7 @@ void Unclaimed_cliques<Rank>::Append_checked(Row row, std::vector<Clique_index>&
     if (shared >= overlap_) neighbours.push_back(candidate);
   }
   for (const Rank rank : row) marked_[rank] = 0;
-  Sort(std::span(neighbours).subspan(first));
-}
-
-/// Many are put in order by their bits.
-template <typename Rank>
-void Unclaimed_cliques<Rank>::Sort(std::span<Clique_index> cliques) {
-  constexpr std::size_t many = 64;
-  if (cliques.size() < many) {
-    std::ranges::sort(cliques);
-    return;
-  }
-  Clique_index first = cliques[0];
-  Clique_index last = cliques[0];
-  for (const Clique_index clique : cliques) {
-    to_sort_.Add(clique);
-    first = std::min(first, clique);
-    last = std::max(last, clique);
-  }
-  std::size_t at = 0;
-  to_sort_.Take(first, last,
-                [&](std::size_t clique) { cliques[at++] = static_cast<Clique_index>(clique); });
+  to_sort_.Sort(std::span(neighbours).subspan(first));
 }
 
 template class Unclaimed_cliques<std::uint16_t>;

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <vector>
 
 #include "percolation/Clique_ranks.h"
@@ -62,7 +61,6 @@ class Unclaimed_cliques {
   void Meet(const Entries& entries, Tail question);
   std::size_t Pass(const Entries& entries, Tail question, Clique_index* passed) const;
   void Append_checked(Row row, std::vector<Clique_index>& neighbours);
-  void Sort(std::span<Clique_index> cliques);
 
   const Clique_ranks<Rank>& ranks_;
   Prefix_lists<Rank> lists_;

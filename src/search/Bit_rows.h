@@ -56,8 +56,9 @@ void For_each_bit(const Bit_word* row, std::size_t words, Use use) {
 /// the other) of those of its positions that stand in `inside`; `seen` becomes the positions whose
 /// rows were added. `todo` is a row to work on.
 template <typename Stop>
-void Spread(const Bit_word* links, std::size_t words, const Bit_word* inside, Bit_word* ends,
-            Bit_word* seen, Bit_word* todo, Stop stop) {
+[[gnu::always_inline]] inline void Spread(const Bit_word* links, std::size_t words,
+                                          const Bit_word* inside, Bit_word* ends, Bit_word* seen,
+                                          Bit_word* todo, Stop stop) {
   std::fill_n(seen, words, 0);
   while (!stop()) {
     for (std::size_t w = 0; w < words; ++w) todo[w] = ends[w] & inside[w] & ~seen[w];

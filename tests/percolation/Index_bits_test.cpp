@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <set>
 #include <vector>
@@ -27,6 +28,10 @@ TEST(IndexBits, YieldAscendingWhatWasAdded) {
     bits.Take(*expected.begin(), *expected.rbegin(),
               [&](std::size_t index) { taken.push_back(index); });
     ASSERT_EQ(taken, std::vector<std::size_t>(expected.begin(), expected.end()));
+    std::vector<std::uint32_t> sorted(expected.begin(), expected.end());
+    std::ranges::shuffle(sorted, random);
+    bits.Sort(sorted);
+    ASSERT_TRUE(std::ranges::equal(sorted, expected));
   }
 }
 
