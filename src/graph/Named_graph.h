@@ -14,6 +14,10 @@ struct Named_graph {
   Vertex_map vertices;               ///< empty if `directed`
   Dir_vertex_map directed_vertices;  ///< empty unless `directed`
 
+  /// For each node all nodes that are linked with it.
+  [[nodiscard]] const Adjacency& Neighs() const {
+    return directed ? directed_vertices.Rows() : vertices.Rows();
+  }
   [[nodiscard]] Node_index Node_count() const {
     return directed ? directed_vertices.size() : vertices.size();
   }

@@ -26,6 +26,11 @@ Node_order Order_by_row_size(Node_index node_count, Row_of row_of) {
 
 }  // namespace
 
+Node_order Order_of(const Named_graph& graph) {
+  const Adjacency& neighs = graph.Neighs();
+  return Order_by_row_size(neighs.Node_count(), [&](Node_index v) { return neighs[v]; });
+}
+
 void Sort_Vtx_map(Node_order& order, const Vertex_map& vtx_map) {
   order = Order_by_row_size(vtx_map.size(), [&](Node_index v) { return vtx_map.Neighs(v); });
 }

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "graph/Named_graph.h"
 #include "graph/Vertex_map.h"
 
 namespace gns {
@@ -10,6 +11,9 @@ namespace gns {
 /// The order in which a search takes the nodes: by number of neighbours ascending, among equals by
 /// index ascending.
 using Node_order = std::vector<Node_index>;
+
+/// That of a graph of either kind, all neighbours counting.
+Node_order Order_of(const Named_graph& graph);
 
 void Sort_Vtx_map(Node_order& order, const Vertex_map& vtx_map);
 

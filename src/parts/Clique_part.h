@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "parts/Graph_part.h"
+#include "parts/Level_groups.h"
 #include "parts/Part_reader.h"
 #include "parts/Part_writer.h"
 #include "search/Clique_vector.h"
@@ -19,16 +20,6 @@ std::uint64_t Write_clique_part(const Byte_taker& take, const Graph_part& graph,
 /// What Write_clique_part() has written, read where it lies.
 Clique_vector Cliques_of_part(std::span<const std::byte> bytes, const Part_identity& expected,
                               const Part_label& label, Part_check check = Part_check::all);
-
-/// The levels that a part of them finds.
-struct Level_group {
-  std::uint64_t from = 0;  ///< the largest k
-  std::uint64_t to = 1;    ///< the smallest; above `from` if the group is empty
-  std::uint64_t estimate = 0;
-
-  /// There may be fewer levels than parts; nothing has to be done then.
-  [[nodiscard]] bool Is_empty() const { return from < to; }
-};
 
 /// The cliques of all parts, numbered, and who finds which levels.
 struct All_cliques {

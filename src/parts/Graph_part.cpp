@@ -70,7 +70,7 @@ std::uint64_t Write_graph_part(const Byte_taker& take, const Run_plan& plan,
   writer.Add(graph.names.Table().Ends());
   Add_rows(writer, graph.links.All_rows());
   writer.Add(graph.links.Weights());
-  Add_rows(writer, graph.directed ? graph.directed_vertices.Rows() : graph.vertices.Rows());
+  Add_rows(writer, graph.Neighs());
   if (graph.directed) Add_rows(writer, graph.directed_vertices.Ineigh_rows());
   return writer.End();
 }

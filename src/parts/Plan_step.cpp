@@ -66,13 +66,8 @@ class Planning {
   }
 
   void Share_out() {
-    Node_order order;
-    if (graph_.directed)
-      Sort_dir_vtx_map(order, graph_.directed_vertices, "Neighs");
-    else
-      Sort_Vtx_map(order, graph_.vertices);
-    const Node_work nodes(
-        graph_.directed ? graph_.directed_vertices.Rows() : graph_.vertices.Rows(), order);
+    const Node_order order = Order_of(graph_);
+    const Node_work nodes(graph_.Neighs(), order);
     const std::vector<std::size_t> starts = nodes.Ranges(plan_.Parts());
     plan_.starts.assign(starts.begin(), starts.end());
     plan_.starts.resize(plan_.Parts() + 1, order.size());

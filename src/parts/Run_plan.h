@@ -20,10 +20,4 @@ struct Run_plan {
   [[nodiscard]] std::uint64_t Parts() const { return estimates.size(); }
 };
 
-/// Cuts works that stand behind each other into so many groups whose dearest is as cheap as can be:
-/// the places where the groups begin, and the end. The first work of a group counts twice, for what
-/// it takes to begin. The last groups may be empty.
-std::vector<std::uint64_t> Even_groups(const std::vector<std::uint64_t>& works,
-                                       std::uint64_t groups);
-
 }  // namespace gns::parts

@@ -3,28 +3,16 @@
 #include <csignal>
 #include <filesystem>
 
-#include "Child.h"
 #include "Directory_contents.h"
 #include "Linked_groups.h"
+#include "Program_calls.h"
 
 namespace gns {
 namespace {
 
-class ProgramParts : public ::testing::Test {
+class ProgramParts : public Program_calls {
  protected:
   ProgramParts() { temp_.Write("net", "a b 1\nb c 2\nc a 3\nc d 1\nc e 1\nd e 5\ng a 1\n"); }
-
-  int Run(const Words& words) {
-    Child child(temp_, words);
-    const int code = child.Wait();
-    out_ = child.Out();
-    err_ = child.Err();
-    return code;
-  }
-
-  Temp_dir temp_;
-  std::string out_;
-  std::string err_;
 };
 
 /// -W is the folder, unless a number stands behind it.

@@ -3,31 +3,19 @@
 #include <filesystem>
 #include <string>
 
-#include "Child.h"
+#include "Program_calls.h"
 
 namespace gns {
 namespace {
 
 /// Words that ask for what stands in a results directory: of two triangles that share node c, the
 /// second of which is one of four nodes, at k = 4.
-class ProgramWords : public ::testing::Test {
+class ProgramWords : public Program_calls {
  protected:
   ProgramWords() {
     temp_.Write("net", "a b 1\nb c 2\nc a 3\nc d 1\nc e 1\nc f 1\nd e 1\nd f 1\ne f 1\ng a 1\n");
     EXPECT_EQ(Run({"run", "-i", "net", "-o", "out"}), 0) << err_;
   }
-
-  int Run(const Words& words) {
-    Child child(temp_, words);
-    const int code = child.Wait();
-    out_ = child.Out();
-    err_ = child.Err();
-    return code;
-  }
-
-  Temp_dir temp_;
-  std::string out_;
-  std::string err_;
 };
 
 TEST_F(ProgramWords, AnswerForPeopleAndPrograms) {
