@@ -131,7 +131,7 @@ Clique_input Random_input(literal::Random& random, std::uint32_t seed, bool nest
 }
 
 TEST(Percolation, EqualsLiteralPercolationInAnyOrderOfK) {
-  for (std::uint32_t seed = 0; seed < 2000; ++seed) {
+  for (std::uint32_t seed = 0; seed < literal::Samples(2000); ++seed) {
     SCOPED_TRACE(seed);
     const Processor_level_turn level(seed / 12);
     literal::Random random(seed);

@@ -106,7 +106,7 @@ class EachSearch : public ::testing::TestWithParam<bool> {
 INSTANTIATE_TEST_SUITE_P(CliqueSearch, EachSearch, ::testing::Bool());
 
 TEST_P(EachSearch, EqualsLiteralOneOnRandomGraphs) {
-  for (std::uint32_t seed = 0; seed < 2500; ++seed) {
+  for (std::uint32_t seed = 0; seed < literal::Samples(2500); ++seed) {
     const Processor_level_turn level(seed / 3);
     Expect_like_literal(Sample_for(GetParam(), seed));
     if (HasFatalFailure()) FAIL() << seed;
@@ -195,7 +195,7 @@ TEST_P(EachSearch, StaysExactWhateverTheClockDoes) {
   std::size_t with_left = 0;
   std::size_t retried = 0;
   std::size_t approximated = 0;
-  for (std::uint32_t seed = 0; seed < 3000; ++seed) {
+  for (std::uint32_t seed = 0; seed < literal::Samples(3000); ++seed) {
     SCOPED_TRACE(seed);
     const Sample sample = Sample_for(GetParam(), seed);
     const std::uint32_t percent = std::vector<std::uint32_t>{2, 10, 40, 100}[seed % 4];
@@ -221,9 +221,9 @@ TEST_P(EachSearch, StaysExactWhateverTheClockDoes) {
     ASSERT_EQ(matrix.size(), rows.size());
     approximated += approximation_needed ? 1 : 0;
   }
-  EXPECT_GT(with_left, 300U);
-  EXPECT_GT(retried, 100U);
-  EXPECT_GT(approximated, 100U);
+  EXPECT_GT(with_left, literal::Samples(300));
+  EXPECT_GT(retried, literal::Samples(100));
+  EXPECT_GT(approximated, literal::Samples(100));
 }
 
 /// The exact searches poll for their nodes alone, those with a limit once more behind them. What
