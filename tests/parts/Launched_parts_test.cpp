@@ -78,7 +78,7 @@ TEST(LaunchedParts, MayBeDoneWhereTheResultsAreNotSeen) {
     const std::string hidden = temp.Path("hidden");
     fs::rename(parameters.output_dir, hidden);
     far.Send({"graph.bin", "plan.tsv", "run.json"});
-    for (const std::uint64_t part : {1, 2, 3}) {
+    for (const std::uint64_t part : {1U, 2U, 3U}) {
       Search(far.Folder(), part, far.Folder());
       far.Take("cliques." + std::to_string(part) + ".bin");
     }
@@ -86,7 +86,7 @@ TEST(LaunchedParts, MayBeDoneWhereTheResultsAreNotSeen) {
     Gather(work);
     fs::rename(parameters.output_dir, hidden);
     far.Send({"cliques.bin", "levels.tsv"});
-    for (const std::uint64_t part : {1, 2, 3}) {
+    for (const std::uint64_t part : {1U, 2U, 3U}) {
       const std::string away = temp.Path("away");
       fs::create_directory(away);
       Find_levels(far.Folder(), part, away);

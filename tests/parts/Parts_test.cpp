@@ -16,7 +16,7 @@ TEST(Parts, MakeTheDirectoryOfASingleRun) {
     parameters.input_file = temp.Write("links", run.links);
     const Contents single = Single_run(temp, parameters);
     levels += single.size() / 8;
-    for (const std::uint64_t parts : {1, 2, 7, 64}) {
+    for (const std::uint64_t parts : {1U, 2U, 7U, 64U}) {
       SCOPED_TRACE(run.name + " in " + std::to_string(parts));
       const std::string number = std::to_string(parts);
       parameters.output_dir = temp.Path("out" + number);
