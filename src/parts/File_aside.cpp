@@ -7,6 +7,7 @@
 #include "foundation/Environment.h"
 #include "foundation/Errors.h"
 #include "foundation/io/File_system.h"
+#include "foundation/paths/Dir_listing.h"
 #include "parts/Aside.h"
 
 namespace gns::parts {
@@ -73,6 +74,13 @@ void File_aside::Finish() {
   if (!Is_synced()) return;
   const Descriptor folder(Open_file(Folder_of(path_), O_RDONLY | O_DIRECTORY));
   Check(folder.Is_open() && sync(folder.Number()), "sync the folder");
+}
+
+void Delete_left_aside(const std::string& folder) {
+  Dir_listing listing(folder);
+  while (const char* const name = listing.Next())
+    if (const auto maker = Maker_of(name); maker && !maker->May_be_alive())
+      File_system::At_hand().Remove(AT_FDCWD, (folder + "/" + name).c_str(), 0);
 }
 
 void Write_text_aside(const std::string& path, const std::string& text) {

@@ -35,6 +35,9 @@ class File_aside {
 /// A small one of text.
 void Write_text_aside(const std::string& path, const std::string& text);
 
+/// Deletes what workers that are known to be gone have left aside in a folder.
+void Delete_left_aside(const std::string& folder);
+
 /// Whether files are brought to the disk before they count: not if the environment has
 /// VORLANE_NO_SYNC.
 bool Is_synced();

@@ -75,6 +75,7 @@ Finished_run Finish(const std::string& work) {
   summary.links = plan.Graph().Graph().links.size();
   summary.cliques_of_size = all.of_size;
   summary.exact_cliques = all.cliques.size();
+  Delete_left_aside(plan.Folder().Path());
   Remove_mark(plan.Output_dir());
   return run;
 }

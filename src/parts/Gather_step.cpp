@@ -57,6 +57,7 @@ std::uint64_t Gather(const std::string& work) {
   } catch (const Xbad_part&) {
     plan.Refuse_finished();  // they are not gathered yet, or were damaged
   }
+  Delete_left_aside(plan.Folder().Path());
   File_aside mark(plan.Folder().Done(Step::gather));
   Write_cliques(plan);
   const Part_label label = plan.Folder().Label(plan.Folder().Cliques(), Step::gather);

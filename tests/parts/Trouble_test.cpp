@@ -316,6 +316,7 @@ TEST_F(PartsInTrouble, WhoIsKilledIsReplaced) {
     }
     Go_on();
     Expect_whole();
+    for (const auto& [name, bytes] : Contents_of(work_)) EXPECT_FALSE(name.ends_with(".aside"));
   }
   EXPECT_GT(killed, attempts / 2);
 }
