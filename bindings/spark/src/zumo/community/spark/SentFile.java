@@ -9,8 +9,6 @@ import java.nio.file.StandardCopyOption;
 /** A file on its way from an executor to the driver. */
 final class SentFile implements Serializable {
   private static final long serialVersionUID = 1;
-  /** What an array can hold. */
-  private static final long MOST_BYTES = Integer.MAX_VALUE - 8;
 
   private final String name;
   private final boolean result;
@@ -26,20 +24,18 @@ final class SentFile implements Serializable {
    * Takes the contents of a file along, with its path as seen from the folder. A result goes to the
    * results directory, anything else to the work folder.
    *
-   * @throws IOException if it can't be read, or has more bytes than an array can hold
+   * @throws IOException if it can't be read
    */
   static SentFile of(Path folder, Path file, boolean result) throws IOException {
-    String name = folder.relativize(file).toString();
-    long size = Files.size(file);
-    if (size > MOST_BYTES)
-      throw new IOException(name + " has " + size + " bytes, and no more than " + MOST_BYTES
-          + " come through Spark at once. A shared folder has no such limit, nor may a plan of more"
-          + " parts.");
-    return new SentFile(name, result, Files.readAllBytes(file));
+    return new SentFile(folder.relativize(file).toString(), result, Files.readAllBytes(file));
   }
 
   boolean isResult() {
     return result;
+  }
+
+  long size() {
+    return contents.length;
   }
 
   /** Puts it in its place below a folder, in one step. */

@@ -25,6 +25,9 @@ import scala.runtime.BoxedUnit;
  * What they make comes back with their answers, which the driver writes as they come.
  */
 final class SentFiles implements Road {
+  /** What an answer may hold: an array of Java, less what Spark adds. */
+  private static final long MOST_BYTES = Integer.MAX_VALUE - (1 << 20);
+
   private final JavaSparkContext spark;
   private final Path work;
   private final Path resultsDir;
@@ -95,9 +98,14 @@ final class SentFiles implements Road {
     return files;
   }
 
-  /** Moves a file into the list. */
+  /** Moves a file into an answer, which must not get too large. */
   private static void take(Path folder, Path file, boolean result, List<SentFile> files)
       throws IOException {
+    long size = Files.size(file) + files.stream().mapToLong(SentFile::size).sum();
+    if (size > MOST_BYTES)
+      throw new IOException("A part has made " + size + " bytes or more, and no more than "
+          + MOST_BYTES + " come through Spark at once. With a shared folder nothing is sent; a plan"
+          + " of more parts may do as well.");
     files.add(SentFile.of(folder, file, result));
     Files.delete(file);
   }
