@@ -61,7 +61,7 @@ unsigned Workers_with_memory(unsigned workers, const Levels& levels) {
 }  // namespace
 
 Level_finder::Level_finder(const Levels_input& input, K_range all, unsigned workers)
-    : levels_(input), smallest_k_(all.smallest), workers_(1) {
+    : levels_(input), smallest_k_(all.smallest) {
   if (all.smallest > all.largest) return;
   workers_ = std::min(workers, all.largest - all.smallest + 1);
   if (workers_ > 1) workers_ = Workers_with_memory(workers_, levels_);

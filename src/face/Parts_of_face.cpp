@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "engine/Run_wishes.h"
 #include "face/Control_body.h"
 #include "face/Errors_of_face.h"
@@ -42,8 +44,8 @@ Part_state State_of(gns::parts::Part_state state) {
 }
 
 std::vector<Part_state> States_of(const std::vector<gns::parts::Part_state>& states) {
-  std::vector<Part_state> found;
-  for (const gns::parts::Part_state state : states) found.push_back(State_of(state));
+  std::vector<Part_state> found(states.size());
+  std::ranges::transform(states, found.begin(), State_of);
   return found;
 }
 
