@@ -232,6 +232,45 @@ TEST(CFace, WarningsOnAFileAreKept) {
   EXPECT_EQ(vorlane_network_warning(network.get(), 1), nullptr);
 }
 
+/// By several cores and by parts, as in one go; and what can't be asked of them.
+TEST(CFace, JobsAndPartsFindTheSame) {
+  const gns::Temp_dir temp;
+  const std::string links = temp.Write("links", "a b\nb c\nc a\nc d\nd e\ne c\nd a\n");
+  const Network network = Read(links);
+  vorlane_options options = plain;
+  options.source = links.c_str();
+  for (const auto& [jobs, name] : {std::pair{0, "one"}, {3, "three"}, {-1, "all"}}) {
+    const std::string out = temp.Path(name);
+    options.directory = out.c_str();
+    options.jobs = jobs;
+    Find(network, options);
+    EXPECT_EQ(gns::Contents_of(out), gns::Contents_of(temp.Path("one"))) << jobs;
+  }
+  vorlane_results* results = nullptr;
+  options.jobs = -2;
+  EXPECT_EQ(vorlane_find(network.get(), &options, nullptr, &results), VORLANE_PARAMETERS);
+
+  const std::string out = temp.Path("parts");
+  const std::string work = temp.Path("work");
+  uint64_t cliques = 0;
+  uint64_t levels = 0;
+  EXPECT_EQ(
+      vorlane_parts_plan(links.c_str(), &plain_links, &plain, out.c_str(), nullptr, 1, nullptr),
+      VORLANE_PARAMETERS);
+  EXPECT_EQ(vorlane_parts_plan(links.c_str(), &plain_links, &plain, out.c_str(), work.c_str(), 1,
+                               nullptr),
+            VORLANE_OK)
+      << vorlane_last_failure(nullptr);
+  EXPECT_EQ(vorlane_parts_finish(work.c_str(), nullptr), VORLANE_OTHER);
+  EXPECT_EQ(vorlane_parts_search(work.c_str(), 1, nullptr, nullptr), VORLANE_OK);
+  EXPECT_EQ(vorlane_parts_gather(work.c_str(), nullptr, &cliques), VORLANE_OK);
+  EXPECT_EQ(vorlane_parts_levels(work.c_str(), 1, nullptr, &levels), VORLANE_OK);
+  EXPECT_EQ(vorlane_parts_finish(work.c_str(), nullptr), VORLANE_OK);
+  EXPECT_EQ(cliques, 3U);
+  EXPECT_EQ(levels, 1U);
+  EXPECT_EQ(gns::Contents_of(out), gns::Contents_of(temp.Path("one")));
+}
+
 /// What fails tells its kind, its words and its place, and hands nothing out.
 TEST(CFace, FailuresAreCodesWithWords) {
   const gns::Temp_dir temp;

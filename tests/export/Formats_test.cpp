@@ -116,6 +116,34 @@ TEST(Formats, Xml) {
             "<edge source=\"n3\" target=\"n7\"><data key=\"weight\">0.5</data></edge>\n");
 }
 
+/// Counts, names, memberships at each k, and a pie for the node of two communities.
+TEST(Formats, Cx2) {
+  const std::string all =
+      Written("cx2", Selection(Small_results(Method::undirected), std::nullopt));
+  EXPECT_NE(all.find(R"({"name":"nodes","elementCount":7},{"name":"edges","elementCount":10})"),
+            std::string::npos);
+  EXPECT_NE(all.find(R"({"name":"nodeBypasses","elementCount":1})"), std::string::npos);
+  EXPECT_NE(Lines_with(R"("name":"c<")", all)
+                .find(R"("communities_k3":[0,1],"memberships_k3":2,"community_k3":"overlap",)"
+                      R"("communities_k4":[0],"memberships_k4":1,"community_k4":"0"}})"),
+            std::string::npos);
+  EXPECT_NE(Lines_with(R"("name":"g)", all).find("\"v\":{\"name\":\"g\xEF\xBF\xBD\"}}"),
+            std::string::npos);
+  EXPECT_NE(all.find(R"("cy_dataColumns":["slice_1","slice_2"],"cy_colors":["#)"),
+            std::string::npos);
+  EXPECT_EQ(all.find("weight"), std::string::npos);
+
+  const std::string weighted =
+      Written("cx2", Selection(Small_results(Method::intensity), std::nullopt));
+  EXPECT_NE(weighted.find(R"({"weight":{"d":"double"},"directed":{"d":"boolean","v":false}})"),
+            std::string::npos);
+  EXPECT_NE(weighted.find(R"({"id":0,"s":1,"t":2,"v":{"weight":0.5}})"), std::string::npos);
+  const std::string directed = Written("cx2", Selection(Small_results(Method::directed), 4));
+  EXPECT_NE(directed.find(R"("directed":{"d":"boolean","v":true})"), std::string::npos);
+  EXPECT_NE(directed.find(R"("EDGE_TARGET_ARROW_SHAPE":"triangle")"), std::string::npos);
+  EXPECT_EQ(directed.find("communities_k3"), std::string::npos);
+}
+
 /// What a table tells equals the results, for every kind of them, one community or many.
 TEST(Formats, WideTablesHoldAllMemberships) {
   for (std::uint32_t seed = 1; seed <= 60; ++seed) {

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "Child.h"
+#include "Directory_contents.h"
 
 namespace gns {
 namespace {
@@ -76,6 +77,18 @@ TEST_F(Options, AreTakenIfHelpShowsThem) {
   }
   for (const char* word : {"--helpless", "--version=1", "--progressive", "--jobless"})
     EXPECT_EQ(Run({word}), 2) << word;
+}
+
+/// As many cores as are told leave the same files, whatever memory there is for them.
+TEST_F(Options, JobsChangeNoResult) {
+  ASSERT_EQ(Run({}), 0);
+  const auto expected = Contents_of(temp_.Path("out"));
+  for (const char* const jobs : {"--jobs=1", "--jobs=2", "--jobs=0", "--jobs=1024"}) {
+    EXPECT_EQ(Run({jobs}), 0) << jobs;
+    EXPECT_EQ(Contents_of(temp_.Path("out")), expected) << jobs;
+  }
+  for (const char* const jobs : {"--jobs=-1", "--jobs=two", "--jobs=", "--jobs=1025"})
+    EXPECT_EQ(Run({jobs}), 2) << jobs;
 }
 
 }  // namespace
