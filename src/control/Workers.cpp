@@ -1,16 +1,20 @@
 #include "control/Workers.h"
 
+#include <pthread.h>
+
 #include <algorithm>
 #include <atomic>
+#include <cstdint>
+#include <deque>
 #include <exception>
+#include <functional>
 #include <mutex>
 #include <system_error>
-#include <thread>
 #include <utility>
-#include <vector>
 
 #include "control/Run_control.h"
 #include "foundation/io/File_faults.h"
+#include "foundation/memory/Memory_left.h"
 
 namespace external_control {
 
@@ -29,6 +33,34 @@ class Role_taken {
   Worker_role before_;
 };
 
+/// A thread that is joined at its end. Its stack is small, as no depth grows with the network; the
+/// eight megabytes of others would count against the memory limit of a run, and stay counted.
+class Thread {
+ public:
+  /// Throws std::system_error if the system gives none.
+  explicit Thread(std::function<void()> work) : work_(std::move(work)) {
+    constexpr std::size_t stack_size = std::size_t{1} << 20U;
+    pthread_attr_t attributes;
+    ::pthread_attr_init(&attributes);
+    ::pthread_attr_setstacksize(&attributes, stack_size);
+    const int error = ::pthread_create(&thread_, &attributes, Work, this);
+    ::pthread_attr_destroy(&attributes);
+    if (error != 0) throw std::system_error(error, std::generic_category());
+  }
+  ~Thread() { ::pthread_join(thread_, nullptr); }
+  Thread(const Thread&) = delete;
+  Thread& operator=(const Thread&) = delete;
+
+ private:
+  static void* Work(void* self) {
+    static_cast<Thread*>(self)->work_();
+    return nullptr;
+  }
+
+  std::function<void()> work_;
+  pthread_t thread_ = {};
+};
+
 /// Workers that do one thing together.
 class Team {
  public:
@@ -36,8 +68,7 @@ class Team {
 
   void Work(unsigned count) {
     {
-      std::vector<std::jthread> fellows;
-      fellows.reserve(count - 1);
+      std::deque<Thread> fellows;
       try {
         while (fellows.size() + 1 < count)
           fellows.emplace_back([this, worker = static_cast<unsigned>(fellows.size() + 1)] {
@@ -80,6 +111,9 @@ class Team {
 }  // namespace
 
 void On_workers(unsigned count, const std::function<void(unsigned)>& work) {
+  constexpr std::uint64_t memory_of_worker = std::uint64_t{64} << 20U;  // with all that it works on
+  count = static_cast<unsigned>(
+      std::min<std::uint64_t>(count, 1 + gns::Memory_left() / memory_of_worker));
   if (count <= 1 || control_sub::role_of_this_thread != Worker_role::sole)
     work(0);
   else

@@ -10,7 +10,8 @@ namespace external_control {
 /// work for its control, and note file faults in its list.
 ///
 /// What one of them throws ends the others at their next poll, and is thrown here; a stop ends all,
-/// and then the run. Where the system gives no more threads there are fewer workers. With one,
+/// and then the run. Where the system gives no more threads, or a limit leaves little memory,
+/// there are fewer workers. With one,
 /// and in a worker of others, no thread is started.
 void On_workers(unsigned count, const std::function<void(unsigned worker)>& work);
 

@@ -1,5 +1,8 @@
 #include "engine/Memory_limit.h"
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -89,6 +92,11 @@ std::uint64_t Limit_memory(std::uint64_t bytes) {
   struct rlimit limit = {};
   if (::getrlimit(RLIMIT_DATA, &limit) != 0) return 0;
   limit.rlim_cur = std::min<rlim_t>(limit.rlim_cur, bytes);
+#ifdef __GLIBC__
+  // What one thread gives back is there for all. It sets a number that is read when a thread first
+  // allocates. NOLINTNEXTLINE(concurrency-mt-unsafe)
+  ::mallopt(M_ARENA_MAX, 1);
+#endif
   return ::setrlimit(RLIMIT_DATA, &limit) == 0 ? limit.rlim_cur : 0;
 }
 
