@@ -44,7 +44,8 @@ install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/README.md
               ${PROJECT_SOURCE_DIR}/docs/file-formats.md ${PROJECT_SOURCE_DIR}/docs/inputs.md
               ${PROJECT_SOURCE_DIR}/docs/tutorial.md ${PROJECT_SOURCE_DIR}/docs/page.md
               ${PROJECT_SOURCE_DIR}/docs/python.md ${PROJECT_SOURCE_DIR}/docs/parts.md
-              ${PROJECT_SOURCE_DIR}/docs/parts-format.md
+              ${PROJECT_SOURCE_DIR}/docs/parts-format.md ${PROJECT_SOURCE_DIR}/docs/clusters.md
+              ${PROJECT_SOURCE_DIR}/docs/scaling.md
               ${PROJECT_SOURCE_DIR}/docs/choir.html
         DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/schemas DESTINATION ${CMAKE_INSTALL_DOCDIR})
