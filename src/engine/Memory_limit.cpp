@@ -11,6 +11,7 @@
 #include <optional>
 #include <string_view>
 
+#include "control/Run_control.h"
 #include "foundation/Control_groups.h"
 #include "foundation/Environment.h"
 #include "foundation/Errors.h"
@@ -93,9 +94,9 @@ std::uint64_t Limit_memory(std::uint64_t bytes) {
   if (::getrlimit(RLIMIT_DATA, &limit) != 0) return 0;
   limit.rlim_cur = std::min<rlim_t>(limit.rlim_cur, bytes);
 #ifdef __GLIBC__
-  // What one thread gives back is there for all. It sets a number that is read when a thread first
+  // What one worker gives back is there for all. It sets a number that is read when a thread first
   // allocates. NOLINTNEXTLINE(concurrency-mt-unsafe)
-  ::mallopt(M_ARENA_MAX, 1);
+  if (external_control::This_control().workers > 1) ::mallopt(M_ARENA_MAX, 1);
 #endif
   return ::setrlimit(RLIMIT_DATA, &limit) == 0 ? limit.rlim_cur : 0;
 }
