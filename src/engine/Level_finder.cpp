@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <atomic>
-#include <condition_variable>
-#include <map>
 #include <mutex>
 #include <new>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "control/Run_control.h"
 #include "control/Turns.h"
@@ -21,12 +20,13 @@ namespace {
 /// Levels that were found by any worker, to be used in order.
 class Found_levels {
  public:
-  Found_levels(K_range ks, const Level_steps& steps) : next_k_(ks.largest), steps_(steps) {}
+  Found_levels(K_range ks, const Level_steps& steps)
+      : waiting_(ks.largest - ks.smallest + std::size_t{1}), steps_(steps) {}
 
-  void Put(Level level) {
+  /// `step`: how far the level lies below the largest k.
+  void Put(std::size_t step, Level level) {
     const std::lock_guard guard(lock_);
-    const std::uint32_t k = level.k;
-    waiting_.emplace(k, std::move(level));
+    waiting_[step].emplace(std::move(level));
   }
   /// Uses those whose turn it is.
   void Use() {
@@ -36,17 +36,13 @@ class Found_levels {
  private:
   std::optional<Level> Take() {
     const std::lock_guard guard(lock_);
-    const auto found = waiting_.find(next_k_);
-    if (found == waiting_.end()) return std::nullopt;
-    std::optional<Level> level(std::move(found->second));
-    waiting_.erase(found);
-    --next_k_;
-    return level;
+    if (next_ == waiting_.size() || !waiting_[next_]) return std::nullopt;
+    return std::exchange(waiting_[next_++], std::nullopt);
   }
 
   std::mutex lock_;
-  std::map<std::uint32_t, Level> waiting_;
-  std::uint32_t next_k_;
+  std::vector<std::optional<Level>> waiting_;  ///< by step
+  std::size_t next_ = 0;                       ///< the step whose level is to be used next
   const Level_steps& steps_;
 };
 
@@ -91,7 +87,7 @@ void Level_finder::Find_on_workers(K_range ks, const Level_steps& steps) {
     Levels* const levels = Levels_of(worker);
     if (levels == nullptr) return;
     for (std::uint32_t step = 0; (step = taken++) <= ks.largest - ks.smallest;) {
-      found.Put(steps.find(ks.largest - step, *levels));
+      found.Put(step, steps.find(ks.largest - step, *levels));
       if (worker == 0) found.Use();
     }
   });

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "engine/Levels.h"
@@ -32,8 +33,6 @@ class Level_finder {
   /// Finds these levels, which lie below those found before. With one worker a level is used before
   /// the next one is found. Throws what the steps throw.
   void Find(K_range ks, const Level_steps& steps);
-
-  [[nodiscard]] std::uint32_t Workers() const { return workers_; }
 
  private:
   void Find_one_by_one(K_range ks, const Level_steps& steps);
