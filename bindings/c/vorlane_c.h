@@ -193,8 +193,8 @@ typedef struct vorlane_options {
   size_t exact_clique_count;
   const char* directory; /* where to write the files of the program as well, or NULL */
   const char* source;    /* what their first lines call the input; NULL: "memory" */
-  int32_t jobs; /* cores to work with; 0: one; -1: all at hand. Each takes about as much memory
-                   again as the first one, fewer work where that is not left. Same results. */
+  int32_t jobs; /* cores to work with; 0: one; -1: all at hand. Each more takes about half the
+                   memory of the first, fewer work where that is not left. Same results. */
 } vorlane_options;
 
 /* Finds all cliques and communities. Not with `cliques` and a `directory` at once. */

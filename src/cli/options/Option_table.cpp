@@ -209,7 +209,7 @@ constexpr std::array options{
         .kind = Argument::number,
         .group = Group::search,
         .summary =
-            "cores to work with, 0 for all at hand; each takes about as much memory again as "
+            "cores to work with, 0 for all at hand; each more takes about half the memory of "
             "the first one; the results are the same",
         .without = "1",
         .description =

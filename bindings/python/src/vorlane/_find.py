@@ -82,7 +82,7 @@ def find(
             that is called with a :class:`Progress` some times a second.
         memory_limit: bytes that the process may hold; over it the run ends.
         jobs: cores to work with; 0: those at hand (of the machine, the job of a scheduler, the control
-            group). Results are the same. Each takes about as much memory again as the first one.
+            group). Results are the same. Each more takes about half the memory of the first.
         executor: does the run in ``parts`` elsewhere: an executor of concurrent.futures (with
             processes) or a client of Dask. All see the folder ``work``; without it a temporary one
             of this machine is made. Not with ``time_limit`` and ``memory_limit``.

@@ -57,8 +57,8 @@ public final class Options {
   }
 
   /**
-   * Works with so many cores; 0 stands for those at hand. The results don't depend on it. Each takes
-   * about as much memory again as the first one.
+   * Works with so many cores; 0 stands for those at hand. The results don't depend on it. Each more
+   * takes about half the memory of the first one.
    */
   public Options jobs(int cores) {
     if (cores < 0) throw new IllegalArgumentException("there can't be " + cores + " jobs");
