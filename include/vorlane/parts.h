@@ -29,7 +29,8 @@ namespace vorlane {
 
 /// Reads the input and writes the plan. `out` becomes a results directory that is marked as
 /// unfinished. Options as of an Analysis, but for a time limit, which throws an Error of kind
-/// `parameters`. Memory: some 50 bytes a link.
+/// `parameters`, and for `links` and `workers`, which aren't looked at: a part is done by one
+/// thread. Memory: some 50 bytes a link.
 VORLANE_API void Plan_parts(const std::string& input, const Link_options& how,
                             const Options& options, const std::string& out, const std::string& work,
                             std::uint64_t parts, const Control& control = {});

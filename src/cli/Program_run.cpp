@@ -116,10 +116,8 @@ class Program_run : private Run_listener {
 
   /// What is odd about the input is told even if reading ends in a failure.
   void Input_read(const Link_file_check& check, const Link_map* links) override {
-    for (const Link_file_warning& warning : check.Warnings())
-      display_->Tell("warning: " + In_words(warning, parameters_.input_file));
-    if (links != nullptr)
-      display_->Tell(Why_no_links(links->size(), check.counts, parameters_.input_file));
+    for (const std::string& text : Of_input(check, links, parameters_.input_file))
+      display_->Tell(text);
   }
 
   void Bound_known(const Results_bound& bound) override {

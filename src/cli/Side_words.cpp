@@ -83,6 +83,17 @@ std::string Plain_number(double number) {
   return text;
 }
 
+/// Empty if there are links.
+std::string Why_no_links(std::size_t links, const Link_counts& counts, const std::string& file) {
+  if (links > 0) return "";
+  const std::string in_file = " in " + file;
+  if (counts.links == 0) return "warning: there are no links" + in_file;
+  const std::string all = "warning: of " + std::to_string(counts.links) + " links" + in_file;
+  if (counts.outside == 0) return all + " each is one of a node with itself";
+  return all + " none is within the thresholds; the weights go from " +
+         Plain_number(counts.least_outside) + " to " + Plain_number(counts.greatest_outside);
+}
+
 }  // namespace
 
 void Tell(const std::string& text) {
@@ -112,14 +123,13 @@ std::string Way_out(const std::exception& failure) {
   return file == nullptr ? "" : Of_other_kind(*file);
 }
 
-std::string Why_no_links(std::size_t links, const Link_counts& counts, const std::string& file) {
-  if (links > 0) return "";
-  const std::string in_file = " in " + file;
-  if (counts.links == 0) return "warning: there are no links" + in_file;
-  const std::string all = "warning: of " + std::to_string(counts.links) + " links" + in_file;
-  if (counts.outside == 0) return all + " each is one of a node with itself";
-  return all + " none is within the thresholds; the weights go from " +
-         Plain_number(counts.least_outside) + " to " + Plain_number(counts.greatest_outside);
+std::vector<std::string> Of_input(const Link_file_check& check, const Link_map* links,
+                                  const std::string& file) {
+  std::vector<std::string> texts;
+  for (const Link_file_warning& warning : check.Warnings())
+    texts.push_back("warning: " + In_words(warning, file));
+  if (links != nullptr) texts.push_back(Why_no_links(links->size(), check.counts, file));
+  return texts;
 }
 
 std::string Of_great_results(const Results_bound& bound, const Free_space& space,

@@ -2,11 +2,13 @@
 
 #include <exception>
 #include <string>
+#include <vector>
 
 #include "engine/Results_bound.h"
 #include "engine/Run_parameters.h"
 #include "engine/Run_summary.h"
 #include "foundation/paths/Free_space.h"
+#include "graph/Link_map.h"
 #include "input/Link_file_check.h"
 
 namespace gns {
@@ -23,8 +25,10 @@ bool Outputs_are_one();
 /// Where and why a run failed, and what to do; empty where the message tells all that there is.
 std::string Way_out(const std::exception& failure);
 
-/// Why a run has no links; empty if it has.
-std::string Why_no_links(std::size_t links, const Link_counts& counts, const std::string& file);
+/// What is odd about an input: what can't have been meant, and why there are no links. `links` is
+/// null if it ended at a line that no link could be made of.
+std::vector<std::string> Of_input(const Link_file_check& check, const Link_map* links,
+                                  const std::string& file);
 
 /// A warning where the results may not find the space, or take more than 10 GB; else empty. The
 /// results go to `dir`.

@@ -34,7 +34,9 @@ gns::Run_parameters Parameters_of(const std::string& input, const Link_options& 
 /// Does a step by a control.
 template <typename Work>
 auto Step(const Control& control, Work work) {
-  const external_control::Control_in_use in_use(control.Inside().run);
+  external_control::Run_control& run = control.Inside().run;
+  const external_control::Control_in_use in_use(run);
+  run.workers = 1;  // it may have been that of an analysis with more
   return face::With_errors(Error_kind::other, work);
 }
 

@@ -129,6 +129,7 @@ def test_a_stop_ends_the_waiting(tmp_path: Path) -> None:
         ([("a b", "c"), ("c", "d"), ("d", "a b")], {}, vl.InputError, "blank"),
         ([(1, 2)], {"time_limit": 1.0}, vl.ParameterError, "time limit"),
         ([(1, 2)], {"memory_limit": 10**9}, vl.ParameterError, "memory_limit"),
+        ([(1, 2)], {"jobs": 2}, vl.ParameterError, "jobs"),
         ([(1, 2)], {"parts": 0}, vl.ParameterError, "parts must be 1"),
     ],
 )

@@ -83,6 +83,10 @@ Planned_run Read_switches(const Parts_line& line) {
   words.insert(words.begin(), "vorlane parts plan");
   if (!run.wishes.output.formats.empty() || !run.wishes.output.report.empty())
     throw Xerror_msg("Parts are exported and shown when they are finished: vorlane help export\n");
+  if (run.wishes.jobs != 1)
+    throw Xerror_msg(
+        "A part is done by one core: do as many at a time as there are cores. --jobs is for "
+        "single runs.\n");
   std::vector<std::string> unheeded;
   try {
     const Switch_values values =
@@ -110,9 +114,7 @@ class Plan_listener : public Run_listener {
       : input_file_(input_file), display_(display) {}
 
   void Input_read(const Link_file_check& check, const Link_map* links) override {
-    for (const Link_file_warning& warning : check.Warnings())
-      display_.Tell("warning: " + In_words(warning, input_file_));
-    if (links != nullptr) display_.Tell(Why_no_links(links->size(), check.counts, input_file_));
+    for (const std::string& text : Of_input(check, links, input_file_)) display_.Tell(text);
   }
   void Bound_known(const Results_bound& /*bound*/) override {}
 

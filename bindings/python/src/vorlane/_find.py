@@ -85,7 +85,7 @@ def find(
             group). Results are the same. Each more takes about half the memory of the first.
         executor: does the run in ``parts`` elsewhere: an executor of concurrent.futures (with
             processes) or a client of Dask. All see the folder ``work``; without it a temporary one
-            of this machine is made. Not with ``time_limit`` and ``memory_limit``.
+            of this machine is made. Not with ``time_limit``, ``memory_limit`` and ``jobs``.
         control: to stop and watch the run from another thread.
 
     Raises:
@@ -102,6 +102,8 @@ def find(
         raise ParameterError(f"jobs must be 0 to {_MOST_JOBS}, not {jobs!r}.")
     if executor is not None and memory_limit is not None:
         raise ParameterError("memory_limit is for this process, the executor works in others.")
+    if executor is not None and jobs != 1:
+        raise ParameterError("jobs are cores of this process, the executor works in others.")
     if parts < 1:
         raise ParameterError(f"parts must be 1 or more, not {parts!r}.")
     asked = Asked(k, min_weight, max_weight, intensity, time_limit)
