@@ -75,6 +75,18 @@ inline Graph Two_sides(Random& random, std::uint32_t side) {
   return graph;
 }
 
+/// Node 1 has so many neighbours, which are linked in so many per cent of the cases, and come
+/// behind it in every search, as each has leaves of its own: most of the work may be at one node.
+inline Graph With_hot_node(Random& random, std::uint32_t neighbours, std::uint32_t percent) {
+  Graph graph = Uniform(random, neighbours + 1, percent);
+  for (Node_index neigh = 2; neigh <= neighbours + 1; ++neigh) {
+    Link_all(graph, {1, neigh});
+    while (graph[neigh].size() <= neighbours)
+      Link_all(graph, {neigh, static_cast<Node_index>(graph.size() + 1)});
+  }
+  return graph;
+}
+
 /// A graph of a kind that the seed chooses; most have 1 to 25 nodes, some up to 70.
 inline Graph Random_graph(std::uint32_t seed) {
   Random random(seed);

@@ -23,8 +23,7 @@ Clique_vector Rows(const Part_reader& reader) {
 std::uint64_t Write_clique_part(const Byte_taker& take, const Graph_part& graph,
                                 std::uint64_t part) {
   Clique_vector cliques;
-  const Run_plan& plan = graph.Plan();
-  Search_places(graph.Graph(), plan.starts[part - 1], plan.starts[part], cliques);
+  Search_the_range(graph.Graph(), graph.Plan().ranges[part - 1], cliques);
   Part_writer writer(take, {Part_kind::cliques, graph.Fingerprint(), part});
   writer.Add(cliques.Starts());
   writer.Add(cliques.Values());
@@ -43,13 +42,14 @@ void Write_all_cliques(const Byte_taker& take, const Graph_part& graph,
   for (const Clique_vector* cliques : parts) count += cliques->size();
   if (count > most_numbered_cliques)
     throw Xerror_msg("ERROR: there are more cliques than can be numbered.\n");
+  const Joined_ranges joined(graph.Graph(), graph.Plan().ranges, parts);
   Part_writer writer(take, {Part_kind::all_cliques, graph.Fingerprint(), 0});
   writer.Begin_section();
   std::uint64_t offset = 0;
   std::vector<std::uint64_t> ends;
   if (count > 0) writer.Append(std::span<const std::uint64_t>(&offset, 1));
   std::vector<std::size_t> sizes(1, 0);
-  for (const Clique_vector* cliques : parts) {
+  for (const Clique_vector* cliques : joined.Blocks()) {
     ends.clear();
     for (std::size_t i = 0; i < cliques->size(); ++i) {
       const std::size_t size = (*cliques)[i].size();
@@ -60,7 +60,7 @@ void Write_all_cliques(const Byte_taker& take, const Graph_part& graph,
     writer.Append(std::span<const std::uint64_t>(ends));
   }
   writer.Begin_section();
-  for (const Clique_vector* cliques : parts) writer.Append(cliques->Values());
+  for (const Clique_vector* cliques : joined.Blocks()) writer.Append(cliques->Values());
   writer.Add(std::span<const std::size_t>(sizes));
   writer.Add(std::span<const Level_group>(Groups_of_levels(graph.Plan(), sizes)));
   writer.End();

@@ -28,8 +28,8 @@ struct All_cliques {
   std::vector<Level_group> groups;   ///< as many as parts
 };
 
-/// Puts the cliques of all parts behind each other, and writes them with the groups of levels.
-/// Throws Xerror_msg if there are more than can be numbered.
+/// Puts the cliques of all parts behind each other, those of slices joined, and writes them with
+/// the groups of levels. Throws Xerror_msg if there are more than can be numbered.
 void Write_all_cliques(const Byte_taker& take, const Graph_part& graph,
                        const std::vector<const Clique_vector*>& parts);
 

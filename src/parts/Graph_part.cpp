@@ -12,7 +12,7 @@ enum Section : std::size_t {
   input_file,
   output_dir,
   header,
-  starts,
+  ranges,
   estimates,
   name_bytes,
   name_ends,
@@ -64,7 +64,7 @@ std::uint64_t Write_graph_part(const Byte_taker& take, const Run_plan& plan,
   writer.Add(plan.parameters.input_file);
   writer.Add(plan.parameters.output_dir);
   writer.Add(plan.header);
-  writer.Add(std::span(plan.starts));
+  writer.Add(std::span(plan.ranges));
   writer.Add(std::span(plan.estimates));
   writer.Add(graph.names.Table().All_bytes());
   writer.Add(graph.names.Table().Ends());
@@ -99,10 +99,10 @@ void Graph_part::Read_plan() {
   p.single_k = static_cast<std::uint32_t>(run.single_k);
   nodes_ = run.nodes;
   plan_.header = reader_.Text(header);
-  const auto places = reader_.Section<std::uint64_t>(starts);
+  const auto searched = reader_.Section<Search_range>(ranges);
   const auto works = reader_.Section<std::uint64_t>(estimates);
-  if (places.size() != works.size() + 1) reader_.Refuse_damaged();
-  plan_.starts.assign(places.begin(), places.end());
+  if (searched.size() != works.size()) reader_.Refuse_damaged();
+  plan_.ranges.assign(searched.begin(), searched.end());
   plan_.estimates.assign(works.begin(), works.end());
 }
 

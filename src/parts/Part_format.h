@@ -51,7 +51,7 @@ struct Part_tail {
 constexpr std::array<char, 8> head_magic = {'V', 'O', 'R', 'L', 'P', 'A', 'R', 'T'};
 constexpr std::array<char, 8> tail_magic = {'P', 'A', 'R', 'T', '-', 'E', 'N', 'D'};
 constexpr std::uint64_t byte_order_mark = 0x0102030405060708ULL;
-constexpr std::uint32_t part_format = 1;
+constexpr std::uint32_t part_format = 2;
 constexpr std::size_t section_alignment = 64;
 
 template <typename Value>

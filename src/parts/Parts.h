@@ -59,6 +59,7 @@ enum class Part_state { missing, running, done };
 struct Status {
   std::string output_dir;
   std::vector<Part_state> search;
+  std::vector<std::uint64_t> slices;  ///< the parts of the search that share a node with others
   Part_state gather = Part_state::missing;
   std::vector<Part_state> levels;
   bool finished = false;

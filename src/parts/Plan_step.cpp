@@ -68,11 +68,10 @@ class Planning {
   void Share_out() {
     const Node_order order = Order_of(graph_);
     const Node_work nodes(graph_.Neighs(), order);
-    const std::vector<std::size_t> starts = nodes.Ranges(plan_.Parts());
-    plan_.starts.assign(starts.begin(), starts.end());
-    plan_.starts.resize(plan_.Parts() + 1, order.size());
-    for (std::size_t i = 0; i < plan_.estimates.size(); ++i)
-      plan_.estimates[i] = nodes.Of_range(plan_.starts[i], plan_.starts[i + 1]);
+    plan_.ranges = nodes.Ranges(plan_.Parts());
+    plan_.ranges.resize(plan_.Parts(), {order.size(), order.size()});
+    std::ranges::transform(plan_.ranges, plan_.estimates.begin(),
+                           [&](const Search_range& range) { return nodes.Of(range); });
   }
 
   /// Throws if the folder holds another run.

@@ -23,7 +23,7 @@ std::string Fingerprint_text(const Graph_part& graph) {
 
 std::string Head_text(const Graph_part& graph, const char* first, const char* last) {
   return "# fingerprint " + Fingerprint_text(graph) + "\n" + "step\tpart\t" + first + "\t" + last +
-         "\testimate\tmemory\n";
+         "\testimate\tmemory";
 }
 
 std::string Line(const char* step, std::uint64_t part, const std::string& first,
@@ -32,7 +32,13 @@ std::string Line(const char* step, std::uint64_t part, const std::string& first,
   for (const std::string& field :
        {std::to_string(part), first, last, std::to_string(estimate), std::to_string(memory)})
     line.append("\t").append(field);
-  return line.append("\n");
+  return line;
+}
+
+/// Which slice of its node a part of the search is, from 1 on.
+std::string Slice_text(const Walk_slice& slice) {
+  if (slice.Is_whole()) return "-";
+  return std::to_string(slice.index + 1) + "/" + std::to_string(slice.count);
 }
 
 /// The graph, and what a search has beside it: links to later neighbours, the order of the nodes,
@@ -64,21 +70,26 @@ std::string Truth(bool value) { return value ? "true" : "false"; }
 std::string Plan_text(const Graph_part& graph) {
   const Run_plan& plan = graph.Plan();
   const std::uint64_t memory = Search_memory(graph);
-  std::string text = Head_text(graph, "from", "to");
-  for (std::size_t i = 0; i < plan.estimates.size(); ++i)
-    text += Line("search", i + 1, std::to_string(plan.starts[i]),
-                 std::to_string(plan.starts[i + 1]), plan.estimates[i], memory);
+  std::string text = Head_text(graph, "from", "to") + "\tslice\n";
+  std::uint64_t part = 0;
+  for (const Search_range& range : plan.ranges) {
+    const std::uint64_t estimate = plan.estimates[part];
+    text += Line("search", ++part, std::to_string(range.first), std::to_string(range.last),
+                 estimate, memory);
+    text.append("\t").append(Slice_text(range.slice)).append("\n");
+  }
   return text;
 }
 
 std::string Levels_text(const Graph_part& graph, const All_cliques& all) {
   const std::uint64_t memory = Levels_memory(graph, all);
-  std::string text = Head_text(graph, "largest_k", "smallest_k");
+  std::string text = Head_text(graph, "largest_k", "smallest_k") + "\n";
   std::uint64_t part = 0;
   for (const Level_group& group : all.groups) {
     const bool empty = group.Is_empty();
     text += Line("levels", ++part, empty ? "-" : std::to_string(group.from),
-                 empty ? "-" : std::to_string(group.to), group.estimate, empty ? 0 : memory);
+                 empty ? "-" : std::to_string(group.to), group.estimate, empty ? 0 : memory) +
+            "\n";
   }
   return text;
 }

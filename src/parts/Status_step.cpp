@@ -51,6 +51,7 @@ Status Status_of(const std::string& work) {
                                 : State_of(begun, folder.Cliques_of(part), [&] {
                                     const Open_clique_part found(plan, part, Part_check::ends);
                                   }));
+    if (!plan.Plan().ranges[part - 1].slice.Is_whole()) status.slices.push_back(part);
     status.levels.push_back(State_of(begun, folder.Done(Step::levels, part), [&] {
       if (cliques && cliques->All().groups[part - 1].Is_empty()) return;
       Read_done_mark(folder, plan.Key(Step::levels, part), plan.Output_dir());

@@ -5,6 +5,7 @@
 
 #include "foundation/Processor_level.h"
 #include "search/One_way_cycles.h"
+#include "search/Walk_slices.h"
 
 namespace gns {
 
@@ -27,8 +28,9 @@ class Clique_walk::Descent {
         cycles_(local, clique_, memory.cycle_memory_),
         leaf_cycles_(local, clique_, memory.leaf_memory_) {}
 
-  [[gnu::always_inline]] void Run() {
+  [[gnu::always_inline]] void Run(const Walk_slice& slice) {
     Open_root();
+    if (!slice.Is_whole()) Keep_branches_of(slice);
     while (!memory_.excluded_starts_.empty()) {
       Attempt::Check_for_stop();
       if (Level() >= 2 && attempt_.Runs_over()) return;
@@ -64,6 +66,19 @@ class Clique_walk::Descent {
       if (Share_bit(Row(row), Candidates(0), Words()))
         memory_.excluded_.push_back(static_cast<std::uint32_t>(row));
     if (!Choose_branches()) memory_.excluded_starts_.pop_back();
+  }
+
+  /// Leaves the root the branches of a slice. Those in front of it are excluded, as they are once
+  /// they have been walked.
+  void Keep_branches_of(const Walk_slice& slice) {
+    const std::vector<std::uint64_t> slices =
+        Slices_of_branches(local_, Candidates(0), To_branch(0), slice.count);
+    auto its_slice = slices.begin();
+    For_each_bit(To_branch(0), Words(), [&](std::size_t branch) {
+      const std::uint64_t at = *its_slice++;
+      if (at != slice.index) Flip_bit(To_branch(0), branch);
+      if (at < slice.index) Retire(0, branch);
+    });
   }
 
   /// Takes the next branch of the deepest level, or closes the level if there is none.
@@ -212,14 +227,15 @@ class Clique_walk::Descent {
   One_way_cycles<fixed_words> leaf_cycles_;  ///< of the last node of a clique
 };
 
-void Clique_walk::Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found) {
+void Clique_walk::Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found,
+                       const Walk_slice& slice) {
   found.clear();
   With_row_length(local.words, [&](auto fixed_words) {
     Run_at_processor_level([&] {
       if (local.out_rows.empty())
-        Descent<false, fixed_words()>(*this, local, attempt, found).Run();
+        Descent<false, fixed_words()>(*this, local, attempt, found).Run(slice);
       else
-        Descent<true, fixed_words()>(*this, local, attempt, found).Run();
+        Descent<true, fixed_words()>(*this, local, attempt, found).Run(slice);
     });
   });
 }

@@ -4,6 +4,7 @@
 
 #include "search/Attempt.h"
 #include "search/Local_graph.h"
+#include "search/Search_range.h"
 
 namespace gns {
 
@@ -25,7 +26,9 @@ class Clique_walk {
 
   /// Replaces `found` by one row of local.words words per clique, in no particular order. Where the
   /// attempt runs over, the cliques found until then are a part of them, and maximal all the same.
-  void Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found);
+  /// A slice of the walk finds some of them; each is found by one of the slices.
+  void Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found,
+            const Walk_slice& slice = {});
 
  private:
   template <bool directed, std::size_t fixed_words>

@@ -29,6 +29,32 @@ Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
 void Directed_node_search::Find(Node_index node, Attempt& attempt, Clique_vector& cliques) {
   if (!graph_.Cut_out(node, local_)) return;
   walk_.Find(local_, attempt, found_);
+  Record_in_order(attempt, cliques);
+}
+
+/// Their order is found once, for all of them.
+void Directed_node_search::Find_slice(Node_index node, const Walk_slice& slice,
+                                      Clique_vector& cliques) {
+  if (!graph_.Cut_out(node, local_)) return;
+  Attempt without_limit;
+  walk_.Find(local_, without_limit, found_, slice);
+  local_.Record_all(cliques, found_);
+}
+
+void Directed_node_search::Join(Node_index node, std::span<const Clique_vector* const> slices,
+                                Clique_vector& cliques) {
+  if (!graph_.Cut_out(node, local_)) return;
+  found_.clear();
+  for (const Clique_vector* const slice : slices)
+    for (std::size_t i = 0; i < slice->size(); ++i) {
+      Attempt::Check_for_stop();
+      local_.Append_row((*slice)[i], found_);
+    }
+  Attempt without_limit;
+  Record_in_order(without_limit, cliques);
+}
+
+void Directed_node_search::Record_in_order(Attempt& attempt, Clique_vector& cliques) {
   for (const std::uint32_t place : order_.Sort(local_, attempt, found_)) {
     Attempt::Check_for_stop();
     local_.Record(cliques, found_.data() + place * local_.words);

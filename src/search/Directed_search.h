@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "graph/Vertex_map.h"
@@ -15,15 +16,20 @@
 namespace gns {
 
 /// Finds the directed cliques of a node, in the order of Gap_order.
-class Directed_node_search : public Node_search {
+class Directed_node_search : public Sliced_node_search {
  public:
   /// `graph` must outlive the object.
   explicit Directed_node_search(const Search_graph& graph) : graph_(graph) {}
 
   void Find(Node_index node, Attempt& attempt, Clique_vector& cliques) override;
+  void Find_slice(Node_index node, const Walk_slice& slice, Clique_vector& cliques) override;
+  void Join(Node_index node, std::span<const Clique_vector* const> slices,
+            Clique_vector& cliques) override;
   void Finish(Node_index node) override { graph_.Finish(node); }
 
  private:
+  void Record_in_order(Attempt& attempt, Clique_vector& cliques);
+
   Unfinished_graph graph_;
   Clique_walk walk_;
   Gap_order order_;

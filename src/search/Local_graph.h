@@ -1,9 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
 #include "graph/Node_set.h"
+#include "search/Attempt.h"
 #include "search/Bit_rows.h"
 #include "search/Clique_vector.h"
 
@@ -35,6 +37,23 @@ struct Local_graph {
   void Record(Clique_vector& cliques, const Bit_word* row) const {
     For_each_bit(row, words, [&](std::size_t position) { cliques.Append(nodes[position]); });
     cliques.Close_row();
+  }
+  /// Adds all rows, one behind the other. Polls.
+  void Record_all(Clique_vector& cliques, const std::vector<Bit_word>& all) const {
+    for (std::size_t at = 0; at < all.size(); at += words) {
+      Attempt::Check_for_stop();
+      Record(cliques, all.data() + at);
+    }
+  }
+  /// Appends the row of bits of a clique that was recorded.
+  void Append_row(Node_span clique, std::vector<Bit_word>& all) const {
+    all.resize(all.size() + words, 0);
+    Bit_word* const row = all.data() + all.size() - words;
+    auto place = nodes.begin();
+    for (const Node_index node : clique) {
+      place = std::lower_bound(place, nodes.end(), node);
+      Flip_bit(row, static_cast<std::size_t>(place - nodes.begin()));
+    }
   }
 };
 

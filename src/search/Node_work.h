@@ -6,6 +6,7 @@
 
 #include "graph/Adjacency.h"
 #include "graph/Node_order.h"
+#include "search/Search_range.h"
 
 namespace gns {
 
@@ -22,9 +23,11 @@ class Node_work {
   /// Of the nodes at the places from `first` up to `last` of the order.
   [[nodiscard]] std::uint64_t Of_range(std::size_t first, std::size_t last) const;
 
-  /// Cuts the order into so many ranges, or fewer, of about equal work: the places where they
-  /// begin, ascending from 0, and the end.
-  [[nodiscard]] std::vector<std::size_t> Ranges(std::size_t count) const;
+  [[nodiscard]] std::uint64_t Of(const Search_range& range) const;
+
+  /// Cuts the order into so many ranges, or fewer, of about equal work, one behind the other. A
+  /// node that has the work of several is cut into slices.
+  [[nodiscard]] std::vector<Search_range> Ranges(std::size_t count) const;
 
  private:
   const Adjacency& neighs_;

@@ -33,12 +33,47 @@ Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix, const Ve
 }  // namespace
 
 void Undirected_node_search::Find(Node_index node, Attempt& attempt, Clique_vector& cliques) {
+  Find(node, {}, attempt, cliques);
+}
+
+void Undirected_node_search::Find_slice(Node_index node, const Walk_slice& slice,
+                                        Clique_vector& cliques) {
+  Attempt without_limit;
+  Find(node, slice, without_limit, cliques);
+}
+
+void Undirected_node_search::Find(Node_index node, const Walk_slice& slice, Attempt& attempt,
+                                  Clique_vector& cliques) {
   if (!graph_.Cut_out(node, local_)) return;
-  walk_.Find(local_, attempt, found_);
+  walk_.Find(local_, attempt, found_, slice);
   if (!attempt.Timed_out()) Sort_found();
-  for (std::size_t at = 0; at < found_.size(); at += local_.words) {
+  local_.Record_all(cliques, found_);
+}
+
+/// Each slice is in order.
+void Undirected_node_search::Join(Node_index /*node*/, std::span<const Clique_vector* const> slices,
+                                  Clique_vector& cliques) {
+  struct Rest {
+    const Clique_vector* slice;
+    std::size_t row;
+    [[nodiscard]] Node_span First() const { return (*slice)[row]; }
+  };
+  const auto comes_later = [](const Rest& a, const Rest& b) {
+    return std::ranges::lexicographical_compare(b.First(), a.First());
+  };
+  std::vector<Rest> heap;
+  for (const Clique_vector* const slice : slices)
+    if (!slice->empty()) heap.push_back({slice, 0});
+  std::ranges::make_heap(heap, comes_later);
+  while (!heap.empty()) {
     Attempt::Check_for_stop();
-    local_.Record(cliques, found_.data() + at);
+    std::ranges::pop_heap(heap, comes_later);
+    Rest& next = heap.back();
+    cliques.push_back(next.First());
+    if (++next.row < next.slice->size())
+      std::ranges::push_heap(heap, comes_later);
+    else
+      heap.pop_back();
   }
 }
 

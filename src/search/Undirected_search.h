@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "graph/Vertex_map.h"
@@ -15,16 +16,20 @@ namespace gns {
 
 /// Finds the cliques of a node of an undirected graph, in ascending lexicographic order (in any
 /// order where the attempt runs over).
-class Undirected_node_search : public Node_search {
+class Undirected_node_search : public Sliced_node_search {
  public:
   /// Cliques of fewer than `least_size` nodes are left out. `graph` must outlive the object.
   explicit Undirected_node_search(const Search_graph& graph, std::size_t least_size = 3)
       : graph_(graph), walk_(least_size) {}
 
   void Find(Node_index node, Attempt& attempt, Clique_vector& cliques) override;
+  void Find_slice(Node_index node, const Walk_slice& slice, Clique_vector& cliques) override;
+  void Join(Node_index node, std::span<const Clique_vector* const> slices,
+            Clique_vector& cliques) override;
   void Finish(Node_index node) override { graph_.Finish(node); }
 
  private:
+  void Find(Node_index node, const Walk_slice& slice, Attempt& attempt, Clique_vector& cliques);
   void Sort_found();
 
   Unfinished_graph graph_;

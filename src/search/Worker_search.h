@@ -12,7 +12,7 @@
 namespace gns {
 
 /// Makes one more search of the same graph, of which no node has finished. Called from any worker.
-using Search_maker = std::function<std::unique_ptr<Node_search>()>;
+using Search_maker = std::function<std::unique_ptr<Sliced_node_search>()>;
 
 /// Searches all nodes on the workers of the run, without a time limit: the same cliques in the same
 /// order as Search_queue() has. `cliques` grows as ranges of nodes are done with, in their order,

@@ -22,10 +22,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A network as a link file, with weights from 1 to 9: sparse, dense or of cliques.
+/// A network as a link file, with weights from 1 to 9: sparse, dense, of cliques, or with most of
+/// the work at one node.
 std::string Links(std::uint32_t seed) {
   literal::Random random(seed);
-  const literal::Graph graph = seed % 3 == 0   ? literal::Uniform(random, 30, 60)
+  const literal::Graph graph = seed % 4 == 3   ? literal::With_hot_node(random, 40, 25)
+                               : seed % 3 == 0 ? literal::Uniform(random, 30, 60)
                                : seed % 3 == 1 ? literal::Clique_rich(random, 90)
                                                : literal::Uniform(random, 60, 20);
   std::ostringstream lines;
@@ -106,7 +108,7 @@ class Ordered_keeper : public Run_keeper {
 TEST(ThreadsWorkerRun, KeepersAndTablesGetTheSame) {
   const Temp_dir temp;
   Run_parameters parameters;
-  parameters.input_file = temp.Write("links", Links(3));
+  parameters.input_file = temp.Write("links", Links(6));
   std::vector<Ordered_keeper> keepers(2);
   std::vector<Com_result_tables> tables(2);
   for (const unsigned workers : {1U, 4U}) {

@@ -50,11 +50,25 @@ inline std::string Drawn_links(std::uint32_t seed, bool directed) {
   return text.str();
 }
 
+/// The same of a network of which one node has most of the work.
+inline std::string Hot_links(bool directed) {
+  literal::Random random(1);
+  constexpr std::uint32_t neighbours = 60;
+  constexpr std::uint32_t percent = 10;
+  constexpr std::uint32_t mutual = 50;
+  const literal::Graph graph = literal::With_hot_node(random, neighbours, percent);
+  std::ostringstream text;
+  for (const auto& [from, to] : literal::Directed(random, graph, directed ? mutual : 0))
+    text << "n" << from << " n" << to << " " << random.Between(1, 40) / 4.0 << "\n";
+  return text.str();
+}
+
 /// A network and the switches of a run of it.
 struct Parts_run {
   std::string name;
   std::string links;
   Run_parameters parameters = {};
+  bool has_hot_node = false;  ///< in seven parts or more some are slices
 };
 
 /// Every kind of run on networks of every kind.
@@ -81,6 +95,12 @@ inline std::vector<Parts_run> Parts_runs() {
     p.single_k = 3;
     runs.push_back({"drawn " + std::to_string(seed), Drawn_links(seed, p.directed), p});
   }
+  runs.push_back({"hot", Hot_links(false), {}, true});
+  runs.push_back({"hot, directed", Hot_links(true), {}, true});
+  runs.back().parameters.directed = true;
+  runs.push_back({"hot, intensity", Hot_links(false), {}, true});
+  runs.back().parameters.use_intensity = true;
+  runs.back().parameters.intensity_threshold = 4;
   runs.push_back({"no links", "# none\n"});
   return runs;
 }

@@ -23,6 +23,9 @@ TEST(Parts, MakeTheDirectoryOfASingleRun) {
       const std::string work = temp.Path("work" + number);
       Plan(parameters, {}, work, parts);
       EXPECT_TRUE(Is_marked_unfinished(parameters.output_dir));
+      if (run.has_hot_node) {
+        EXPECT_EQ(Status_of(work).slices.empty(), parts < 7);
+      }
       const Finished_run finished = Run_planned(work, parts);
       EXPECT_EQ(Contents_of(parameters.output_dir), single);
       EXPECT_EQ(finished.parameters.output_dir, parameters.output_dir);

@@ -147,7 +147,7 @@ TEST_F(PartsInTrouble, AreRefusedByNameWithTheCure) {
        gather, "is no part of a run", "vorlane parts search"},
       {"other program", change("/cliques.1.bin", 40, '0'), gather,
        "was made by version 0.0.0 of Vorlane", "vorlane parts search"},
-      {"other format", change("/cliques.1.bin", 16, 2), gather, "has version 2 of the format",
+      {"other format", change("/cliques.1.bin", 16, 1), gather, "has version 1 of the format",
        "vorlane parts search"},
       {"other machine", change("/cliques.1.bin", 8, 1), gather, "in another order",
        "vorlane parts search"},

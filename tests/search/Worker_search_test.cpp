@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <stdexcept>
 #include <string>
@@ -62,6 +63,27 @@ TEST(ThreadsWorkerSearch, FindsTheSameInTheSameOrder) {
   }
 }
 
+/// Whoever brings the last slice of a node joins them.
+TEST(ThreadsWorkerSearch, ShareTheSlicesOfAHotNode) {
+  for (std::uint32_t seed = 0; seed < 4; ++seed) {
+    literal::Random random(seed);
+    const literal::Graph graph = literal::With_hot_node(random, 90, 25);
+    const std::set<Index_pair> links = literal::Directed(random, graph, 50);
+    const Vertex_map vertices = literal::Vertex_map_of(graph);
+    Node_order order;
+    Sort_Vtx_map(order, vertices);
+    const Node_work nodes(vertices.Rows(), order);
+    for (const std::set<Index_pair>* const kind : {&links, decltype(&links){}}) {
+      const std::vector<Set> expected = Found(1, graph, kind);
+      for (const unsigned workers : {2U, 4U, 16U}) {
+        EXPECT_TRUE(std::ranges::any_of(nodes.Ranges(std::size_t{64} * workers),
+                                        [](auto& range) { return range.slice.count > 8; }));
+        EXPECT_EQ(Found(workers, graph, kind), expected) << seed << " " << workers;
+      }
+    }
+  }
+}
+
 /// Ranges that leave some out, as parts on other machines do.
 TEST(ThreadsWorkerSearch, RangesStandByThemselves) {
   literal::Random random(1);
@@ -69,21 +91,21 @@ TEST(ThreadsWorkerSearch, RangesStandByThemselves) {
   Node_order order;
   Sort_Vtx_map(order, vertices);
   const Search_graph graph(vertices.Rows(), order);
-  const std::vector<std::size_t> starts = Node_work(vertices.Rows(), order).Ranges(7);
-  ASSERT_GE(starts.size(), 6U);
+  const std::vector<Search_range> ranges = Node_work(vertices.Rows(), order).Ranges(7);
+  ASSERT_GE(ranges.size(), 6U);
   Clique_vector all;
   Clique_vector joined;
   Undirected_node_search search(graph);
-  Range_search(search, order).Find(0, order.size(), all);
-  for (std::size_t range = 0; range + 1 < starts.size(); ++range) {
+  Range_search(search, order).Find({0, order.size()}, all);
+  for (const Search_range& range : ranges) {
     Undirected_node_search fresh(graph);
-    Range_search(fresh, order).Find(starts[range], starts[range + 1], joined);
+    Range_search(fresh, order).Find(range, joined);
   }
   EXPECT_EQ(literal::Sets_of(joined), literal::Sets_of(all));
 }
 
 /// A search that finds one clique at a node, and at one of them fails or asks for a stop.
-class Failing_search : public Node_search {
+class Failing_search : public Sliced_node_search {
  public:
   Failing_search(Node_index bad, bool stops) : bad_(bad), stops_(stops) {}
   void Find(Node_index node, Attempt& /*attempt*/, Clique_vector& cliques) override {
@@ -91,6 +113,14 @@ class Failing_search : public Node_search {
     if (node != bad_) return;
     if (!stops_) throw std::runtime_error("bad node");
     external_control::This_control().stop = true;
+  }
+  void Find_slice(Node_index /*node*/, const Walk_slice& /*slice*/,
+                  Clique_vector& /*cliques*/) override {
+    throw std::runtime_error("no node has the work of several ranges");
+  }
+  void Join(Node_index node, std::span<const Clique_vector* const> /*slices*/,
+            Clique_vector& cliques) override {
+    Find_slice(node, {}, cliques);
   }
   void Finish(Node_index /*node*/) override {}
 

@@ -80,6 +80,8 @@ std::string In_words(const parts::Status& status, const parts::Work_folder& fold
   std::string text = "results in " + status.output_dir + " are " +
                      (status.finished ? "finished\n" : "not finished\n");
   text += Line_of(Step::search, status.search);
+  if (status.gather != Part_state::done && !status.slices.empty())
+    text += "    slices of single nodes: " + Ranges_of(status.slices, ", ") + "\n";
   text += "  gather: " + Name_of(status.gather) + "\n";
   text += Line_of(Step::levels, status.levels);
   const std::vector<std::string> commands = Next_commands(status, folder);

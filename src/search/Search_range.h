@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+
+namespace gns {
+
+/// One of several shares of the walk for a node: each has some of its first branches, in their
+/// order, and together they have all. There may be more slices than branches.
+struct Walk_slice {
+  std::uint64_t index = 0;
+  std::uint64_t count = 1;
+
+  [[nodiscard]] bool Is_whole() const { return count == 1; }
+};
+
+/// What a search is cut into: the nodes at the places from `first` up to `last` of the node order,
+/// or a slice of the walk for a single one.
+struct Search_range {
+  std::uint64_t first = 0;
+  std::uint64_t last = 0;
+  Walk_slice slice = {};
+};
+
+}  // namespace gns
