@@ -25,8 +25,7 @@ class Node_work {
 
   [[nodiscard]] std::uint64_t Of(const Search_range& range) const;
 
-  /// Cuts the order into so many ranges, or fewer, of about equal work, one behind the other. A
-  /// node that has the work of several is cut into slices.
+  /// Those of Ranges_of().
   [[nodiscard]] std::vector<Search_range> Ranges(std::size_t count) const;
 
  private:

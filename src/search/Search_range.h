@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <vector>
 
 namespace gns {
 
@@ -20,5 +22,10 @@ struct Search_range {
   std::uint64_t last = 0;
   Walk_slice slice = {};
 };
+
+/// Cuts the places of an order, at each of which there is so much work, into `count` ranges or
+/// fewer of about equal work, one behind the other. A place that has the work of several is cut
+/// into slices.
+std::vector<Search_range> Ranges_of(const std::vector<std::uint64_t>& works, std::size_t count);
 
 }  // namespace gns
