@@ -1,37 +1,35 @@
 #include "search/Clique_walk.h"
 
-#include <algorithm>
 #include <limits>
 
 #include "foundation/Processor_level.h"
 #include "search/One_way_cycles.h"
+#include "search/Walk_levels.h"
 #include "search/Walk_slices.h"
 
 namespace gns {
 
-/// One walk over a local graph. With fixed_words 0 the row length is known at run time only.
-///
-/// Level l of the walk holds a set of candidates that can join the partial clique, the part of them
-/// still to branch on, and the list of excluded rows that can join it.
+namespace {
+
+/// One walk over a local graph.
 template <bool directed, std::size_t fixed_words>
-class Clique_walk::Descent {
+class Descent : Walk_levels<fixed_words> {
+  using Levels = Walk_levels<fixed_words>;
+
  public:
-  Descent(Clique_walk& memory, const Local_graph& local, Attempt& attempt,
+  Descent(Walk_memory& memory, std::size_t least_size, const Local_graph& local, Attempt& attempt,
           std::vector<Bit_word>& found)
-      : memory_(memory),
-        local_(local),
+      : Levels(memory, local),
+        least_size_(least_size),
         attempt_(attempt),
         found_(found),
-        rows_(local.rows.data()),
-        words_(fixed_words != 0 ? fixed_words : local.words),
-        clique_((memory.clique_.assign(words_, 0), memory.clique_.data())),
-        cycles_(local, clique_, memory.cycle_memory_),
-        leaf_cycles_(local, clique_, memory.leaf_memory_) {}
+        cycles_(local, clique_, memory.cycles),
+        leaf_cycles_(local, clique_, memory.leaf_cycles) {}
 
   [[gnu::always_inline]] void Run(const Walk_slice& slice) {
     Open_root();
     if (!slice.Is_whole()) Keep_branches_of(slice);
-    while (!memory_.excluded_starts_.empty()) {
+    while (!memory_.excluded_starts.empty()) {
       Attempt::Check_for_stop();
       if (Level() >= 2 && attempt_.Runs_over()) return;
       Step();
@@ -40,32 +38,21 @@ class Clique_walk::Descent {
   }
 
  private:
-  [[nodiscard]] std::size_t Words() const { return fixed_words != 0 ? fixed_words : words_; }
-  [[nodiscard]] const Bit_word* Row(std::size_t row) const { return rows_ + row * Words(); }
-  [[nodiscard]] std::size_t Level() const { return memory_.excluded_starts_.size() - 1; }
-  [[nodiscard]] Bit_word* Candidates(std::size_t level) {
-    return memory_.bits_.data() + level * 2 * Words();
-  }
-  [[nodiscard]] Bit_word* To_branch(std::size_t level) { return Candidates(level) + Words(); }
-
-  void Reserve_level(std::size_t level) {
-    if (memory_.bits_.size() < (level + 1) * 2 * Words())
-      memory_.bits_.resize((level + 1) * 4 * Words());
-  }
+  using Levels::Candidates;
+  using Levels::clique_;
+  using Levels::Close_level;
+  using Levels::Level;
+  using Levels::local_;
+  using Levels::memory_;
+  using Levels::Reserve_level;
+  using Levels::Retire;
+  using Levels::Row;
+  using Levels::To_branch;
+  using Levels::Words;
 
   void Open_root() {
-    Flip_bit(clique_, local_.home);
-    memory_.branches_.clear();
-    memory_.excluded_.clear();
-    memory_.excluded_starts_.assign(1, 0);
-    Reserve_level(0);
-    std::fill_n(Candidates(0), Words(), 0);
-    for (std::size_t i = 0; i < local_.nodes.size(); ++i) Flip_bit(Candidates(0), i);
-    Flip_bit(Candidates(0), local_.home);
-    for (std::size_t row = local_.nodes.size(); row < local_.Row_count(); ++row)
-      if (Share_bit(Row(row), Candidates(0), Words()))
-        memory_.excluded_.push_back(static_cast<std::uint32_t>(row));
-    if (!Choose_branches()) memory_.excluded_starts_.pop_back();
+    Levels::Open_root();
+    if (!Choose_branches()) memory_.excluded_starts.pop_back();
   }
 
   /// Leaves the root the branches of a slice. Those in front of it are excluded, as they are once
@@ -107,9 +94,9 @@ class Clique_walk::Descent {
       count += static_cast<std::size_t>(std::popcount(below[w]));
     }
     const std::size_t most_nodes = level + 2 + count;  // of a clique with all candidates
-    if (most_nodes < memory_.least_size_) return false;
-    const std::size_t start = memory_.excluded_.size();
-    attempt_.Add_work((start - memory_.excluded_starts_[level] + count) * Words());
+    if (most_nodes < least_size_) return false;
+    const std::size_t start = memory_.excluded.size();
+    attempt_.Add_work((start - memory_.excluded_starts[level] + count) * Words());
     if (count <= 1) {
       const bool asks_for_time = count == 1 && level >= 1;  // three nodes and a candidate
       if (!asks_for_time || !attempt_.Runs_over())
@@ -117,19 +104,19 @@ class Clique_walk::Descent {
       return false;
     }
 
-    for (std::size_t i = memory_.excluded_starts_[level]; i < start; ++i) {
-      const std::uint32_t row = memory_.excluded_[i];
-      if (Can_join(row, next)) memory_.excluded_.push_back(row);
+    for (std::size_t i = memory_.excluded_starts[level]; i < start; ++i) {
+      const std::uint32_t row = memory_.excluded[i];
+      if (Can_join(row, next)) memory_.excluded.push_back(row);
     }
-    memory_.excluded_starts_.push_back(start);
+    memory_.excluded_starts.push_back(start);
     Flip_bit(clique_, next);
     if (!Choose_branches()) {
-      memory_.excluded_starts_.pop_back();
-      memory_.excluded_.resize(start);
+      memory_.excluded_starts.pop_back();
+      memory_.excluded.resize(start);
       Flip_bit(clique_, next);
       return false;
     }
-    memory_.branches_.push_back(next);
+    memory_.branches.push_back(next);
     return true;
   }
 
@@ -143,7 +130,7 @@ class Clique_walk::Descent {
   /// The partial clique with `next` and `last` (the same one where there is no further candidate)
   /// is maximal unless an excluded node can join. With the node in hand alone, one candidate makes
   /// no clique of three.
-  void Try_leaf(std::size_t level, std::size_t next, std::size_t last) {
+  [[gnu::always_inline]] void Try_leaf(std::size_t level, std::size_t next, std::size_t last) {
     if (level == 0 && next == last) return;
     Flip_bit(clique_, next);
     if (Is_maximal(level, next, last)) {
@@ -156,8 +143,8 @@ class Clique_walk::Descent {
   [[nodiscard, gnu::always_inline]] bool Is_maximal(std::size_t level, std::size_t next,
                                                     std::size_t last) {
     bool looked = !directed || next == last;
-    for (std::size_t i = memory_.excluded_starts_[level]; i < memory_.excluded_.size(); ++i) {
-      const std::uint32_t row = memory_.excluded_[i];
+    for (std::size_t i = memory_.excluded_starts[level]; i < memory_.excluded.size(); ++i) {
+      const std::uint32_t row = memory_.excluded[i];
       if (!Has_bit(Row(row), last) || !Can_join(row, next)) continue;
       if constexpr (directed) {
         if (!looked) leaf_cycles_.Join(last);
@@ -190,8 +177,8 @@ class Clique_walk::Descent {
         if constexpr (directed) branches[w] |= cycles_.Blockers(w);
       }
     };
-    for (std::size_t i = memory_.excluded_starts_[level]; i < memory_.excluded_.size(); ++i) {
-      consider(memory_.excluded_[i]);
+    for (std::size_t i = memory_.excluded_starts[level]; i < memory_.excluded.size(); ++i) {
+      consider(memory_.excluded[i]);
       if (fewest == 0) return false;
     }
     For_each_bit(candidates, Words(), [&](std::size_t position) {
@@ -200,32 +187,14 @@ class Clique_walk::Descent {
     return true;
   }
 
-  /// A candidate whose cliques are all found is excluded from then on.
-  void Retire(std::size_t level, std::size_t candidate) {
-    Flip_bit(Candidates(level), candidate);
-    memory_.excluded_.push_back(static_cast<std::uint32_t>(candidate));
-  }
-
-  void Close_level() {
-    memory_.excluded_.resize(memory_.excluded_starts_.back());
-    memory_.excluded_starts_.pop_back();
-    if (memory_.branches_.empty()) return;
-    const std::size_t candidate = memory_.branches_.back();
-    memory_.branches_.pop_back();
-    Flip_bit(clique_, candidate);
-    Retire(Level(), candidate);
-  }
-
-  Clique_walk& memory_;
-  const Local_graph& local_;
+  std::size_t least_size_;
   Attempt& attempt_;
   std::vector<Bit_word>& found_;
-  const Bit_word* rows_;
-  std::size_t words_;
-  Bit_word* clique_;
   One_way_cycles<fixed_words> cycles_;       ///< of the node that joins, and of pivots
   One_way_cycles<fixed_words> leaf_cycles_;  ///< of the last node of a clique
 };
+
+}  // namespace
 
 void Clique_walk::Find(const Local_graph& local, Attempt& attempt, std::vector<Bit_word>& found,
                        const Walk_slice& slice) {
@@ -233,9 +202,9 @@ void Clique_walk::Find(const Local_graph& local, Attempt& attempt, std::vector<B
   With_row_length(local.words, [&](auto fixed_words) {
     Run_at_processor_level([&] {
       if (local.out_rows.empty())
-        Descent<false, fixed_words()>(*this, local, attempt, found).Run(slice);
+        Descent<false, fixed_words()>(memory_, least_size_, local, attempt, found).Run(slice);
       else
-        Descent<true, fixed_words()>(*this, local, attempt, found).Run(slice);
+        Descent<true, fixed_words()>(memory_, least_size_, local, attempt, found).Run(slice);
     });
   });
 }

@@ -5,6 +5,7 @@
 #include "search/Attempt.h"
 #include "search/Local_graph.h"
 #include "search/Search_range.h"
+#include "search/Walk_levels.h"
 
 namespace gns {
 
@@ -31,17 +32,8 @@ class Clique_walk {
             const Walk_slice& slice = {});
 
  private:
-  template <bool directed, std::size_t fixed_words>
-  class Descent;
-
   std::size_t least_size_;
-  std::vector<Bit_word> bits_;           ///< per level: the candidates, then those to branch on
-  std::vector<std::uint32_t> excluded_;  ///< rows excluded at each level, level behind level
-  std::vector<Bit_word> clique_;
-  std::vector<std::size_t> branches_;  ///< per level: the candidate it branched on
-  std::vector<std::size_t> excluded_starts_;
-  std::vector<Bit_word> cycle_memory_;
-  std::vector<Bit_word> leaf_memory_;
+  Walk_memory memory_;
 };
 
 }  // namespace gns
