@@ -5,7 +5,6 @@
 #include "foundation/Processor_level.h"
 #include "search/One_way_cycles.h"
 #include "search/Walk_levels.h"
-#include "search/Walk_slices.h"
 
 namespace gns {
 
@@ -28,7 +27,7 @@ class Descent : Walk_levels<fixed_words> {
 
   [[gnu::always_inline]] void Run(const Walk_slice& slice) {
     Open_root();
-    if (!slice.Is_whole()) Keep_branches_of(slice);
+    if (!slice.Is_whole() && !memory_.excluded_starts.empty()) Cut_level(Slice_bounds(slice));
     while (!memory_.excluded_starts.empty()) {
       Attempt::Check_for_stop();
       if (Level() >= 2 && attempt_.Runs_over()) return;
@@ -55,17 +54,52 @@ class Descent : Walk_levels<fixed_words> {
     if (!Choose_branches()) memory_.excluded_starts.pop_back();
   }
 
-  /// Leaves the root the branches of a slice. Those in front of it are excluded, as they are once
-  /// they have been walked.
-  void Keep_branches_of(const Walk_slice& slice) {
-    const std::vector<std::uint64_t> slices =
-        Slices_of_branches(local_, Candidates(0), To_branch(0), slice.count);
-    auto its_slice = slices.begin();
-    For_each_bit(To_branch(0), Words(), [&](std::size_t branch) {
-      const std::uint64_t at = *its_slice++;
-      if (at != slice.index) Flip_bit(To_branch(0), branch);
-      if (at < slice.index) Retire(0, branch);
-    });
+  /// The deepest level is cut, and has no branch at hand: it gets those that come next, or a level
+  /// below it is cut in turn, or it is closed. Seldom called, and kept out of the loop of the walk.
+  [[gnu::noinline, gnu::flatten]] void Go_on_with_slice() {
+    using Fate = Sliced_level::Fate;
+    const std::size_t level = Level();
+    Sliced_level& sliced = memory_.sliced.back();
+    for (; !sliced.Is_over() && sliced.Fate_of_branch() != Fate::behind; sliced.Pass()) {
+      const std::size_t branch = sliced.Branch();
+      switch (sliced.Fate_of_branch()) {
+        case Fate::whole:
+          Flip_bit(To_branch(level), branch);
+          sliced.Pass();
+          return;
+        case Fate::cut:
+          if (Enter_cut(level, sliced)) return;
+          break;
+        default:
+          Retire(level, branch);
+      }
+    }
+    memory_.sliced.pop_back();
+    Close_level();
+  }
+
+  /// True if that opened a level below, which is cut. If not, a clique may have been found, which
+  /// is another slice's unless this one has the branch.
+  bool Enter_cut(std::size_t level, Sliced_level& sliced) {
+    const std::size_t branch = sliced.Branch();
+    const std::size_t found = found_.size();
+    if (!Enter(level, branch)) {
+      if (!sliced.Has_uncut()) found_.resize(found);
+      Retire(level, branch);
+      return false;
+    }
+    const Slice_bounds inside = sliced.Inside();
+    sliced.Pass();
+    Cut_level(inside);
+    return true;
+  }
+
+  /// The deepest level, just opened, has none of its branches at hand from then on but those that
+  /// its slice has.
+  void Cut_level(const Slice_bounds& bounds) {
+    const std::size_t level = Level();
+    memory_.sliced.emplace_back(local_, Candidates(level), To_branch(level), bounds);
+    std::fill_n(To_branch(level), Words(), 0);
   }
 
   /// Takes the next branch of the deepest level, or closes the level if there is none.
@@ -73,7 +107,10 @@ class Descent : Walk_levels<fixed_words> {
     const std::size_t level = Level();
     const std::size_t next = First_bit(To_branch(level), Words());
     if (next == Words() * word_bits) {
-      Close_level();
+      if (level < memory_.sliced.size()) [[unlikely]]
+        Go_on_with_slice();
+      else
+        Close_level();
       return;
     }
     Flip_bit(To_branch(level), next);

@@ -6,8 +6,8 @@
 
 namespace gns {
 
-/// One of several shares of the walk for a node: each has some of its first branches, in their
-/// order, and together they have all. There may be more slices than branches.
+/// One of several shares of the walk for a node, of about equal work: together they find all, each
+/// clique once. Some may find nothing.
 struct Walk_slice {
   std::uint64_t index = 0;
   std::uint64_t count = 1;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "search/Local_graph.h"
+#include "search/Sliced_level.h"
 
 namespace gns {
 
@@ -15,6 +16,7 @@ struct Walk_memory {
   std::vector<std::uint32_t> excluded;  ///< rows excluded at each level, level behind level
   std::vector<std::size_t> excluded_starts;
   std::vector<std::size_t> branches;  ///< per level: the candidate it branched on
+  std::vector<Sliced_level> sliced;   ///< the first levels, as far as a slice cuts them
   std::vector<Bit_word> clique;
   std::vector<Bit_word> cycles;
   std::vector<Bit_word> leaf_cycles;
@@ -52,6 +54,7 @@ class Walk_levels {
   [[gnu::always_inline]] void Open_root() {
     Flip_bit(clique_, local_.home);
     memory_.branches.clear();
+    memory_.sliced.clear();
     memory_.excluded.clear();
     memory_.excluded_starts.assign(1, 0);
     Reserve_level(0);

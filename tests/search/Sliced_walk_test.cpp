@@ -1,5 +1,3 @@
-#include "search/Walk_slices.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -50,23 +48,23 @@ class Any_search {
     return literal::Sets_of(cliques);
   }
 
-  /// With each node cut into so many slices, which are searched apart; how many of them have found
-  /// something goes to `busy`.
+  /// With each node cut into so many slices, each by a search of its own; how many of them have
+  /// found something goes to `busy`.
   [[nodiscard]] std::vector<Set> Sliced(std::uint64_t slices, std::size_t& busy) const {
+    std::vector<std::unique_ptr<Sliced_node_search>> searches;
+    std::vector<Range_search> ranges;
+    for (std::uint64_t i = 0; i < slices; ++i)
+      ranges.emplace_back(*searches.emplace_back(Make()), order);
     Clique_vector cliques;
     for (std::uint64_t place = 0; place < order.size(); ++place) {
       std::vector<Clique_vector> found(slices);
       std::vector<const Clique_vector*> all;
-      const std::unique_ptr<Sliced_node_search> last = Make();
-      Range_search joining(*last, order);
       for (std::uint64_t i = 0; i < slices; ++i) {
-        const std::unique_ptr<Sliced_node_search> search = Make();
-        Range_search apart(*search, order);
-        (i + 1 < slices ? apart : joining).Find({place, place + 1, {i, slices}}, found[i]);
+        ranges[i].Find({place, place + 1, {i, slices}}, found[i]);
         busy += found[i].empty() ? 0 : 1;
         all.push_back(&found[i]);
       }
-      joining.Join({place, place + 1, {0, slices}}, all, cliques);
+      ranges[place % slices].Join({place, place + 1, {0, slices}}, all, cliques);
     }
     return literal::Sets_of(cliques);
   }
@@ -91,7 +89,7 @@ class EachSlicedSearch : public ::testing::TestWithParam<bool> {
   }
 };
 
-INSTANTIATE_TEST_SUITE_P(WalkSlices, EachSlicedSearch, ::testing::Bool());
+INSTANTIATE_TEST_SUITE_P(SlicedWalk, EachSlicedSearch, ::testing::Bool());
 
 TEST_P(EachSlicedSearch, FindsTheSameInTheSameOrder) {
   std::size_t busy = 0;
@@ -107,6 +105,18 @@ TEST_P(EachSlicedSearch, FindsTheSameInTheSameOrder) {
   EXPECT_GT(busy, 20 * samples);
 }
 
+/// So few branches at the root, and so much below, that levels are cut far down.
+TEST_P(EachSlicedSearch, FindsTheSameInDenseGraphs) {
+  std::size_t busy = 0;
+  for (std::uint32_t seed = 0; seed < literal::Samples(40); ++seed) {
+    Random random(seed);
+    const literal::Graph graph = literal::Uniform(random, random.Between(15, 30), 85);
+    Expect_whole(graph, literal::Directed(random, graph, random.Between(30, 100)), busy);
+    if (HasFatalFailure()) FAIL() << seed;
+  }
+  EXPECT_GT(busy, literal::Samples(40) * 60);
+}
+
 /// Rows of one word, two and three.
 TEST_P(EachSlicedSearch, FindsTheSameOnLongBitRows) {
   Random random(2);
@@ -118,24 +128,29 @@ TEST_P(EachSlicedSearch, FindsTheSameOnLongBitRows) {
   }
 }
 
-/// A slice in which most of the work is done by the others is of no use.
-TEST(WalkSlices, HaveAboutTheSameWork) {
+/// A slice is of no use if most of the work is done by the others. Where a neighbour is linked to
+/// all the others, the walk has a single first branch.
+TEST(SlicedWalk, HasSlicesOfAboutTheSameWork) {
   constexpr std::uint64_t slices = 8;
-  Random random(1);
-  const literal::Graph graph = literal::With_hot_node(random, 200, 30);
-  const Any_search search(false, graph, {});
-  const auto hot = static_cast<std::uint64_t>(std::ranges::find(search.order, Node_index{1}) -
-                                              search.order.begin());
-  std::vector<std::size_t> counts;
-  for (std::uint64_t i = 0; i < slices; ++i) {
-    Clique_vector cliques;
-    const std::unique_ptr<Sliced_node_search> fresh = search.Make();
-    Range_search(*fresh, search.order).Find({hot, hot + 1, {i, slices}}, cliques);
-    counts.push_back(cliques.size());
+  for (const bool has_one_branch : {false, true}) {
+    Random random(1);
+    literal::Graph graph = literal::With_hot_node(random, 150, 35);
+    for (Node_index neigh = 3; has_one_branch && neigh <= 151; ++neigh)
+      literal::Link_all(graph, {2, neigh});
+    const Any_search search(false, graph, {});
+    const auto hot = static_cast<std::uint64_t>(std::ranges::find(search.order, Node_index{1}) -
+                                                search.order.begin());
+    std::vector<std::size_t> counts;
+    for (std::uint64_t i = 0; i < slices; ++i) {
+      Clique_vector cliques;
+      const std::unique_ptr<Sliced_node_search> fresh = search.Make();
+      Range_search(*fresh, search.order).Find({hot, hot + 1, {i, slices}}, cliques);
+      counts.push_back(cliques.size());
+    }
+    const std::size_t all = std::accumulate(counts.begin(), counts.end(), std::size_t{0});
+    EXPECT_GT(all, 1000U);
+    EXPECT_LT(std::ranges::max(counts), 2 * all / slices) << has_one_branch;
   }
-  const std::size_t all = std::accumulate(counts.begin(), counts.end(), std::size_t{0});
-  EXPECT_GT(all, 1000U);
-  EXPECT_LT(std::ranges::max(counts), 2 * all / slices);
 }
 
 /// Ranges stand behind each other, are never more than asked for, and share the work.
