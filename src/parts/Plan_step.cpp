@@ -15,7 +15,7 @@
 #include "parts/Parts.h"
 #include "parts/Plan_texts.h"
 #include "results/Method.h"
-#include "search/Node_work.h"
+#include "search/Node_estimates.h"
 
 namespace gns::parts {
 
@@ -67,11 +67,12 @@ class Planning {
 
   void Share_out() {
     const Node_order order = Order_of(graph_);
-    const Node_work nodes(graph_.Neighs(), order);
-    plan_.ranges = nodes.Ranges(plan_.Parts());
-    plan_.ranges.resize(plan_.Parts(), {order.size(), order.size()});
+    const std::vector<std::uint64_t> works =
+        Estimates_of_nodes(Search_graph(graph_.Neighs(), order), order);
+    plan_.ranges = Ranges_of(works, plan_.Parts());
+    plan_.ranges.resize(plan_.Parts(), {works.size(), works.size()});
     std::ranges::transform(plan_.ranges, plan_.estimates.begin(),
-                           [&](const Search_range& range) { return nodes.Of(range); });
+                           [&](const Search_range& range) { return Work_of(range, works); });
   }
 
   /// Throws if the folder holds another run.

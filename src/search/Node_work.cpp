@@ -21,9 +21,7 @@ std::uint64_t Node_work::Of_range(std::size_t first, std::size_t last) const {
 }
 
 std::uint64_t Node_work::Of(const Search_range& range) const {
-  const std::uint64_t all = Of_range(range.first, range.last);
-  const Walk_slice& slice = range.slice;
-  return all / slice.count + static_cast<std::uint64_t>(slice.index < all % slice.count);
+  return range.slice.Share_of(Of_range(range.first, range.last));
 }
 
 std::vector<Search_range> Node_work::Ranges(std::size_t count) const {

@@ -49,4 +49,10 @@ std::vector<Search_range> Ranges_of(const std::vector<std::uint64_t>& works, std
   return ranges;
 }
 
+std::uint64_t Work_of(const Search_range& range, const std::vector<std::uint64_t>& works) {
+  const auto first = works.begin() + static_cast<std::ptrdiff_t>(range.first);
+  const auto last = works.begin() + static_cast<std::ptrdiff_t>(range.last);
+  return range.slice.Share_of(std::accumulate(first, last, std::uint64_t{0}));
+}
+
 }  // namespace gns

@@ -53,8 +53,8 @@ inline std::string Drawn_links(std::uint32_t seed, bool directed) {
 /// The same of a network of which one node has most of the work.
 inline std::string Hot_links(bool directed) {
   literal::Random random(1);
-  constexpr std::uint32_t neighbours = 60;
-  constexpr std::uint32_t percent = 10;
+  constexpr std::uint32_t neighbours = 80;
+  constexpr std::uint32_t percent = 30;
   constexpr std::uint32_t mutual = 50;
   const literal::Graph graph = literal::With_hot_node(random, neighbours, percent);
   std::ostringstream text;

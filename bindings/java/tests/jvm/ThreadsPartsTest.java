@@ -121,7 +121,7 @@ public class ThreadsPartsTest extends Fixture {
     try (Parts parts = new Parts(work()); Parts others = new Parts(work())) {
       parts.plan(hardLinks(150), path("out"), 100, new Options());
       ExecutorService threads = Executors.newCachedThreadPool();
-      Future<Long> endless = threads.submit(() -> parts.search(1));
+      Future<Long> endless = threads.submit(() -> parts.search(2)); // behind three easy nodes
       Future<Long> last = threads.submit(() -> others.search(100));
       Thread.sleep(50);
       parts.stop();
