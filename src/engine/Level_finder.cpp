@@ -54,14 +54,20 @@ unsigned Workers_with_memory(unsigned workers, const Levels& levels) {
   return static_cast<unsigned>(std::clamp<std::uint64_t>(most, 1, workers));
 }
 
+Levels_input Down_to(std::uint32_t last_k, Levels_input input) {
+  input.last_k = last_k;
+  return input;
+}
+
 }  // namespace
 
 Level_finder::Level_finder(const Levels_input& input, K_range all, unsigned workers)
-    : levels_(input), smallest_k_(all.smallest) {
+    : levels_(Down_to(all.smallest, input)) {
   if (all.smallest > all.largest) return;
   workers_ = std::min(workers, all.largest - all.smallest + 1);
   if (workers_ > 1) workers_ = Workers_with_memory(workers_, levels_);
   fellows_.resize(workers_ - 1);
+  if (workers_ > 1) levels_.Share(all.largest);
 }
 
 void Level_finder::Find(K_range ks, const Level_steps& steps) {
@@ -90,6 +96,7 @@ void Level_finder::Find_on_workers(K_range ks, const Level_steps& steps) {
       found.Put(step, steps.find(ks.largest - step, *levels));
       if (worker == 0) found.Use();
     }
+    if (ks.smallest == levels_.Input().last_k) levels->Give_up_lists();
   });
   found.Use();
 }
@@ -99,7 +106,7 @@ Levels* Level_finder::Levels_of(unsigned worker) {
   if (worker == 0) return &levels_;
   std::optional<Levels>& fellow = fellows_[worker - 1];
   try {
-    if (!fellow) fellow.emplace(levels_.Fellow(smallest_k_));
+    if (!fellow) fellow.emplace(levels_.Fellow());
   } catch (const std::bad_alloc&) {
     return nullptr;
   }

@@ -40,7 +40,6 @@ class Level_finder {
   Levels* Levels_of(unsigned worker);
 
   Levels levels_;  ///< of the first worker
-  std::uint32_t smallest_k_;
   unsigned workers_ = 1;
   std::vector<std::optional<Levels>> fellows_;  ///< of the others, from their first levels on
 };

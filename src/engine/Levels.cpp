@@ -15,7 +15,9 @@ Levels::Levels(const Levels_input& input) : common_(std::make_shared<Common>(inp
     common_->weighted_cliques.emplace(input.cliques, input.index_links);
   else
     common_->percolation.emplace(input.cliques, input.exact_clique_count, false);
-  if (common_->percolation && !input.links_are_kept) common_->percolation->Give_up_links();
+  if (!common_->percolation) return;
+  common_->percolation->Walk().Expect_last(input.last_k);
+  if (!input.links_are_kept) common_->percolation->Give_up_links();
 }
 
 void Levels::Share(std::uint32_t largest_k) {
@@ -26,12 +28,16 @@ void Levels::Share(std::uint32_t largest_k) {
   common_->percolation->Walk().Prepare();
 }
 
-Levels Levels::Fellow(std::uint32_t smallest_k) const {
+Levels Levels::Fellow() const {
   Levels fellow(common_);
   if (!common_->percolation) return fellow;
   fellow.fellow_walk_.emplace(common_->percolation->Walk().Fellow());
-  fellow.fellow_walk_->Make_lists(smallest_k);
+  fellow.fellow_walk_->Make_lists();
   return fellow;
+}
+
+void Levels::Give_up_lists() {
+  if (common_->percolation) Walk().Give_up_lists();
 }
 
 std::uint64_t Levels::Bytes_of_fellow() const {
@@ -58,6 +64,7 @@ void Levels::Join_by_overlap(Level& level) {
   Coms_report_sub::Report_com_export(level.k, Input().max_clique_size, report);
   Report_state(report.str());
   const Claimed_cliques& claimed = Walk().At(level.k);
+  if (level.k == Input().last_k) Give_up_lists();  // the contents need memory, too
   if (common_->turns) common_->turns->Await(common_->largest_k - level.k);
   level.communities = common_->percolation->Contents(level.k, claimed);
   if (common_->turns) common_->turns->Pass();

@@ -29,6 +29,7 @@ struct Levels_input {
   std::uint32_t node_count = 0;
   std::optional<double> intensity_threshold;  ///< set: the intensity method
   std::uint32_t max_clique_size = 0;          ///< for the state report only
+  std::uint32_t last_k = 0;  ///< no k below will be asked for, and it but once; 0: not known
   /// False: the links of a level are not read once the next one has been asked for.
   bool links_are_kept = true;
 };
@@ -66,11 +67,12 @@ class Levels {
   /// Prepares for workers that find every k from `largest_k` downwards once, each of them taking
   /// the largest that is left: from here on a level is found when the one above it is.
   void Share(std::uint32_t largest_k);
-  /// For one more worker, down to `smallest_k`, when they are shared; callable from its thread.
-  /// Throws std::bad_alloc.
-  [[nodiscard]] Levels Fellow(std::uint32_t smallest_k) const;
+  /// For one more worker, when they are shared; callable from its thread. Throws std::bad_alloc.
+  [[nodiscard]] Levels Fellow() const;
   /// About how many bytes a fellow takes.
   [[nodiscard]] std::uint64_t Bytes_of_fellow() const;
+  /// Gives back what only this worker has, for one that finds no level any more.
+  void Give_up_lists();
 
  private:
   /// What all workers see.

@@ -15,6 +15,7 @@ Claim_walk::Claim_walk(const Clique_vector& cliques, std::uint32_t exact_clique_
 Claim_walk Claim_walk::Fellow() const {
   Claim_walk fellow(*cliques_, exact_clique_count_, nested_);
   fellow.ranked_ = ranked_;
+  fellow.last_k_ = last_k_;
   return fellow;
 }
 
@@ -22,10 +23,9 @@ void Claim_walk::Prepare() {
   if (!ranked_) ranked_ = std::make_shared<const Ranked_cliques>(*cliques_);
 }
 
-void Claim_walk::Make_lists(std::uint32_t smallest_k) {
+void Claim_walk::Make_lists() {
   Prepare();
-  std::visit([&](const auto& ranks) { Lists_over(ranks).Make_lists(Overlap_at(smallest_k)); },
-             ranked_->rows);
+  std::visit([&](const auto& ranks) { Lists_over(ranks); }, ranked_->rows);
 }
 
 std::uint64_t Claim_walk::Bytes_of_fellow() const {
@@ -54,7 +54,8 @@ template <typename Rank>
 Claim_walk::Unclaimed<Rank>& Claim_walk::Lists_over(const Clique_ranks<Rank>& ranks) {
   if (std::holds_alternative<std::monostate>(unclaimed_)) {
     claimed_.cliques.reserve(cliques_->size());
-    unclaimed_.emplace<Unclaimed<Rank>>(ranks, ranked_->node_count, nested_);
+    auto& lists = unclaimed_.emplace<Unclaimed<Rank>>(ranks, ranked_->node_count, nested_);
+    if (last_k_ != 0) lists.Make_lists(Overlap_at(last_k_));
   }
   return std::get<Unclaimed<Rank>>(unclaimed_);
 }

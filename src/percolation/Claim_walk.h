@@ -40,9 +40,15 @@ class Claim_walk {
   /// Makes what all walks share, from which fellows come. At() does it, too, where it is missing.
   void Prepare();
 
-  /// Takes the memory that the walk needs down to `smallest_k`, and fills the lists. Without it,
-  /// At() does. Throws std::bad_alloc.
-  void Make_lists(std::uint32_t smallest_k);
+  /// No k below will be asked for, neither of this walk nor of its fellows: lists reach no further.
+  void Expect_last(std::uint32_t last_k) { last_k_ = last_k; }
+
+  /// Takes the memory that the walk needs down to the last k, and fills the lists. Without it, At()
+  /// does. Throws std::bad_alloc.
+  void Make_lists();
+
+  /// Gives the memory of the lists back; what At() has yielded stays. Another At() makes them anew.
+  void Give_up_lists() { unclaimed_.emplace<std::monostate>(); }
 
   /// About how many bytes a fellow takes.
   [[nodiscard]] std::uint64_t Bytes_of_fellow() const;
@@ -71,7 +77,8 @@ class Claim_walk {
   const Clique_vector* cliques_;
   std::uint32_t exact_clique_count_;
   bool nested_;
-  std::size_t largest_ = 0;  ///< size of the largest clique
+  std::uint32_t last_k_ = 0;  ///< 0: not known
+  std::size_t largest_ = 0;   ///< size of the largest clique
   std::shared_ptr<const Ranked_cliques> ranked_;
   Any_unclaimed unclaimed_;  ///< made when it is first needed
   Claimed_cliques claimed_;
