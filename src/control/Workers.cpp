@@ -134,4 +134,13 @@ void On_ranges(std::size_t count, const std::function<void(std::size_t, std::siz
   });
 }
 
+void Do_both(const std::function<void()>& here, const std::function<void()>& beside) {
+  constexpr unsigned two = 2;
+  std::atomic<bool> taken = false;
+  On_workers(std::min(two, This_control().workers), [&](unsigned worker) {
+    if (worker == 0) here();
+    if (!taken.exchange(true)) beside();
+  });
+}
+
 }  // namespace external_control

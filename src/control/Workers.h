@@ -20,4 +20,8 @@ void On_workers(unsigned count, const std::function<void(unsigned worker)>& work
 void On_ranges(std::size_t count,
                const std::function<void(std::size_t first, std::size_t last)>& use);
 
+/// Does both, at the same time if the run has workers: `here` in the calling thread, and otherwise
+/// `beside` behind it.
+void Do_both(const std::function<void()>& here, const std::function<void()>& beside);
+
 }  // namespace external_control

@@ -4,9 +4,11 @@
 #include <utility>
 
 #include "control/Run_control.h"
+#include "control/Workers.h"
 #include "engine/Find_level.h"
 #include "engine/Level_finder.h"
 #include "engine/Levels.h"
+#include "engine/Results_bound.h"
 #include "engine/Work_of_levels.h"
 #include "files/Results_writer.h"
 #include "files/Unfinished_mark.h"
@@ -53,7 +55,8 @@ class Run {
     summary_.nodes = graph_.Node_count();
     summary_.links = graph_.links.size();
     Find_cliques(approximation_needed);
-    Write_cliques();
+    Write_cliques_and_expect_levels();
+    Tell_bound();
     Find_and_write_levels();
     if (File_faults().empty()) mark_->Remove();
   }
@@ -105,18 +108,43 @@ class Run {
     Check_for_stop_signal();
   }
 
-  void Find_and_write_levels() {
+  /// What comes in front of the levels needs no more than the cliques, as their file does.
+  void Write_cliques_and_expect_levels() {
+    const auto expect_levels = [this] {
+      if (wishes_.listener != nullptr)
+        bound_ = Bound_of_results(Input_of_levels(), graph_.names, header_.size(), Ks().largest,
+                                  Ks().smallest);
+      if (Workers_of_levels() > 1 && method_ != Method::intensity) Begin_levels();
+    };
+    external_control::Do_both([this] { Write_cliques(); }, expect_levels);
+  }
+
+  [[nodiscard]] Levels_input Input_of_levels() const {
     Levels_input input(cliques_, graph_.links);
     input.exact_clique_count = exact_count_;
     input.node_count = summary_.nodes;
     if (method_ == Method::intensity) input.intensity_threshold = parameters_.intensity_threshold;
-    input.max_clique_size = Max_clique_size_in_cl_vec(cliques_);
+    input.max_clique_size = Largest_clique();
+    return input;
+  }
 
+  [[nodiscard]] std::uint32_t Largest_clique() const {
+    return static_cast<std::uint32_t>(summary_.cliques_of_size.size() - 1);
+  }
+  [[nodiscard]] K_range Ks() const {
+    if (parameters_.use_single_k) return {parameters_.single_k, parameters_.single_k};
+    return {Largest_clique(), least_k};
+  }
+  /// A table has entries of every k, and no lock.
+  [[nodiscard]] unsigned Workers_of_levels() const {
+    return wishes_.tables == Table_pointers() ? external_control::This_control().workers : 1;
+  }
+
+  void Begin_levels() { levels_.emplace(Input_of_levels(), Ks(), Workers_of_levels()); }
+
+  void Find_and_write_levels() {
     const bool single = parameters_.use_single_k;
-    const std::uint32_t from = single ? parameters_.single_k : input.max_clique_size;
-    const std::uint32_t to = single ? parameters_.single_k : least_k;
-    Tell_bound(input, from, to);
-    Work_of_levels work(summary_.cliques_of_size, from, to);
+    Work_of_levels work(summary_.cliques_of_size, Ks().largest, Ks().smallest);
     const Level_output output = {*results_, graph_.names};
     const auto find_and_write = [&](std::uint32_t k, Levels& levels) {
       if (!single) Check_for_stop_signal();
@@ -130,10 +158,8 @@ class Run {
       summary_.extractions.push_back({level.k, std::move(level.statistics)});
       if (!single) work.End_level(level.k);
     };
-    // A table has entries of every k, and no lock.
-    const bool one_by_one = wishes_.tables != Table_pointers();
-    const unsigned workers = one_by_one ? 1 : external_control::This_control().workers;
-    Level_finder(input, {from, to}, workers).Find({from, to}, {find_and_write, keep});
+    if (!levels_) Begin_levels();
+    levels_->Find(Ks(), {find_and_write, keep});
   }
 
   static void Leave_statistics_only(Level& level) {
@@ -143,15 +169,14 @@ class Run {
     level = std::move(kept);
   }
 
-  void Tell_bound(const Levels_input& input, std::uint32_t from, std::uint32_t to) const {
+  void Tell_bound() const {
     if (wishes_.listener == nullptr) return;
-    const Results_bound bound = Bound_of_results(input, graph_.names, header_.size(), from, to);
     external_control::Output_bound& told = external_control::This_control().output_bound;
-    told.entries = bound.entries;
-    told.files = bound.files;
-    told.bytes = bound.bytes;
-    told.pair_bytes = bound.pair_bytes;
-    wishes_.listener->Bound_known(bound);
+    told.entries = bound_.entries;
+    told.files = bound_.files;
+    told.bytes = bound_.bytes;
+    told.pair_bytes = bound_.pair_bytes;
+    wishes_.listener->Bound_known(bound_);
   }
 
   const Run_parameters& parameters_;
@@ -164,6 +189,8 @@ class Run {
   Named_graph graph_;
   Clique_vector cliques_;
   std::uint32_t exact_count_ = 0;
+  Results_bound bound_;
+  std::optional<Level_finder> levels_;
 };
 
 }  // namespace

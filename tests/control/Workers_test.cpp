@@ -95,5 +95,31 @@ TEST_F(ThreadsWorkers, OneStartsNoThread) {
   On_workers(1, [&](unsigned) { EXPECT_EQ(std::this_thread::get_id(), caller); });
 }
 
+/// With one worker one behind the other; with two, each may wait for the other to begin.
+TEST_F(ThreadsWorkers, DoBothOnce) {
+  for (const unsigned count : {1U, 2U}) {
+    run_.workers = count;
+    const auto caller = std::this_thread::get_id();
+    std::atomic<int> begun = 0;
+    const auto begin = [&] {
+      ++begun;
+      while (count == 2 && begun < 2) std::this_thread::yield();
+    };
+    Do_both(
+        [&] {
+          EXPECT_TRUE(count == 2 || begun == 0);
+          begin();
+          EXPECT_EQ(std::this_thread::get_id(), caller);
+        },
+        [&] {
+          begin();
+          EXPECT_EQ(std::this_thread::get_id() == caller, count == 1);
+        });
+    EXPECT_EQ(begun, 2);
+    EXPECT_THROW(Do_both([] { throw std::bad_alloc(); }, [] {}), std::bad_alloc);
+    EXPECT_THROW(Do_both([] {}, [] { throw std::bad_alloc(); }), std::bad_alloc);
+  }
+}
+
 }  // namespace
 }  // namespace external_control
