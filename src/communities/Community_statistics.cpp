@@ -15,17 +15,46 @@ std::size_t Node_limit(const Row_array<Node_index>& coms) {
   return members.empty() ? 0 : std::size_t{*std::ranges::max_element(members)} + 1;
 }
 
+/// Communities whose nodes are numbered anew, in the same order, where they are few among many: at
+/// most k nearly all nodes are in no community, and what is kept for each node is better short.
+class Close_numbered {
+ public:
+  explicit Close_numbered(const Row_array<Node_index>& coms) {
+    constexpr std::size_t few = 16;  // so many times as many nodes
+    const Node_span members = coms.Values();
+    if (Node_limit(coms) <= few * members.size()) {
+      coms_ = Row_array<Node_index>::Looking_at(coms.Starts(), members);
+      return;
+    }
+    std::vector<Node_index> nodes(members.begin(), members.end());
+    std::sort(nodes.begin(), nodes.end());
+    nodes.erase(std::unique(nodes.begin(), nodes.end()), nodes.end());
+    numbers_.reserve(members.size());
+    for (const Node_index node : members)
+      numbers_.push_back(static_cast<Node_index>(
+          1 + (std::lower_bound(nodes.begin(), nodes.end(), node) - nodes.begin())));
+    coms_ = Row_array<Node_index>::Looking_at(coms.Starts(), numbers_);
+  }
+
+  [[nodiscard]] const Row_array<Node_index>& Coms() const { return coms_; }
+
+ private:
+  std::vector<Node_index> numbers_;
+  Row_array<Node_index> coms_;
+};
+
 }  // namespace
 
 void Prepare_community_graph(Com_graph& com_graph, const Row_array<Node_index>& coms) {
   com_graph.clear();
-  const Row_index memberships = Holders_of_nodes(coms);
+  const Close_numbered numbered(coms);
+  const Row_index memberships = Holders_of_nodes(numbered.Coms());
   std::vector<std::uint32_t> shared(coms.size(), 0);
   std::vector<std::uint32_t> met;
   for (std::uint32_t com = 0; com < coms.size(); ++com) {
     external_control::Check_inside_long_stage();
     met.clear();
-    for (const Node_index node : coms[com]) {
+    for (const Node_index node : numbered.Coms()[com]) {
       const auto holders = memberships[node];
       for (const std::uint32_t other : holders.subspan(static_cast<std::size_t>(
                std::upper_bound(holders.begin(), holders.end(), com) - holders.begin())))
@@ -65,8 +94,9 @@ void Community_statistics(Distribution& size_dist, Distribution& degree_dist,
   }
   for (const std::uint32_t degree : degrees) ++degree_dist[degree];
 
-  std::vector<std::uint32_t> memberships(Node_limit(coms), 0);
-  for (const Node_index node : coms.Values()) ++memberships[node];
+  const Close_numbered numbered(coms);
+  std::vector<std::uint32_t> memberships(Node_limit(numbered.Coms()), 0);
+  for (const Node_index node : numbered.Coms().Values()) ++memberships[node];
   std::uint32_t covered = 0;
   for (const std::uint32_t membership : memberships) {
     if (membership == 0) continue;
