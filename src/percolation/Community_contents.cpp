@@ -51,13 +51,19 @@ void Community_contents::Append(std::span<const Clique_index> com_cliques,
     return;
   }
   Collect_members(before);
-  Collect_sources(before);
+  Count_sources(before);
   result.coms.push_back(members_);
-  for (std::size_t i = 0; i < members_.size(); ++i) {
-    external_control::Check_inside_long_stage();
-    Append_links(members_[i],
-                 {sources_.data() + source_starts_[i], source_starts_[i + 1] - source_starts_[i]},
-                 before, result);
+  Rewind();
+  for (std::size_t first = 0; first < members_.size();) {
+    const std::size_t last = End_of_batch(first);
+    Collect_sources(first, last, before);
+    for (std::size_t i = first; i < last; ++i) {
+      external_control::Check_inside_long_stage();
+      const std::size_t start = source_starts_[i] - source_starts_[first];
+      const std::size_t end = source_starts_[i + 1] - source_starts_[first];
+      Append_links(members_[i], {sources_.data() + start, end - start}, before, result);
+    }
+    first = last;
   }
   result.com_links.Close_row();
   for (const Node_index member : members_) place_of_[member] = 0;
@@ -92,38 +98,66 @@ void Community_contents::Collect_members(const Communities& before) {
   for (std::uint32_t i = 0; i < members_.size(); ++i) place_of_[members_[i]] = i + 1;
 }
 
-/// Calls use(first node, source) for each source of links.
+void Community_contents::Rewind() {
+  part_at_.assign(parts_.size(), 0);
+  clique_at_.assign(new_cliques_.size(), 0);
+}
+
+/// Calls use(first node, source) for the sources of links that begin at nodes up to `last`, from
+/// where the call before has ended.
 template <typename Use>
-void Community_contents::For_each_source(const Communities& before, Use use) const {
-  for (const std::uint32_t part : parts_) {
+void Community_contents::For_each_source(Node_index last, const Communities& before, Use use) {
+  for (std::size_t part = 0; part < parts_.size(); ++part) {
     external_control::Check_inside_long_stage();
-    const std::span<const Index_pair> links = before.com_links[part];
+    const std::span<const Index_pair> links = before.com_links[parts_[part]];
     const auto offset = static_cast<std::size_t>(links.data() - before.com_links.Values().data());
-    for (std::size_t start = 0, end = 0; start < links.size(); start = end) {
+    std::size_t start = part_at_[part];
+    for (std::size_t end = start; start < links.size() && links[start].first <= last; start = end) {
       const std::size_t most_end = std::min(links.size(), start + Source::most);
       while (end < most_end && links[end].first == links[start].first) ++end;
       use(links[start].first, Source(true, offset + start, end - start));
     }
+    part_at_[part] = start;
   }
-  for (const Clique_index clique : new_cliques_) {
+  for (std::size_t clique = 0; clique < new_cliques_.size(); ++clique) {
     external_control::Check_inside_long_stage();
-    const Node_span row = cliques_[clique];
+    const Node_span row = cliques_[new_cliques_[clique]];
     const auto offset = static_cast<std::size_t>(row.data() - cliques_.Values().data());
-    for (std::size_t i = 1; i < row.size(); ++i)
-      for (std::size_t at = i; at < row.size(); at += Source::most)
-        use(row[i - 1], Source(false, offset + at, std::min(row.size() - at, Source::most)));
+    std::size_t i = clique_at_[clique];
+    for (; i + 1 < row.size() && row[i] <= last; ++i)
+      for (std::size_t at = i + 1; at < row.size(); at += Source::most)
+        use(row[i], Source(false, offset + at, std::min(row.size() - at, Source::most)));
+    clique_at_[clique] = static_cast<std::uint32_t>(i);
   }
 }
 
-void Community_contents::Collect_sources(const Communities& before) {
-  source_starts_.assign(members_.size() + 2, 0);
-  For_each_source(
-      before, [this](Node_index node, const Source&) { ++source_starts_[place_of_[node] + 1]; });
+/// Tells where the sources of each member start, if those of all stand behind each other.
+void Community_contents::Count_sources(const Communities& before) {
+  source_starts_.assign(members_.size() + 1, 0);
+  Rewind();
+  For_each_source(members_.back(), before,
+                  [this](Node_index node, const Source&) { ++source_starts_[place_of_[node]]; });
   std::partial_sum(source_starts_.begin(), source_starts_.end(), source_starts_.begin());
-  sources_.resize(source_starts_.back());
-  // Filling moves each start on to the start of the next member.
-  For_each_source(before, [this](Node_index node, const Source& source) {
-    sources_[source_starts_[place_of_[node]]++] = source;
+}
+
+/// The sources of so many members are held at a time, from the first on, that the cliques are gone
+/// through a few times at most: those of a giant community take more memory than all its cliques.
+std::size_t Community_contents::End_of_batch(std::size_t first) const {
+  constexpr std::size_t few = std::size_t{1} << 22U;
+  constexpr std::size_t most_batches = 8;
+  const std::size_t most = std::max(few, source_starts_.back() / most_batches);
+  const auto end = std::upper_bound(source_starts_.begin() + static_cast<std::ptrdiff_t>(first) + 1,
+                                    source_starts_.end(), source_starts_[first] + most);
+  return std::max(first + 1, static_cast<std::size_t>(end - source_starts_.begin()) - 1);
+}
+
+void Community_contents::Collect_sources(std::size_t first, std::size_t last,
+                                         const Communities& before) {
+  sources_.resize(source_starts_[last] - source_starts_[first]);
+  next_source_.assign(source_starts_.begin() + static_cast<std::ptrdiff_t>(first),
+                      source_starts_.begin() + static_cast<std::ptrdiff_t>(last));
+  For_each_source(members_[last - 1], before, [&](Node_index node, const Source& source) {
+    sources_[next_source_[place_of_[node] - 1 - first]++ - source_starts_[first]] = source;
   });
 }
 

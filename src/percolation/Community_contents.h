@@ -51,9 +51,12 @@ class Community_contents {
 
   void Sort_out(std::span<const Clique_index> com_cliques);
   void Collect_members(const Communities& before);
-  void Collect_sources(const Communities& before);
+  void Count_sources(const Communities& before);
+  [[nodiscard]] std::size_t End_of_batch(std::size_t first) const;
+  void Collect_sources(std::size_t first, std::size_t last, const Communities& before);
+  void Rewind();
   template <typename Use>
-  void For_each_source(const Communities& before, Use use) const;
+  void For_each_source(Node_index last, const Communities& before, Use use);
   void Append_links(Node_index member, std::span<const Source> sources, const Communities& before,
                     Communities& result);
 
@@ -64,10 +67,13 @@ class Community_contents {
   std::vector<std::uint32_t> parts_;         ///< communities taken over
   std::vector<Clique_index> new_cliques_;
   std::vector<Node_index> members_;
-  std::vector<std::uint32_t> place_of_;  ///< per node: position in members_ + 1, or 0
-  std::vector<std::uint32_t> source_starts_;
-  std::vector<Source> sources_;
-  std::vector<Node_index> met_by_;  ///< per node: the member it was last met by
+  std::vector<std::uint32_t> place_of_;   ///< per node: position in members_ + 1, or 0
+  std::vector<std::size_t> part_at_;      ///< per part: how many of its links are done with
+  std::vector<std::uint32_t> clique_at_;  ///< per new clique: how many of its nodes
+  std::vector<std::size_t> source_starts_;
+  std::vector<std::size_t> next_source_;  ///< per member of a batch: where its next one goes
+  std::vector<Source> sources_;           ///< of the members of a batch
+  std::vector<Node_index> met_by_;        ///< per node: the member it was last met by
   std::vector<Node_index> met_;
   Index_bits to_sort_;  ///< nodes
 };

@@ -203,6 +203,36 @@ TEST(Percolation, LongChains) {
 }
 
 /// Thousands of cliques of many sizes that all share the same two nodes: neighbours of the first.
+/// A chain of cliques that comes together at one k, and has more links to be merged than are held
+/// at a time, some of them from communities of the k before.
+TEST(Percolation, GiantCommunityAtOnce) {
+  constexpr Node_index length = 310500;
+  constexpr Node_index size = 15;
+  constexpr Node_index step = 1000;  // from a clique with a node more to the next
+  Clique_vector cliques;
+  std::vector<std::pair<Node_index, Node_index>> links;
+  for (Node_index node = 1; node <= length; ++node) {
+    const bool is_large = node % step == 0;
+    std::vector<Node_index> clique(is_large ? size + 1 : size);
+    std::iota(clique.begin(), clique.end(), node);
+    if (node % step != 1 || node == 1) cliques.push_back(clique);
+    for (Node_index i = 1; i < clique.size(); ++i) links.emplace_back(node, clique[i]);
+  }
+  for (Node_index node = length + 1; node + 1 < length + size; ++node)
+    for (Node_index other = node + 1; other < length + size; ++other)
+      links.emplace_back(node, other);
+
+  Percolation percolation(cliques, length, false);
+  ASSERT_EQ(percolation.At(size + 1)->size(), length / step);
+  const auto found = percolation.At(size);
+  ASSERT_EQ(found->size(), 1U);
+  EXPECT_EQ(found->coms[0].size(), length + size - 1);
+  EXPECT_TRUE(
+      std::ranges::equal(found->com_links[0], links, [](const Index_pair& a, const auto& b) {
+        return a.first == b.first && a.second == b.second;
+      }));
+}
+
 TEST(Percolation, ManyNeighboursAscend) {
   Clique_vector cliques;
   Node_index free = 3;
