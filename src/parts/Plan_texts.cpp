@@ -51,14 +51,25 @@ std::uint64_t Search_memory(const Graph_part& graph) {
          named.Node_count() * of_node;
 }
 
+/// How often cliques stand in lists if the smallest k of a part is this one.
+std::uint64_t Listed(const All_cliques& all, std::uint64_t smallest_k) {
+  std::uint64_t listed = 0;
+  for (std::uint64_t size = smallest_k; size < all.of_size.size(); ++size)
+    listed += all.of_size[size] * (size - smallest_k + 2);
+  return listed;
+}
+
 /// Graph and cliques, and what percolation has beside them: cliques as ranks, their lists, and
 /// communities with their links. With the intensity method that depends on the weights.
-std::uint64_t Levels_memory(const Graph_part& graph, const All_cliques& all) {
-  constexpr std::uint64_t of_member = 26;
-  constexpr std::uint64_t of_clique = 48;
+std::uint64_t Levels_memory(const Graph_part& graph, const All_cliques& all,
+                            const Level_group& group) {
+  constexpr std::uint64_t of_member = 10;
+  constexpr std::uint64_t of_listed = 12;
+  constexpr std::uint64_t of_clique = 56;
   constexpr std::uint64_t of_link = 48;
   return program_bytes + graph.Bytes() + all.cliques.Values().size() * of_member +
-         all.cliques.size() * of_clique + graph.Graph().links.size() * of_link;
+         Listed(all, group.to) * of_listed + all.cliques.size() * of_clique +
+         graph.Graph().links.size() * of_link;
 }
 
 std::string Threshold(bool used, double value) { return used ? Json_number(value) : "null"; }
@@ -82,13 +93,13 @@ std::string Plan_text(const Graph_part& graph) {
 }
 
 std::string Levels_text(const Graph_part& graph, const All_cliques& all) {
-  const std::uint64_t memory = Levels_memory(graph, all);
   std::string text = Head_text(graph, "largest_k", "smallest_k") + "\n";
   std::uint64_t part = 0;
   for (const Level_group& group : all.groups) {
     const bool empty = group.Is_empty();
     text += Line("levels", ++part, empty ? "-" : std::to_string(group.from),
-                 empty ? "-" : std::to_string(group.to), group.estimate, empty ? 0 : memory) +
+                 empty ? "-" : std::to_string(group.to), group.estimate,
+                 empty ? 0 : Levels_memory(graph, all, group)) +
             "\n";
   }
   return text;
