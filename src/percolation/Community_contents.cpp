@@ -26,7 +26,8 @@ Community_contents::Community_contents(const Clique_vector& cliques)
       community_of_(cliques.size(), none),
       place_of_(Behind_all(cliques.Values()), 0),
       met_by_(place_of_.size(), 0),
-      to_sort_(place_of_.size()) {}
+      to_sort_(place_of_.size()),
+      cliques_to_sort_(cliques.size()) {}
 
 void Community_contents::Note_communities(const Communities& communities) {
   for (std::uint32_t com = 0; com < communities.size(); ++com)
@@ -50,6 +51,7 @@ void Community_contents::Append(std::span<const Clique_index> com_cliques,
     result.com_links.Close_row();
     return;
   }
+  cliques_to_sort_.Sort(new_cliques_);  // as they stand in memory
   Collect_members(before);
   Count_sources(before);
   result.coms.push_back(members_);

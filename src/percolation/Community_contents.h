@@ -76,6 +76,7 @@ class Community_contents {
   std::vector<Node_index> met_by_;        ///< per node: the member it was last met by
   std::vector<Node_index> met_;
   Index_bits to_sort_;  ///< nodes
+  Index_bits cliques_to_sort_;
 };
 
 }  // namespace gns
