@@ -48,10 +48,8 @@ class Run {
       Open_results();
       Read_input(parameters_, wishes_, links);
     }
-    Write_graph(links);
-    Convert_links(graph_, links, parameters_.directed);
+    Write_and_build_graph(links);
     links.clear();
-    Build_graph(graph_);
     summary_.nodes = graph_.Node_count();
     summary_.links = graph_.links.size();
     Find_cliques(approximation_needed);
@@ -69,6 +67,15 @@ class Run {
     results_.emplace(Results_place{parameters_.output_dir, Flag_of(method_), header_},
                      wishes_.tables);
     results_->Write_params();
+  }
+
+  /// The file of the graph has names, and the graph itself numbers; both come from the links.
+  void Write_and_build_graph(const Link_map& links) {
+    const auto build = [&] {
+      Convert_links(graph_, links, parameters_.directed);
+      Build_graph(graph_);
+    };
+    external_control::Do_both([&] { Write_graph(links); }, build);
   }
 
   void Write_graph(const Link_map& links) const {
