@@ -158,7 +158,7 @@ std::string All_word_entries() {
   std::string text =
       Section("WORDS") + Paragraph(
                              "A first word in place of options asks for something else than a "
-                             "run.");
+                             "run; with `--help` behind it, what it is.");
   for (const Word& word : All_words()) {
     text.append(".SS ").append(word.word).append("\n");
     text += Paragraph(std::string("`").append(Usage_of(word)).append("`")) + ".PP\n" +

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "Program_calls.h"
 
@@ -95,6 +96,26 @@ TEST_F(ProgramWords, ExportGoesToFilesOrThroughAPipe) {
             "vorlane: 'out.csv' exists; move it away, or replace it by vorlane export --force.\n");
   EXPECT_EQ(Run({"export", "out", "--format=jsonl", "-o", "out.csv", "--force"}), 0) << err_;
   EXPECT_EQ(temp_.Read("out.csv").substr(0, 7), "{\"k\":3,");
+}
+
+/// Wherever it stands, also where arguments lack or others would be wrong.
+TEST_F(ProgramWords, HelpIsGivenBehindAWord) {
+  for (const char* const word :
+       {"summary", "which-k", "query", "tree", "diff", "export", "report", "parts", "help"}) {
+    EXPECT_EQ(Run({"help", word}), 0) << err_;
+    const std::string help = out_;
+    EXPECT_EQ(help.find(std::string("Usage: vorlane ") + word), 0U) << help;
+    for (const Words& words : std::vector<Words>{
+             {word, "--help"}, {word, "plan", "--help"}, {word, "--help", "out", "--jason"}}) {
+      EXPECT_EQ(Run(words), 0) << err_;
+      EXPECT_EQ(out_, help);
+      EXPECT_EQ(err_, "");
+    }
+  }
+  EXPECT_EQ(Run({"parts", "plan", "-i", "net", "--parts", "2", "--work", "work", "--help"}), 0);
+  EXPECT_FALSE(std::filesystem::exists(temp_.Path("work")));
+  EXPECT_EQ(Run({"query", "out", "--", "--help"}), 2) << "the name of a node";
+  EXPECT_NE(err_.find("no node '--help'"), std::string::npos) << err_;
 }
 
 TEST_F(ProgramWords, WhatIsWrongIsToldWithTheCure) {

@@ -64,7 +64,11 @@ std::optional<std::uint32_t> K_of(const Word_line& line) {
 
 Exit_code Do_word(const Word& word, const std::vector<std::string>& words) {
   try {
-    Answer_of(word)(Read_word_line(word, words), std::cout);
+    const Word_line line = Read_word_line(word, words);
+    if (line.help_asked)
+      std::cout << Help_on(word);
+    else
+      Answer_of(word)(line, std::cout);
     return Exit_code::finished;
   } catch (const vorlane::Error& failure) {
     Tell(failure.what());

@@ -28,6 +28,10 @@ Word_line Read_word_line(const Word& word, const std::vector<std::string>& words
       options_end = true;
       continue;
     }
+    if (text == "--help") {
+      line.help_asked = true;
+      return line;
+    }
     const std::string name = text.substr(0, text.find('='));
     const auto option = std::ranges::find(word.options, name, &Option::word);
     if (option == word.options.end() && word.takes_switches) {
