@@ -5,7 +5,6 @@ import java.io.IOException;
 import java.nio.charset.Charset;
 import java.nio.file.*;
 import java.util.*;
-import java.util.stream.Stream;
 import org.junit.*;
 import zumo.community.*;
 
@@ -66,12 +65,7 @@ public class BytesTest extends Fixture {
   private Map<String, String> results(String locale, String... options) throws Exception {
     String out = newDir();
     assertTrue(child(out, locale, options).out().contains("no approximation was needed"));
-    Map<String, String> contents = new TreeMap<>();
-    try (Stream<Path> files = Files.walk(Path.of(out))) {
-      for (Path file : files.filter(Files::isRegularFile).toList())
-        contents.put(file.toString().substring(out.length()), Files.readString(file, ISO_8859_1));
-    }
-    return contents;
+    return contents(out);
   }
 
   /** The Turkish one writes 0,5 and has another small I. */

@@ -2,8 +2,7 @@ import static java.nio.charset.StandardCharsets.ISO_8859_1;
 
 import java.io.IOException;
 import java.nio.file.*;
-import java.util.ArrayList;
-import java.util.List;
+import java.util.*;
 import java.util.stream.Stream;
 import org.junit.*;
 import org.junit.rules.TemporaryFolder;
@@ -36,6 +35,16 @@ public abstract class Fixture {
   /** Writes a file whose text has one character a byte. */
   String write(String name, String text) throws IOException {
     return Files.writeString(Path.of(path(name)), text, ISO_8859_1).toString();
+  }
+
+  /** The text of each file below a directory, one character a byte. */
+  static Map<String, String> contents(String dir) throws IOException {
+    Map<String, String> contents = new TreeMap<>();
+    try (Stream<Path> files = Files.walk(Path.of(dir))) {
+      for (Path file : files.filter(Files::isRegularFile).toList())
+        contents.put(file.toString().substring(dir.length()), Files.readString(file, ISO_8859_1));
+    }
+    return contents;
   }
 
   /** A triangle, and cliques of one each of any three nodes: 59049 of 30 nodes, say. */

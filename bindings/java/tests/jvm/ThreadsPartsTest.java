@@ -37,16 +37,6 @@ public class ThreadsPartsTest extends Fixture {
     return sum;
   }
 
-  private static SortedMap<String, String> contents(String directory) throws IOException {
-    SortedMap<String, String> contents = new TreeMap<>();
-    Path root = Path.of(directory);
-    try (Stream<Path> files = Files.walk(root)) {
-      for (Path file : files.filter(Files::isRegularFile).toList())
-        contents.put(root.relativize(file).toString(), Files.readString(file));
-    }
-    return contents;
-  }
-
   private void check(String linkFile, Options options, Run run) throws Exception {
     String out = path("out");
     try (Parts parts = new Parts(work())) {
