@@ -8,7 +8,7 @@ list(SORT exports)
 set(entries cliques close exactCliqueCount names next open openLinks readProgress report stop)
 list(TRANSFORM entries PREPEND "Analysis_")
 foreach(entry Find_1coms Read_1error_1message Read_1state_1report Reset_1stop_1process Stop_1at_1once
-              Stop_1process failureKind findAndLoadComs loadComs)
+              Stop_1process failureKind findAndLoadComs loadComs setJobs)
   list(APPEND entries ExternalCalls_${entry})
 endforeach()
 foreach(entry close finish gather isGathered levels levelsLeft open plan search searchLeft stop)

@@ -15,7 +15,9 @@
 #include "bindings/java/native/Native_method.h"
 #include "bindings/java/native/Translate_result.h"
 #include "control/Clique_find_ext_cont.h"
+#include "control/Run_control.h"
 #include "control/Sole_call.h"
+#include "engine/Cores_at_hand.h"
 #include "engine/Run_message.h"
 #include "engine/Run_stages.h"
 #include "files/Results_reader.h"
@@ -47,6 +49,12 @@ struct Run_arguments {
 };
 
 std::atomic<bool> going_on = false;
+
+/// Of the next run of this thread.
+unsigned& Jobs() {
+  thread_local unsigned jobs = 1;
+  return jobs;
+}
 
 /// The same for the methods of which only one at a time may go on in a process.
 template <typename Body>
@@ -112,7 +120,11 @@ std::string Message_of_work(const Run_parameters* run, const std::function<void(
 std::string Message_of_run(const Run_parameters& parameters, const Run_wishes& wishes,
                            bool& approximation_needed) {
   Run_summary summary;
-  const auto work = [&] { Run_stages(parameters, wishes, approximation_needed, summary); };
+  const unsigned jobs = std::exchange(Jobs(), 1);
+  const auto work = [&] {
+    external_control::This_control().workers = jobs > 0 ? jobs : Cores_at_hand();
+    Run_stages(parameters, wishes, approximation_needed, summary);
+  };
   std::string message = Message_of_work(&parameters, std::cref(work));
   const std::vector<File_fault> faults = File_faults();
   if (message != run_finished || faults.empty()) return message;
@@ -237,6 +249,10 @@ void Java_zumo_community_ExternalCalls_Stop_1at_1once(JNIEnv* /*env*/, jobject /
 
 void Java_zumo_community_ExternalCalls_Reset_1stop_1process(JNIEnv* /*env*/, jobject /*receiver*/) {
   gns::Reset_stop_process();
+}
+
+void Java_zumo_community_ExternalCalls_setJobs(JNIEnv* /*env*/, jclass /*type*/, jint cores) {
+  gns::Jobs() = static_cast<unsigned>(cores);
 }
 
 jstring Java_zumo_community_ExternalCalls_Read_1state_1report(JNIEnv* env, jobject /*receiver*/) {

@@ -42,6 +42,11 @@ JNIEXPORT void JNICALL Java_zumo_community_ExternalCalls_Stop_1at_1once(JNIEnv* 
 JNIEXPORT void JNICALL Java_zumo_community_ExternalCalls_Reset_1stop_1process(JNIEnv* env,
                                                                               jobject receiver);
 
+/// The next run of this thread works with so many cores, 0 for those at hand; every other run with
+/// one.
+JNIEXPORT void JNICALL Java_zumo_community_ExternalCalls_setJobs(JNIEnv* env, jclass type,
+                                                                 jint cores);
+
 /// The latest state report: of the translation, or, while that has none, of the run.
 JNIEXPORT jstring JNICALL Java_zumo_community_ExternalCalls_Read_1state_1report(JNIEnv* env,
                                                                                 jobject receiver);

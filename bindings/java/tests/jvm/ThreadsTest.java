@@ -52,6 +52,32 @@ public class ThreadsTest extends Fixture {
     assertFalse(Files.exists(Path.of(path("out/graph"))));
   }
 
+  /** Also what a run hands over, level by level, and what a stop ends. */
+  @Test
+  public void severalCoresMakeTheSameBytes() throws Exception {
+    String links = hardLinks(24);
+    String alone = path("alone");
+    String levels = told(new Run(links, alone).findAndLoad());
+    for (int jobs : new int[] {1, 4, 0}) {
+      String out = path("jobs" + jobs);
+      assertEquals(levels, told(new Run(links, out).jobs(jobs).findAndLoad()));
+      assertEquals(contents(alone), contents(out));
+    }
+    for (int wrong : new int[] {-1, 1025})
+      assertThrows(IllegalArgumentException.class, () -> new Run(links, alone).jobs(wrong));
+    ExternalCalls.Stop_process();
+    assertTrue(Run.isStop(assertThrows(VorlaneException.class,
+        new Run(links, path("stopped")).jobs(4)::find)));
+  }
+
+  private static String told(OutParams results) {
+    StringBuilder text = new StringBuilder();
+    for (int k : results.getKs())
+      for (Community community : results.getCommunities(k))
+        text.append(k).append(' ').append(community.getVertices()).append('\n');
+    return text.toString();
+  }
+
   @Test
   public void reportsAreReadWhole() throws Exception {
     AtomicBoolean over = new AtomicBoolean();

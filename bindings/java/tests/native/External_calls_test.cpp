@@ -11,6 +11,8 @@
 #include "Temp_dir.h"
 #include "bindings/java/native/Java_errors.h"
 #include "bindings/java/native/zumo_community_ExternalCalls.h"
+#include "control/Run_control.h"
+#include "engine/Cores_at_hand.h"
 
 namespace gns {
 
@@ -106,6 +108,25 @@ TEST_F(ExternalCalls, HandOverTheSameWhereArraysAreTaken) {
   EXPECT_EQ(failing.pending, "a Java error");
   EXPECT_TRUE(std::filesystem::exists(out_ + "/k=3/size_distribution"));
   EXPECT_FALSE(std::filesystem::exists(out_ + "/.unfinished"));
+}
+
+TEST_F(ExternalCalls, GiveTheNextRunItsCores) {
+  const auto cores_of_run = [&](const std::string& link_file) {
+    Fake_jvm jvm;
+    Run(find, jvm, link_file);
+    return external_control::This_control().workers;
+  };
+  const auto set = [](jint jobs) {
+    Java_zumo_community_ExternalCalls_setJobs(nullptr, nullptr, jobs);
+  };
+  set(3);
+  EXPECT_EQ(cores_of_run(links_), 3U);
+  EXPECT_EQ(cores_of_run(links_), 1U) << "it was for one run";
+  set(0);
+  EXPECT_EQ(cores_of_run(links_), Cores_at_hand());
+  set(3);
+  EXPECT_EQ(cores_of_run("nowhere"), 3U);
+  EXPECT_EQ(cores_of_run(links_), 1U) << "a failed run was one, too";
 }
 
 TEST_F(ExternalCalls, RefuseASecondCallUntilTheTranslationIsOver) {

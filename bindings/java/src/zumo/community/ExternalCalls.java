@@ -67,6 +67,12 @@ public final class ExternalCalls {
   /** Always empty: a failure is told by the exception of the call that failed. */
   public static native String Read_error_message();
 
+  /**
+   * The next run of this thread works with so many cores, 0 for those at hand; one that is told
+   * nothing works with one.
+   */
+  static native void setJobs(int cores);
+
   /** Why the last call of this thread has failed, as the place of a VorlaneException.Kind. */
   static native int failureKind();
 }

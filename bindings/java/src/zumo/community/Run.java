@@ -14,6 +14,7 @@ import java.util.concurrent.Callable;
  */
 public final class Run {
   private static final String STOPPED = "Process stopped by user.\n";
+  private static final int MOST_JOBS = 1024;
 
   private final String linkFile;
   private final String resultsDir;
@@ -24,6 +25,7 @@ public final class Run {
   private Integer singleK;
   private Double timeLimit;
   private Long memoryLimit;
+  private int jobs = 1;
 
   /** A plain run; the directory must not exist yet, or be empty. */
   public Run(String linkFile, String resultsDir) {
@@ -74,6 +76,17 @@ public final class Run {
    */
   public Run memoryLimit(long bytes) {
     memoryLimit = bytes;
+    return this;
+  }
+
+  /**
+   * Works with so many cores, 1024 at most; 0 stands for those at hand. The results don't depend on
+   * it. Each more takes about half the memory of the first one.
+   */
+  public Run jobs(int cores) {
+    if (cores < 0 || cores > MOST_JOBS)
+      throw new IllegalArgumentException("there can't be " + cores + " jobs");
+    jobs = cores;
     return this;
   }
 
@@ -173,6 +186,7 @@ public final class Run {
   }
 
   private OutParams callUnwatched(Entry entry) throws Exception {
+    ExternalCalls.setJobs(jobs);
     return entry.call(
         linkFile, resultsDir, directed,
         intensityThreshold != null, orZero(intensityThreshold),
