@@ -22,12 +22,15 @@ struct Link_options {
   bool weighted = false;
   std::optional<double> min_weight;  ///< a link at or below it is left out, each by itself
   std::optional<double> max_weight;  ///< a link at or above it is left out, each by itself
-  /// Of files: "links", "csv", "tsv", "graphml", "pajek", "matrix" or "metis"; empty: by the
+  /// Of files: "links", "csv", "tsv", "graphml", "pajek", "mtx" or "metis"; empty: by the
   /// ending.
   std::string format;
   /// Of csv and tsv: columns of the names and perhaps the weight, by name or number; empty: known
   /// ones.
   std::vector<std::string> columns;
+  /// Of runs in parts, whose results files can't hold white space in names, nor a `#` in front of
+  /// one: a character that takes its place, in UTF-8; empty: such a name is refused.
+  std::string blanks;
 };
 
 /// Nodes and links between them. Never changes, is cheap to copy, and may be used by any number of

@@ -9,6 +9,11 @@ namespace gns {
 Name_rule::Name_rule(const Input_wishes& wishes, std::string file)
     : for_files_(wishes.for_files), blanks_(wishes.blanks), file_(std::move(file)) {}
 
+bool Name_rule::Can_replace_blanks(const std::string& character) {
+  return Count_characters(character) == 1 && !Is_space(character[0]) && character != "#" &&
+         character[0] != '\0';
+}
+
 std::string_view Name_rule::Care_for(std::string_view name, const Field_place& place) {
   if (name.empty()) Refuse_field(file_, place, {"a name", name, "Each link needs two."});
   if (blanks_.empty())

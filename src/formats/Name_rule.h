@@ -16,6 +16,9 @@ class Name_rule {
  public:
   Name_rule(const Input_wishes& wishes, std::string file);
 
+  /// Whether this is a single character, and one that files can hold anywhere in a name.
+  static bool Can_replace_blanks(const std::string& character);
+
   /// The name as it is to be taken, valid as long as the rule and the name are. `where()` yields
   /// its place for a failure: Xep_wrong_line for an empty name, one that can't be held, and one
   /// that becomes equal to another by the character that is put in.

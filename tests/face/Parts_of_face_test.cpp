@@ -51,6 +51,27 @@ TEST(ThreadsParts, DoARunTogether) {
   EXPECT_TRUE(gns::Contents_of(temp.Path("out")) == gns::Contents_of(temp.Path("one")));
 }
 
+TEST(Parts, ReadAnyFormatAndNamesWithBlanks) {
+  const gns::Temp_dir temp;
+  const std::string work = temp.Path("work");
+  const std::string table = temp.Write("table", "id,to,from\n1,Ada L,b\n2,b,c\n3,c,Ada L\n");
+  Link_options how;
+  how.format = "csv";
+  how.columns = {"from", "2"};
+  const auto plan = [&] { Plan_parts(table, how, {}, temp.Path("out"), work, 1); };
+  EXPECT_EQ(Thrown_kind(plan), Error_kind::input) << "names have blanks";
+  for (const char* wrong : {" ", "#", "ab", "\xc3\xa4\xc3\xa4"}) {
+    how.blanks = wrong;
+    EXPECT_EQ(Thrown_kind(plan), Error_kind::parameters) << wrong;
+  }
+  how.blanks = "\xc3\xa4";
+  plan();
+  Search_part(work, 1);
+  Gather_parts(work);
+  Find_levels_of_part(work, 1);
+  EXPECT_TRUE(Results::Open(Finish_parts(work)).Places_of("Ada\xc3\xa4L").has_value());
+}
+
 TEST(Parts, EndByTheirControlAndTellWhatIsWrong) {
   const gns::Temp_dir temp;
   const std::string links = temp.Write("links", gns::Linked_groups(18, 3));

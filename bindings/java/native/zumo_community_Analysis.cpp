@@ -80,11 +80,11 @@ using gns::At;
 
 jlong Java_zumo_community_Analysis_open(JNIEnv* env, jclass /*type*/, jstring link_file,
                                         jboolean directed, jboolean weighted, jboolean links,
-                                        jdoubleArray numbers) {
+                                        jdoubleArray numbers, jobjectArray texts) {
   return gns::Typed_method(env, [&] {
     std::string path = gns::Needed_string(env, link_file);
     const gns::Asked asked = gns::Asked_by(env, directed != JNI_FALSE, weighted != JNI_FALSE,
-                                           links != JNI_FALSE, numbers);
+                                           links != JNI_FALSE, numbers, texts);
     return gns::Handle_of(
         std::make_unique<gns::Opened_analysis>(std::move(path), asked.how, asked.options));
   });
@@ -97,7 +97,7 @@ jlong Java_zumo_community_Analysis_openLinks(JNIEnv* env, jclass /*type*/, jint 
   return gns::Typed_method(env, [&] {
     const bool weighted = weights != nullptr;
     const gns::Asked asked =
-        gns::Asked_by(env, directed != JNI_FALSE, weighted, links != JNI_FALSE, numbers);
+        gns::Asked_by(env, directed != JNI_FALSE, weighted, links != JNI_FALSE, numbers, nullptr);
     if (count < 0)
       throw vorlane::Error(vorlane::Error_kind::parameters, "The count of nodes is negative.");
     vorlane::Network::Builder builder(static_cast<vorlane::Node>(count), asked.how);

@@ -8,11 +8,11 @@
 /// zumo/community/VorlaneException.
 extern "C" {
 
-/// `numbers` as Asked_by() takes them.
+/// `numbers` and `texts` as Asked_by() takes them.
 JNIEXPORT jlong JNICALL Java_zumo_community_Analysis_open(JNIEnv* env, jclass type,
                                                           jstring link_file, jboolean directed,
                                                           jboolean weighted, jboolean links,
-                                                          jdoubleArray numbers);
+                                                          jdoubleArray numbers, jobjectArray texts);
 /// `weights` may be null.
 JNIEXPORT jlong JNICALL Java_zumo_community_Analysis_openLinks(JNIEnv* env, jclass type, jint count,
                                                                jintArray from, jintArray to,

@@ -45,9 +45,10 @@ jlong Java_zumo_community_Parts_open(JNIEnv* env, jclass /*type*/) {
 
 void Java_zumo_community_Parts_plan(JNIEnv* env, jclass /*type*/, jlong handle, jstring work,
                                     jstring link_file, jstring results_dir, jint parts,
-                                    jboolean directed, jdoubleArray numbers) {
+                                    jboolean directed, jdoubleArray numbers, jobjectArray texts) {
   Typed_method(env, [&] {
-    const gns::Asked asked = gns::Asked_by(env, directed != JNI_FALSE, false, false, numbers);
+    const gns::Asked asked =
+        gns::Asked_by(env, directed != JNI_FALSE, false, false, numbers, texts);
     vorlane::Plan_parts(Needed_string(env, link_file), asked.how, asked.options,
                         Needed_string(env, results_dir), Needed_string(env, work),
                         gns::Number(parts), Control_at(handle));

@@ -8,11 +8,12 @@
 extern "C" {
 
 JNIEXPORT jlong JNICALL Java_zumo_community_Parts_open(JNIEnv* env, jclass type);
-/// `numbers` as Asked_by() takes them.
+/// `numbers` and `texts` as Asked_by() takes them.
 JNIEXPORT void JNICALL Java_zumo_community_Parts_plan(JNIEnv* env, jclass type, jlong handle,
                                                       jstring work, jstring link_file,
                                                       jstring results_dir, jint parts,
-                                                      jboolean directed, jdoubleArray numbers);
+                                                      jboolean directed, jdoubleArray numbers,
+                                                      jobjectArray texts);
 /// The numbers of the parts that are still to be done.
 JNIEXPORT jintArray JNICALL Java_zumo_community_Parts_searchLeft(JNIEnv* env, jclass type,
                                                                  jstring work);

@@ -124,6 +124,15 @@ class SparkTest(unittest.TestCase):
         self.assert_same(self.single(*switches), results)
         self.assertFalse((self.folder / "out.parts").exists())
 
+    def test_table_of_names_with_blanks(self):
+        with open(self.links, "w") as file:
+            print("id,to,by", *(f"{a}{b},node {a},node {b}" for a in range(9) for b in range(a)),
+                  sep="\n", file=file)
+        read = ["--format=csv", "--columns", "by,2", "--blanks", "_"]
+        code, out, log = self.end(self.find(ONE_MACHINE, "--parts", "2", *read))
+        self.assertEqual(code, 0, log[-5000:])
+        self.assert_same(self.single(*read), self.folder / "out")
+
     def test_lost_executor(self):
         self.lose_an_executor(self.folder / "out.parts")
 

@@ -5,8 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "foundation/text/Shown_text.h"
-#include "foundation/text/Text_fields.h"
+#include "formats/Name_rule.h"
 
 namespace gns {
 
@@ -36,9 +35,9 @@ std::string Take_columns(const std::string& list, Input_wishes& wishes) {
 
 std::string Take_blanks(const std::string& character, Input_wishes& wishes) {
   wishes.blanks = character;
-  const bool is_one = Count_characters(character) == 1 && !Is_space(character[0]) &&
-                      character != "#" && character[0] != '\0';
-  return is_one ? "" : "it must be a single character, and neither a blank nor '#'";
+  return Name_rule::Can_replace_blanks(character)
+             ? ""
+             : "it must be a single character, and neither a blank nor '#'";
 }
 
 struct Input_option {

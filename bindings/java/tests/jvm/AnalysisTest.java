@@ -86,6 +86,18 @@ public class AnalysisTest extends Fixture {
     }
   }
 
+  @Test
+  public void ofATableThatIsToldByOptions() throws Exception {
+    String table = write("table", "id;to;by\n7;a b;c\n8;c;d\n9;d;a b\n");
+    try (Analysis analysis =
+        new Analysis(table, new Options().format("csv").columns("by", "2"))) {
+      assertEquals(Set.of("a b", "c", "d"), Set.copyOf(analysis.next().names(0)));
+    }
+    check(Kind.PARAMETERS, "no format 'cvs'",
+        () -> new Analysis(table, new Options().format("cvs")).next());
+    assertThrows(NullPointerException.class, () -> new Options().columns("by", null));
+  }
+
   /** Two triangles with a common side; node 5 of 5 has no link. */
   @Test
   public void ofArraysAndTheirNumbers() throws Exception {

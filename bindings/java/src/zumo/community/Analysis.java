@@ -35,7 +35,7 @@ public final class Analysis implements AutoCloseable {
    */
   public Analysis(String linkFile, Options options) throws VorlaneException {
     handle = open(linkFile, options.directed, options.needWeights(), options.links,
-        options.numbers());
+        options.numbers(), options.texts());
   }
 
   /**
@@ -141,7 +141,7 @@ public final class Analysis implements AutoCloseable {
   }
 
   private static native long open(String linkFile, boolean directed, boolean weighted,
-      boolean links, double[] numbers) throws VorlaneException;
+      boolean links, double[] numbers, String[] texts) throws VorlaneException;
 
   private static native long openLinks(int count, int[] from, int[] to, double[] weights,
       boolean directed, boolean links, double[] numbers) throws VorlaneException;

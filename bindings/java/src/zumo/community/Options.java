@@ -1,5 +1,8 @@
 package zumo.community;
 
+import java.util.List;
+import java.util.stream.Stream;
+
 /** What is asked of an {@link Analysis}, and how it takes the links. */
 public final class Options {
   boolean directed;
@@ -10,6 +13,9 @@ public final class Options {
   Double timeLimit;
   Integer k;
   int jobs = 1;
+  private String format = "";
+  private String blanks = "";
+  private List<String> columns = List.of();
 
   /** Takes links, cliques and communities as directed. */
   public Options directed() {
@@ -66,6 +72,33 @@ public final class Options {
     return this;
   }
 
+  /**
+   * What the link file is: links, csv, tsv, graphml, pajek, mtx or metis. Without this its ending
+   * tells.
+   */
+  public Options format(String name) {
+    format = name;
+    return this;
+  }
+
+  /**
+   * Of csv and tsv: the columns of the two names and perhaps of the weight, by their names in the
+   * first line or by numbers from 1. Without this those that the header names, or the first three.
+   */
+  public Options columns(String... names) {
+    columns = List.of(names);
+    return this;
+  }
+
+  /**
+   * Of {@link Parts}, whose results can't hold white space in names, nor a # in front of one: a
+   * character that takes its place. Without this such a name is refused.
+   */
+  public Options blanks(String character) {
+    blanks = character;
+    return this;
+  }
+
   /** Whether links must have weights. */
   boolean needWeights() {
     return intensity != null || lowerThreshold != null || upperThreshold != null;
@@ -75,6 +108,11 @@ public final class Options {
   double[] numbers() {
     return new double[] {orNan(intensity), orNan(lowerThreshold), orNan(upperThreshold),
         orNan(timeLimit), k != null ? k : Double.NaN, jobs};
+  }
+
+  /** What is asked of a file, in an order that native code knows. */
+  String[] texts() {
+    return Stream.concat(Stream.of(format, blanks), columns.stream()).toArray(String[]::new);
   }
 
   private static double orNan(Double value) {

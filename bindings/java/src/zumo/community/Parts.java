@@ -66,7 +66,8 @@ public final class Parts implements AutoCloseable {
   public void plan(String linkFile, String resultsDir, int parts, Options options)
       throws VorlaneException {
     step(handle -> {
-      plan(handle, work, linkFile, resultsDir, parts, options.directed, options.numbers());
+      plan(handle, work, linkFile, resultsDir, parts, options.directed, options.numbers(),
+          options.texts());
       return null;
     });
   }
@@ -144,7 +145,7 @@ public final class Parts implements AutoCloseable {
   private static native long open();
 
   private static native void plan(long handle, String work, String linkFile, String resultsDir,
-      int parts, boolean directed, double[] numbers) throws VorlaneException;
+      int parts, boolean directed, double[] numbers, String[] texts) throws VorlaneException;
 
   private static native long search(long handle, String work, String elsewhere, int part)
       throws VorlaneException;

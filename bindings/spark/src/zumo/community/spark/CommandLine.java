@@ -3,6 +3,7 @@ package zumo.community.spark;
 import java.nio.file.Path;
 import java.util.Arrays;
 import java.util.Iterator;
+import java.util.List;
 import java.util.function.Function;
 import zumo.community.Options;
 
@@ -29,6 +30,11 @@ record CommandLine(String linkFile, String resultsDir, String workFolder, int pa
         --work FOLDER         where the parts meet; without it DIR.parts, which is deleted at
                               the end
         --no-shared-folder    FILE, DIR and FOLDER are on the machine of the driver only
+        --format FORMAT       what FILE is: links, csv, tsv, graphml, pajek, mtx or metis;
+                              without it told by its name
+        --columns A,B,W       of csv and tsv: the columns of a link, by name or number; the
+                              weight may lack
+        --blanks C            takes the place of blanks in names, which results can't hold
         -D                    directed links
         -I NUMBER             intensity method: lower threshold of the link weight intensity
         -w NUMBER             drop links of this weight or less
@@ -64,7 +70,7 @@ record CommandLine(String linkFile, String resultsDir, String workFolder, int pa
     int parts = DEFAULT_PARTS;
     boolean sharedFolder = true;
     Options options = new Options();
-    for (Iterator<String> rest = Arrays.asList(args).iterator(); rest.hasNext(); ) {
+    for (Iterator<String> rest = words(args).iterator(); rest.hasNext(); ) {
       String arg = rest.next();
       switch (arg) {
         case "-h", "--help" -> {
@@ -75,6 +81,9 @@ record CommandLine(String linkFile, String resultsDir, String workFolder, int pa
         case "--work" -> workFolder = value(arg, rest);
         case "--parts" -> parts = parsed(arg, rest, Integer::parseUnsignedInt);
         case "--no-shared-folder" -> sharedFolder = false;
+        case "--format" -> options.format(value(arg, rest));
+        case "--columns" -> options.columns(value(arg, rest).split(",", -1));
+        case "--blanks" -> options.blanks(value(arg, rest));
         case "-D" -> options.directed();
         case "-I" -> options.intensityThreshold(parsed(arg, rest, Double::valueOf));
         case "-w" -> options.lowerThreshold(parsed(arg, rest, Double::valueOf));
@@ -87,6 +96,13 @@ record CommandLine(String linkFile, String resultsDir, String workFolder, int pa
       throw new IllegalArgumentException(
           "A link file and a directory for the results must be given");
     return new CommandLine(linkFile, resultsDir, workFolder, parts, sharedFolder, options);
+  }
+
+  /** "--parts=8" is two words. */
+  private static List<String> words(String... args) {
+    return Arrays.stream(args)
+        .flatMap(arg -> Arrays.stream(arg.startsWith("--") ? arg.split("=", 2) : new String[] {arg}))
+        .toList();
   }
 
   private static String value(String name, Iterator<String> rest) {
