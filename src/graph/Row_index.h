@@ -38,6 +38,29 @@ class Row_index {
     list([&](Node_index node, Node_index member) { members[place[node]++] = member; });
   }
 
+  /// Builds rows of some members of others, about `count` in all, in one pass and in their order:
+  /// `choice(node)` yields for each node a test of its members.
+  template <typename Choice>
+  static Row_index Chosen_of(const Row_index& all, std::size_t count, Choice choice) {
+    Row_index chosen;
+    chosen.starts_.Reserve(all.starts_.size());
+    chosen.members_.Reserve(count + all.Longest_row());
+    for (Node_index node = 1; node <= all.Node_count(); ++node) {
+      const Node_span row = all[node];
+      const auto is_chosen = choice(node);
+      // Each is written where the next chosen one goes, and stays if it is: no branch to guess.
+      Node_index* const room = chosen.members_.Room_for(row.size());
+      std::size_t length = 0;
+      for (const Node_index member : row) {
+        room[length] = member;
+        length += is_chosen(member) ? 1 : 0;
+      }
+      chosen.members_.Grew(length);
+      chosen.starts_.push_back(chosen.members_.size());
+    }
+    return chosen;
+  }
+
   [[nodiscard]] Node_span operator[](Node_index node) const {
     return {members_.data() + starts_[node], starts_[node + 1] - starts_[node]};
   }
@@ -59,6 +82,13 @@ class Row_index {
     std::fill_n(values, count, 0);
     array.Grew(count);
     return values;
+  }
+
+  [[nodiscard]] std::size_t Longest_row() const {
+    std::size_t longest = 0;
+    for (Node_index node = 1; node <= Node_count(); ++node)
+      longest = std::max(longest, (*this)[node].size());
+    return longest;
   }
 
   Growing_array<std::size_t> starts_;  ///< row of node v: starts_[v] up to starts_[v + 1]

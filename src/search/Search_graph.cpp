@@ -7,12 +7,9 @@ namespace gns {
 Search_graph::Search_graph(const Adjacency& neighs, const Node_order& order) : neighs_(neighs) {
   std::vector<std::uint32_t> rank(order.size() + 1);
   for (std::uint32_t i = 0; i < order.size(); ++i) rank[order[i]] = i;
-  forward_ = Adjacency(neighs.Node_count(), [&](auto enter) {
-    for (Node_index node = 1; node <= neighs.Node_count(); ++node) {
-      external_control::Check_inside_long_stage();
-      for (const Node_index neigh : neighs[node])
-        if (rank[node] < rank[neigh]) enter(node, neigh);
-    }
+  forward_ = Adjacency::Chosen_of(neighs, neighs.size() / 2, [&](Node_index node) {
+    external_control::Check_inside_long_stage();
+    return [&rank, own = rank[node]](Node_index neigh) { return own < rank[neigh]; };
   });
 }
 
