@@ -28,6 +28,17 @@ work=@WORK@
 logs=@LOGS@
 cd -- "$work/slurm"
 
+# What earlier calls have submitted must have ended, or the work would be done twice. The job that
+# gathers is the one that may submit what comes next. Where nobody tells of the queue, none waits.
+touch submitted
+queued=$(squeue --noheader --user="$(id -un)" --states=PENDING,RUNNING,SUSPENDED --format=%F \
+  2>/dev/null | sort -u | grep -Fxf submitted | grep -vx "${SLURM_JOB_ID:-none}" | paste -s -d ' ' -)
+if [ "$queued" ]; then
+  echo "Nothing is submitted, as jobs of an earlier call are in the queue. Let them end, or end" \
+    "them by: scancel $queued" >&2
+  exit 1
+fi
+
 # left STEP: the numbers of its parts that are still to be done, as sbatch takes them.
 left() { "$vorlane" parts status --work "$work" --left "$1"; }
 
@@ -44,6 +55,7 @@ submit() {
   shift
   job=$(sbatch --parsable --job-name="vorlane-$step" --kill-on-invalid-dep=yes $after "$@")
   job=${job%%;*}
+  echo "$job" >>submitted
   after=--dependency=afterok:$job
   echo "$step: job $job"
 }

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -40,11 +41,14 @@ printf '[%s]' "$@" >>"$0.log"; echo >>"$0.log"; echo "$n;cluster")");
     temp_.Write("vorlane." + step, numbers + "\n");
   }
 
+  /// The jobs that are in the queue, a line each.
+  void Queue(const std::string& jobs) const { Write_program("squeue", "printf '" + jobs + "'"); }
+
   /// What submit.sh prints, and its exit code.
   [[nodiscard]] std::string Submit(const std::string& arguments = "") const {
     const std::string script = Write_slurm_scripts(Work(), temp_.Path("vorlane"));
     const std::string command = "PATH=" + temp_.Path() + ":$PATH sh " + Shell_word(script) + " " +
-                                arguments + " 2>/dev/null; echo exit $?";
+                                arguments + " 2>&1; echo exit $?";
     std::string said;
     FILE* const pipe = popen(command.c_str(), "r");
     for (int c = 0; (c = std::fgetc(pipe)) != EOF;) said += static_cast<char>(c);
@@ -96,7 +100,31 @@ TEST(SlurmScripts, SubmitNothingThatIsDone) {
   gathered.Left("finish", "");
   EXPECT_EQ(gathered.Submit(), "Nothing is left to do.\nexit 0\n");
   const Slurm_folder damaged;  // nobody knows what is left
-  EXPECT_EQ(damaged.Submit(), "exit 1\n");
+  EXPECT_TRUE(damaged.Submit().ends_with("\nexit 1\n"));
+}
+
+TEST(SlurmScripts, SubmitNothingTwice) {
+  const Slurm_folder folder;
+  folder.Left("gather", "1");
+  folder.Left("finish", "1");
+  folder.Left("search", "1-2");
+  folder.Queue("5\\n77\\n");
+  EXPECT_EQ(folder.Submit(), "search: job 7\ngather: job 8\nexit 0\n") << "others' jobs";
+  folder.Queue("5\\n7\\n7\\n8\\n");
+  EXPECT_EQ(folder.Submit(),
+            "Nothing is submitted, as jobs of an earlier call are in the queue. Let them end, or "
+            "end them by: scancel 7 8\nexit 1\n");
+  folder.Left("gather", "");
+  folder.Left("levels", "1");
+  folder.Queue("8\\n");
+  ::setenv("SLURM_JOB_ID", "8", 1);
+  EXPECT_EQ(folder.Submit(), "levels: job 9\nfinish: job 10\nexit 0\n") << "the gathering one";
+  ::setenv("SLURM_JOB_ID", "80", 1);
+  folder.Queue("10\\n");
+  EXPECT_TRUE(folder.Submit().ends_with("scancel 10\nexit 1\n")) << "from a job of another run";
+  ::unsetenv("SLURM_JOB_ID");
+  folder.Queue("");
+  EXPECT_EQ(folder.Submit(), "levels: job 11\nfinish: job 12\nexit 0\n") << "after a failure";
 }
 
 TEST(SlurmScripts, RefuseWhatSlurmTakesOtherwise) {

@@ -63,6 +63,8 @@ expect "slurm/submit.sh" \
 hold_two
 expect "search: job 1"$'\n'"gather: job 2" sh "$work/slurm/submit.sh" --time=10
 
+expect "scancel 1 2" sh "$work/slurm/submit.sh" --time=10
+
 # One is given to another node, so to speak; the other one is lost.
 wait_until 30 are_held || fail "the search doesn't begin"
 scontrol requeue 1_1
