@@ -21,7 +21,7 @@ Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix,
   Sort_dir_vtx_map(order, dir_vtx_map, "Neighs");
   const Search_graph graph(dir_vtx_map, order);
   const auto make = [&] { return std::make_unique<Directed_node_search>(graph); };
-  return Search_all(make, {dir_vtx_map.Rows(), order}, kind, limit, cliques, overlap_matrix);
+  return Search_all(make, {graph, order}, kind, limit, cliques, overlap_matrix);
 }
 
 }  // namespace

@@ -4,16 +4,6 @@
 
 namespace gns {
 
-std::uint64_t Node_work::Of(Node_index node) const {
-  const std::size_t degree = neighs_[node].size();
-  std::uint64_t candidates = 0;
-  for (const Node_index other : neighs_[node]) {
-    const std::size_t degree_of_other = neighs_[other].size();
-    if (degree_of_other > degree || (degree_of_other == degree && other > node)) ++candidates;
-  }
-  return 1 + candidates * candidates;
-}
-
 std::uint64_t Node_work::Of_range(std::size_t first, std::size_t last) const {
   std::uint64_t work = 0;
   for (std::size_t place = first; place < last; ++place) work += Of(order_[place]);

@@ -6,6 +6,7 @@
 
 #include "graph/Adjacency.h"
 #include "graph/Node_order.h"
+#include "search/Search_graph.h"
 #include "search/Search_range.h"
 
 namespace gns {
@@ -14,12 +15,15 @@ namespace gns {
 /// number of its candidates, which are its neighbours that come later.
 class Node_work {
  public:
-  /// `order` is by the number of neighbours; both must outlive the object.
-  Node_work(const Adjacency& neighs, const Node_order& order) : neighs_(neighs), order_(order) {}
+  /// `graph` was made with this order; both must outlive the object.
+  Node_work(const Search_graph& graph, const Node_order& order) : graph_(graph), order_(order) {}
 
   [[nodiscard]] const Node_order& Order() const { return order_; }
-  [[nodiscard]] const Adjacency& Neighs() const { return neighs_; }
-  [[nodiscard]] std::uint64_t Of(Node_index node) const;
+  [[nodiscard]] const Adjacency& Neighs() const { return graph_.All_neighs(); }
+  [[nodiscard]] std::uint64_t Of(Node_index node) const {
+    const std::uint64_t candidates = graph_.Forward(node).size();
+    return 1 + candidates * candidates;
+  }
   /// Of the nodes at the places from `first` up to `last` of the order.
   [[nodiscard]] std::uint64_t Of_range(std::size_t first, std::size_t last) const;
 
@@ -29,7 +33,7 @@ class Node_work {
   [[nodiscard]] std::vector<Search_range> Ranges(std::size_t count) const;
 
  private:
-  const Adjacency& neighs_;
+  const Search_graph& graph_;
   const Node_order& order_;
 };
 

@@ -30,6 +30,7 @@ class Search_graph {
 
   [[nodiscard]] Node_index Node_count() const { return neighs_.Node_count(); }
   [[nodiscard]] bool Directed() const { return !directions_.empty(); }
+  [[nodiscard]] const Adjacency& All_neighs() const { return neighs_; }
   [[nodiscard]] Node_span Neighs(Node_index node) const { return neighs_[node]; }
   /// The neighbours that come later in the node order.
   [[nodiscard]] Node_span Forward(Node_index node) const { return forward_[node]; }

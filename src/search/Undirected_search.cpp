@@ -27,7 +27,7 @@ Left_map Search(Clique_vector& cliques, Overlap_matrix& overlap_matrix, const Ve
   Sort_Vtx_map(order, vtx_map);
   const Search_graph graph(neighs, order);
   const auto make = [&] { return std::make_unique<Undirected_node_search>(graph, least_size); };
-  return Search_all(make, {neighs, order}, kind, limit, cliques, overlap_matrix);
+  return Search_all(make, {graph, order}, kind, limit, cliques, overlap_matrix);
 }
 
 }  // namespace

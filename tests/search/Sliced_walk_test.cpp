@@ -164,7 +164,8 @@ TEST(NodeWork, IsCutIntoRangesAndSlices) {
                       : literal::With_hot_node(random, random.Between(5, 60), random.Below(40)));
     Node_order order;
     Sort_Vtx_map(order, vertices);
-    const Node_work nodes(vertices.Rows(), order);
+    const Search_graph graph(vertices.Rows(), order);
+    const Node_work nodes(graph, order);
     const std::uint64_t all = nodes.Of_range(0, order.size());
     for (const std::size_t count : {1U, 2U, 7U, 64U, 1000U}) {
       const std::vector<Search_range> ranges = nodes.Ranges(count);

@@ -72,7 +72,8 @@ TEST(ThreadsWorkerSearch, ShareTheSlicesOfAHotNode) {
     const Vertex_map vertices = literal::Vertex_map_of(graph);
     Node_order order;
     Sort_Vtx_map(order, vertices);
-    const Node_work nodes(vertices.Rows(), order);
+    const Search_graph searched(vertices.Rows(), order);
+    const Node_work nodes(searched, order);
     for (const std::set<Index_pair>* const kind : {&links, decltype(&links){}}) {
       const std::vector<Set> expected = Found(1, graph, kind);
       for (const unsigned workers : {2U, 4U, 16U}) {
@@ -91,7 +92,7 @@ TEST(ThreadsWorkerSearch, RangesStandByThemselves) {
   Node_order order;
   Sort_Vtx_map(order, vertices);
   const Search_graph graph(vertices.Rows(), order);
-  const std::vector<Search_range> ranges = Node_work(vertices.Rows(), order).Ranges(7);
+  const std::vector<Search_range> ranges = Node_work(graph, order).Ranges(7);
   ASSERT_GE(ranges.size(), 6U);
   Clique_vector all;
   Clique_vector joined;
@@ -141,9 +142,10 @@ TEST(ThreadsWorkerSearch, AFailureAndAStopLeaveTheFirstCliques) {
     const external_control::Control_in_use in_use(run);
     run.workers = 3;
     Clique_vector cliques;
+    const Search_graph graph(no_links, order);
     const auto search = [&] {
       Search_on_workers([&] { return std::make_unique<Failing_search>(bad, stops); },
-                        Node_work(no_links, order), {"T", "", "sets", ""}, cliques);
+                        Node_work(graph, order), {"T", "", "sets", ""}, cliques);
     };
     EXPECT_EQ(Thrown_message<std::exception>(search),
               stops ? "Process stopped by user.\n" : "bad node");
