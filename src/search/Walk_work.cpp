@@ -46,12 +46,13 @@ std::uint64_t Walk_work(std::uint64_t candidates, std::uint64_t links) {
   constexpr std::uint64_t of_candidate = 40;
   constexpr double of_step = 32.0;
   if (candidates < candidates_with_links) return of_candidate * candidates;
-  const auto pairs = static_cast<double>(candidates * (candidates - 1) / 2);
+  const std::uint64_t pairs = candidates * (candidates - 1) / 2;
   const double usual = 2.0 * static_cast<double>(links);
-  const double cliques = Expected_cliques(candidates, static_cast<double>(links) / pairs);
+  const double cliques =
+      Expected_cliques(candidates, static_cast<double>(links) / static_cast<double>(pairs));
   const double steps = cliques > usual ? std::sqrt(cliques * usual) : cliques;
-  const auto words = static_cast<double>(candidates / word_bits + 1);
-  return static_cast<std::uint64_t>(of_step * steps * words);
+  const std::uint64_t words = candidates / word_bits + 1;
+  return static_cast<std::uint64_t>(of_step * steps * static_cast<double>(words));
 }
 
 }  // namespace gns

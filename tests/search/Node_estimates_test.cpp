@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <numeric>
 #include <vector>
 
 #include "Literal_search.h"
@@ -57,6 +58,26 @@ TEST(NodeEstimates, TellWalksApart) {
   EXPECT_TRUE(std::ranges::is_sorted(estimates));
   EXPECT_GT(found.back(), 50 * found.front());
   EXPECT_GT(estimates.back(), 10 * estimates.front());
+}
+
+/// All cliques of the network hold the hot node; what is behind it is covered. In a directed
+/// network that may be otherwise, as there cycles keep nodes out of cliques.
+TEST(NodeEstimates, SeeWhatAHotNodeCovers) {
+  literal::Random random(3);
+  const literal::Graph graph = literal::With_hot_node(random, 70, 50);
+  const auto share_of_hot = [](const Search_graph& searched, const Node_order& order) {
+    const std::vector<std::uint64_t> estimates = Estimates_of_nodes(searched, order);
+    const auto all = std::accumulate(estimates.begin(), estimates.end(), std::uint64_t{0});
+    const auto hot = std::ranges::find(order, Node_index{1}) - order.begin();
+    return static_cast<double>(estimates[static_cast<std::size_t>(hot)]) / static_cast<double>(all);
+  };
+  const Vertex_map vertices = literal::Vertex_map_of(graph);
+  Node_order order;
+  Sort_Vtx_map(order, vertices);
+  EXPECT_GT(share_of_hot(Search_graph(vertices.Rows(), order), order), 0.8);
+  const Dir_vertex_map directed = literal::Dir_vertex_map_of(literal::Directed(random, graph, 30),
+                                                             static_cast<Node_index>(graph.size()));
+  EXPECT_LT(share_of_hot(Search_graph(directed, order), order), 0.5);
 }
 
 }  // namespace
