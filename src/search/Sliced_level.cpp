@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 
+#include "search/Attempt.h"
 #include "search/Walk_work.h"
 
 namespace gns {
@@ -18,12 +19,13 @@ std::uint64_t Count_shared(const Bit_word* a, const Bit_word* b, std::size_t wor
 
 /// The work below a branch whose candidates are a row.
 double Work_below(const Local_graph& local, const std::vector<Bit_word>& candidates) {
+  const std::uint64_t count = Count_bits(candidates.data(), local.words);
   std::uint64_t ends = 0;
-  For_each_bit(candidates.data(), local.words, [&](std::size_t candidate) {
-    ends += Count_shared(candidates.data(), local.Row(candidate), local.words);
-  });
-  const std::uint64_t work = Walk_work(Count_bits(candidates.data(), local.words), ends / 2);
-  return static_cast<double>(1 + work);
+  if (count >= candidates_with_links)
+    For_each_bit(candidates.data(), local.words, [&](std::size_t candidate) {
+      ends += Count_shared(candidates.data(), local.Row(candidate), local.words);
+    });
+  return static_cast<double>(1 + Walk_work(count, ends / 2));
 }
 
 }  // namespace
@@ -40,6 +42,7 @@ Sliced_level::Sliced_level(const Local_graph& local, const Bit_word* candidates,
   std::vector<Bit_word> below(local.words);
   double work = 0.0;
   For_each_bit(branches, local.words, [&](std::size_t branch) {
+    Attempt::Check_for_stop();
     Flip_bit(left.data(), branch);
     for (std::size_t w = 0; w < local.words; ++w) below[w] = left[w] & local.Row(branch)[w];
     branches_.push_back({branch, work += Work_below(local, below)});

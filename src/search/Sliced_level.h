@@ -32,7 +32,7 @@ class Sliced_level {
   };
 
   /// `candidates` and `branches` are rows of bits, and looked at here alone. A branch has the
-  /// candidates that it is linked to, but for the branches in front of it.
+  /// candidates that it is linked to, but for the branches in front of it. Polls.
   Sliced_level(const Local_graph& local, const Bit_word* candidates, const Bit_word* branches,
                const Slice_bounds& bounds);
 
