@@ -48,21 +48,18 @@ void Write_all_cliques(const Byte_taker& take, const Graph_part& graph,
   std::uint64_t offset = 0;
   std::vector<std::uint64_t> ends;
   if (count > 0) writer.Append(std::span<const std::uint64_t>(&offset, 1));
-  std::vector<std::size_t> sizes(1, 0);
   for (const Clique_vector* cliques : joined.Blocks()) {
     ends.clear();
     for (std::size_t i = 0; i < cliques->size(); ++i) {
-      const std::size_t size = (*cliques)[i].size();
-      ends.push_back(offset += size);
-      if (size >= sizes.size()) sizes.resize(size + 1, 0);
-      ++sizes[size];
+      ends.push_back(offset += (*cliques)[i].size());
     }
     writer.Append(std::span<const std::uint64_t>(ends));
   }
   writer.Begin_section();
   for (const Clique_vector* cliques : joined.Blocks()) writer.Append(cliques->Values());
-  writer.Add(std::span<const std::size_t>(sizes));
-  writer.Add(std::span<const Level_group>(Groups_of_levels(graph.Plan(), sizes)));
+  const Level_counts counts = Count_for_levels(joined.Blocks(), graph.Graph().links);
+  writer.Add(std::span<const std::size_t>(counts.cliques_of));
+  writer.Add(std::span<const Level_group>(Groups_of_levels(graph.Plan(), counts)));
   writer.End();
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <vector>
 
+#include "parts/Level_costs.h"
 #include "parts/Run_plan.h"
 
 namespace gns::parts {
@@ -19,8 +19,7 @@ struct Level_group {
 };
 
 /// Shares out the levels of a run, neighbours together, so that the dearest group is as cheap as
-/// can be; one for each part. `of_size[n]`: cliques of n nodes.
-std::vector<Level_group> Groups_of_levels(const Run_plan& plan,
-                                          const std::vector<std::size_t>& of_size);
+/// can be; one for each part.
+std::vector<Level_group> Groups_of_levels(const Run_plan& plan, const Level_counts& counts);
 
 }  // namespace gns::parts

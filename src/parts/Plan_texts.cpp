@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "foundation/text/Json_text.h"
+#include "parts/Level_costs.h"
 #include "vorlane/version.h"
 
 namespace gns::parts {
@@ -51,24 +52,16 @@ std::uint64_t Search_memory(const Graph_part& graph) {
          named.Node_count() * of_node;
 }
 
-/// How often cliques stand in lists if the smallest k of a part is this one.
-std::uint64_t Listed(const All_cliques& all, std::uint64_t smallest_k) {
-  std::uint64_t listed = 0;
-  for (std::uint64_t size = smallest_k; size < all.of_size.size(); ++size)
-    listed += all.of_size[size] * (size - smallest_k + 2);
-  return listed;
-}
-
 /// Graph and cliques, and what percolation has beside them: cliques as ranks, their lists, and
 /// communities with their links. With the intensity method that depends on the weights.
 std::uint64_t Levels_memory(const Graph_part& graph, const All_cliques& all,
-                            const Level_group& group) {
+                            const Level_costs& costs, const Level_group& group) {
   constexpr std::uint64_t of_member = 10;
   constexpr std::uint64_t of_listed = 12;
   constexpr std::uint64_t of_clique = 56;
   constexpr std::uint64_t of_link = 48;
   return program_bytes + graph.Bytes() + all.cliques.Values().size() * of_member +
-         Listed(all, group.to) * of_listed + all.cliques.size() * of_clique +
+         costs.Listed(group.to) * of_listed + all.cliques.size() * of_clique +
          graph.Graph().links.size() * of_link;
 }
 
@@ -93,13 +86,15 @@ std::string Plan_text(const Graph_part& graph) {
 }
 
 std::string Levels_text(const Graph_part& graph, const All_cliques& all) {
+  const std::vector<std::size_t> no_links(all.of_size.size(), 0);  // they take none in lists
+  const Level_costs costs({all.of_size, no_links});
   std::string text = Head_text(graph, "largest_k", "smallest_k") + "\n";
   std::uint64_t part = 0;
   for (const Level_group& group : all.groups) {
     const bool empty = group.Is_empty();
     text += Line("levels", ++part, empty ? "-" : std::to_string(group.from),
                  empty ? "-" : std::to_string(group.to), group.estimate,
-                 empty ? 0 : Levels_memory(graph, all, group)) +
+                 empty ? 0 : Levels_memory(graph, all, costs, group)) +
             "\n";
   }
   return text;
