@@ -20,10 +20,11 @@ def parts_of(work, word, table):
 
 
 def do_parts(work, word, table, at_once=1):
-    """Does all parts of a step, the dearest first, so many at once. For each its estimate, and what
-    it takes.
+    """Does all parts of a step that have work, the dearest first, so many at once. For each its
+    estimate, and what it takes.
     """
-    parts = sorted(parts_of(work, word, table), key=lambda part: -part[1])
+    parts = [part for part in parts_of(work, word, table) if part[1] > 0]
+    parts.sort(key=lambda part: -part[1])
     with ThreadPoolExecutor(at_once) as pool:
         usages = pool.map(lambda part: step(work, word, "--part", part[0]), parts)
         return [(estimate, usage) for (_, estimate), usage in zip(parts, usages)]

@@ -48,6 +48,15 @@ void Write_cliques(const Open_plan& plan) {
   file.Finish();
 }
 
+/// Parts that no level is left for are done with at once: nobody has to be sent for that.
+void Mark_parts_without_levels(const Open_plan& plan, const std::vector<Level_group>& groups) {
+  for (std::uint64_t part = 1; part <= groups.size(); ++part) {
+    if (!groups[part - 1].Is_empty()) continue;
+    File_aside mark(plan.Folder().Done(Step::levels, part));
+    Write_done_mark(mark, plan.Key(Step::levels, part), {});
+  }
+}
+
 }  // namespace
 
 std::uint64_t Gather(const std::string& work) {
@@ -64,6 +73,7 @@ std::uint64_t Gather(const std::string& work) {
   const Mapped_file file = Mapped_part(label);
   const All_cliques all = All_cliques_of(file.Bytes(), plan.Graph(), label, Part_check::ends);
   Write_text_aside(plan.Folder().Levels(), Levels_text(plan.Graph(), all));
+  Mark_parts_without_levels(plan, all.groups);
   Write_done_mark(mark, plan.Key(Step::gather), {Write_results(plan, all.cliques), {}});
   return all.cliques.size();
 }

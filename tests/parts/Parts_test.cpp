@@ -61,6 +61,27 @@ TEST(Parts, TellWhatASingleRunTells) {
   }
 }
 
+/// Those that no level is left for need nobody; the others do have some.
+TEST(Parts, OfTheLevelsAreThoseThatHaveSome) {
+  const Temp_dir temp;
+  Run_parameters parameters;
+  parameters.input_file = temp.Write("links", Drawn_links(20, false));
+  const Contents single = Single_run(temp, parameters);
+  parameters.output_dir = temp.Path("out");
+  const std::string work = temp.Path("work");
+  constexpr std::uint64_t parts = 40;
+  Plan(parameters, {}, work, parts);
+  for (std::uint64_t part = 1; part <= parts; ++part) Search(work, part);
+  Gather(work);
+  const std::vector<std::uint64_t> left = Left_of(Status_of(work), Step::levels);
+  ASSERT_FALSE(left.empty());
+  EXPECT_LT(left.back(), parts);
+  for (const std::uint64_t part : left) EXPECT_GT(Find_levels(work, part), 0U);
+  EXPECT_EQ(Find_levels(work, parts), 0U);
+  Finish(work);
+  EXPECT_EQ(Contents_of(parameters.output_dir), single);
+}
+
 /// Whatever is made again has the same bytes.
 TEST(Parts, AreTheSameEachTime) {
   const Temp_dir temp;

@@ -171,10 +171,14 @@ void Search(const Parts_line& line, std::ostream& out) {
 
 void Gather(const Parts_line& line, std::ostream& out) {
   const std::uint64_t count = Counted([&] { return parts::Gather(line.work); });
-  const std::uint64_t parts = With_errors(
-      vorlane::Error_kind::other, [&] { return parts::Status_of(line.work).levels.size(); });
-  out << "gathered: " << count << (count == 1 ? " clique\n" : " cliques\n")
-      << Next_commands(line, Step::levels, parts);
+  const std::vector<std::uint64_t> left = With_errors(vorlane::Error_kind::other, [&] {
+    return Left_of(parts::Status_of(line.work), Step::levels);
+  });
+  out << "gathered: " << count << (count == 1 ? " clique\n" : " cliques\n");
+  if (left.empty())
+    out << "next: " << parts::Work_folder(line.work).Command(Step::finish) << "\n";
+  else
+    out << Next_commands(line, Step::levels, left.back());  // the first parts have the levels
 }
 
 void Find_levels(const Parts_line& line, std::ostream& out) {
