@@ -36,8 +36,8 @@ void Plan(const Run_parameters& parameters, const Run_wishes& wishes, const std:
 std::uint64_t Search(const std::string& work, std::uint64_t part,
                      const std::string& elsewhere = "");
 
-/// Numbers the cliques of all parts and writes those files of the results that need no levels. Parts
-/// of the levels that nothing is left for are done then. Yields how many cliques there are.
+/// Numbers the cliques of all parts and writes those files of the results that need no levels. The
+/// parts of the levels that nothing is left for are done then. Yields how many cliques there are.
 std::uint64_t Gather(const std::string& work);
 
 /// Finds and writes the levels of a part, counted from 1. Yields how many.
