@@ -9,10 +9,10 @@
 
 namespace gns::literal {
 
-/// So many samples as a build has time for: one with sanitizers takes a quarter, which reaches the
+/// So many samples as a build has time for: one with sanitizers takes an eighth, which reaches the
 /// same code, and leaves what is found in it to plain builds.
 #ifdef VORLANE_SANITIZED
-constexpr std::uint32_t Samples(std::uint32_t count) { return count / 4; }
+constexpr std::uint32_t Samples(std::uint32_t count) { return count / 8; }
 #else
 constexpr std::uint32_t Samples(std::uint32_t count) { return count; }
 #endif
