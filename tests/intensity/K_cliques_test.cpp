@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "Literal_intensity.h"
+#include "Random_graphs.h"
 #include "Thrown_message.h"
 #include "control/Clique_find_ext_cont.h"
 #include "intensity/Hopeful_nodes.h"
@@ -119,8 +120,9 @@ TEST(Intensity, EqualsTheLiteralMethod) {
            {{-1.0, -1.0, 2.0}, {0.0, 1.5, 2.0}},
            {{-1.0, 0.0, 1.0, 2.0, infinity}, {0.0, 1.0, 1.5, infinity}}}) {
     std::mt19937 random(1);
-    for (int round = 0; round < 208; ++round) {
-      const bool large = round >= 200;
+    const std::uint32_t small = literal::Samples(200);
+    for (std::uint32_t round = 0; round < small + 8; ++round) {
+      const bool large = round >= small;
       const auto nodes = static_cast<Node_index>((large ? 8 : 3) + random() % 8);
       const Weighted_links links = Random_links(random, nodes, c.weights);
       Intensity_run run(links);
@@ -136,7 +138,7 @@ TEST(Intensity, EqualsTheLiteralMethod) {
 /// taken whole at every depth, and k-cliques share subsets that pass beside some that don't.
 TEST(Intensity, EqualsTheLiteralMethodInLargeCliques) {
   std::mt19937 random(1);
-  for (unsigned round = 0; round < 60; ++round) {
+  for (unsigned round = 0; round < literal::Samples(60); ++round) {
     std::lognormal_distribution<double> weight(0.0, round % 2 == 0 ? 0.3 : 1.0);
     Weighted_links links;
     const Node_index nodes = 10 + round % 4;
