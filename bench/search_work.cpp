@@ -48,9 +48,7 @@ int main(int argc, char** argv) {
   gns::Convert_links(network, links, parameters.directed);
   gns::Build_graph(network);
   const gns::Node_order order = gns::Order_of(network);
-  const gns::Search_graph graph = network.directed
-                                      ? gns::Search_graph(network.directed_vertices, order)
-                                      : gns::Search_graph(network.Neighs(), order);
+  const gns::Search_graph graph = gns::Search_graph_of(network, order);
   std::vector<std::int64_t> times(order.size(), INT64_MAX);
   constexpr int repetitions = 3;
   for (int i = 0; i < repetitions; ++i) {

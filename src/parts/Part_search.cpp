@@ -44,14 +44,14 @@ void Search_in_pieces(Sliced_node_search& search, const Node_work& nodes, const 
 template <typename Use>
 void With_search(const Named_graph& graph, Use use) {
   const Node_order order = Order_of(graph);
+  const Search_graph searched = Search_graph_of(graph, order);
+  const Node_work nodes(searched, order);
   if (graph.directed) {
-    const Search_graph searched(graph.directed_vertices, order);
     Directed_node_search search(searched);
-    use(search, Node_work(searched, order));
+    use(search, nodes);
   } else {
-    const Search_graph searched(graph.Neighs(), order);
     Undirected_node_search search(searched);
-    use(search, Node_work(searched, order));
+    use(search, nodes);
   }
 }
 

@@ -67,9 +67,8 @@ class Planning {
 
   void Share_out() {
     const Node_order order = Order_of(graph_);
-    const Search_graph searched = graph_.directed ? Search_graph(graph_.directed_vertices, order)
-                                                  : Search_graph(graph_.Neighs(), order);
-    const std::vector<std::uint64_t> works = Estimates_of_nodes(searched, order);
+    const std::vector<std::uint64_t> works =
+        Estimates_of_nodes(Search_graph_of(graph_, order), order);
     plan_.ranges = Ranges_of(works, plan_.Parts());
     plan_.ranges.resize(plan_.Parts(), {works.size(), works.size()});
     std::ranges::transform(plan_.ranges, plan_.estimates.begin(),

@@ -34,4 +34,9 @@ Search_graph::Search_graph(const Dir_vertex_map& dir_vtx_map, const Node_order& 
   }
 }
 
+Search_graph Search_graph_of(const Named_graph& graph, const Node_order& order) {
+  if (graph.directed) return {graph.directed_vertices, order};
+  return {graph.Neighs(), order};
+}
+
 }  // namespace gns

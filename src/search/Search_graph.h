@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "graph/Adjacency.h"
+#include "graph/Named_graph.h"
 #include "graph/Node_order.h"
 #include "graph/Vertex_map.h"
 
@@ -44,5 +45,8 @@ class Search_graph {
   Adjacency forward_;
   std::vector<Direction> directions_;  ///< of the links in forward_; empty: undirected
 };
+
+/// That of a graph of either kind, which must outlive it.
+Search_graph Search_graph_of(const Named_graph& graph, const Node_order& order);
 
 }  // namespace gns
