@@ -40,7 +40,8 @@ VORLANE_API std::uint64_t Search_part(const std::string& work, std::uint64_t par
                                       const Control& control = {},
                                       const std::string& elsewhere = "");
 
-/// Numbers all cliques and writes them; yields how many.
+/// Numbers all cliques and writes them, and is done with the parts that no level is left for.
+/// Yields how many cliques there are.
 VORLANE_API std::uint64_t Gather_parts(const std::string& work, const Control& control = {});
 
 /// Finds and writes the levels of a part; yields how many. There may be fewer levels than parts.

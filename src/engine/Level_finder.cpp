@@ -67,7 +67,7 @@ Level_finder::Level_finder(const Levels_input& input, K_range all, unsigned work
   workers_ = std::min(workers, all.largest - all.smallest + 1);
   if (workers_ > 1) workers_ = Workers_with_memory(workers_, levels_);
   fellows_.resize(workers_ - 1);
-  if (workers_ > 1) levels_.Share(all.largest);
+  if (workers_ > 1) levels_.Share(all.largest);  // it takes a while, and needs nobody yet
 }
 
 void Level_finder::Find(K_range ks, const Level_steps& steps) {

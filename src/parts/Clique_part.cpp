@@ -50,9 +50,8 @@ void Write_all_cliques(const Byte_taker& take, const Graph_part& graph,
   if (count > 0) writer.Append(std::span<const std::uint64_t>(&offset, 1));
   for (const Clique_vector* cliques : joined.Blocks()) {
     ends.clear();
-    for (std::size_t i = 0; i < cliques->size(); ++i) {
+    for (std::size_t i = 0; i < cliques->size(); ++i)
       ends.push_back(offset += (*cliques)[i].size());
-    }
     writer.Append(std::span<const std::uint64_t>(ends));
   }
   writer.Begin_section();
